@@ -1,0 +1,25 @@
+// Numbers read from text, and text made from numbers. Nothing here follows a locale.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace trabeon {
+
+/// The longest leading decimal number of a text, 0 if there is none: "1.2.3" reads 1.2, "-" reads
+/// 0. Blanks in front are skipped; sign and exponent count ("1.50E+00"); "inf", "nan" and
+/// hexadecimal read 0. A number too large for a double reads as infinity, for the caller to refuse.
+[[nodiscard]] double leadingNumber(std::string_view text);
+
+/// The number that a whole text stands for, blanks around it allowed; nothing if it is no number.
+[[nodiscard]] std::optional<double> wholeNumberText(std::string_view text);
+
+/// Plain decimal text of at most 15 significant digits, one blank in front of a value of 0 or more:
+/// " 3", " 0.386", "-1.5", " 1E+15", " 1E-05". The value must be finite.
+[[nodiscard]] std::string generatedText(double value);
+
+/// Generated number text and one blank behind it: " 3 ".
+[[nodiscard]] std::string printForm(double value);
+
+}  // namespace trabeon
