@@ -1,0 +1,234 @@
+#include "core/store/project_file.h"
+
+#include <array>
+
+#include "core/store/replacing_file.h"
+#include "core/store/rows.h"
+
+namespace trabeon {
+namespace {
+
+constexpr std::string_view warning =
+    "WARNNING! DO NOT CHANGE CAPITALISED TEXT. JUST CHANGE NUMBERS AS TEXT SERVES AS INDICATORS "
+    "FOR "
+    "THIS DATA FILE";
+constexpr std::string_view titleHeading = "TITLE";
+constexpr std::string_view jointsHeading = "JOINTS - Joint No_ Joint Type And Description";
+constexpr std::string_view membersHeading = "MEMBERS - Member No_ E_ I_ L And Description";
+constexpr std::string_view pointsHeading =
+    "LOADING - Point Load - Member No_ Distance From Left Support_ Intensity and Description";
+constexpr std::string_view udlsHeading =
+    "LOADING - UDL Load - Member No_ Distance From Left Support_ Width of Load_ Intensity w1_ "
+    "Intensity w2 and Description";
+constexpr std::string_view resultsHeading = "TRABEON RESULTS";
+constexpr std::string_view dimensionsHeading = "BEAM DIMENSIONS";
+
+void appendLine(std::string& text, std::string_view line) {
+    (text += line) += "\r\n";
+}
+
+/// Every line of a file, each with the one line end that all files have.
+std::string wholeLines(std::string_view file) {
+    std::string lines;
+    FieldReader reader(file);
+    while (!reader.atEnd())
+        appendLine(lines, reader.nextLine());
+    return lines;
+}
+
+template <class Row>
+std::string packedRows(std::string_view file) {
+    return textOf(rowsOf<Row>(file), Description::quoted);
+}
+
+/// Reads one project file from its beginning to its end; stops at the first thing that is wrong.
+class Unpacker {
+  public:
+    explicit Unpacker(std::string_view text) : reader_(text) {}
+
+    Outcome<Project> project() {
+        Project project;
+        field("the warning");
+        field("the heading \"TITLE\"");
+        project.title = {field("the project title"), field("the designer"), field("the beam name")};
+        field("the heading \"JOINTS\"");
+        project.joints = rows<JointRow>("M", "a joint row or the heading \"MEMBERS\"");
+        project.members =
+            rows<MemberRow>("L", "a member row or the heading \"LOADING - Point Load\"");
+        project.points =
+            rows<PointRow>("L", "a point load row or the heading \"LOADING - UDL Load\"");
+        project.udls = lines("T", "a distributed load row or the heading \"TRABEON RESULTS\"",
+                             UdlRow::fields.size());
+        project.balanceTable =
+            lines("BEAM", "a line of results or the heading \"BEAM DIMENSIONS\"", 0);
+        project.beamDimensions = dimensions();
+        if (wrong_)
+            return *wrong_;
+        return project;
+    }
+
+  private:
+    std::string field(std::string_view expected) {
+        if (!present(expected))
+            return {};
+        return std::string(reader_.next());
+    }
+
+    /// Row by row, each on a line of its own, up to the heading that begins with these letters.
+    template <class Row>
+    std::string rows(std::string_view heading, std::string_view expected) {
+        std::string text;
+        while (present(expected)) {
+            const int line = reader_.line();
+            Row row;
+            for (std::size_t i = 0; i < Row::fields.size() && !wrong_; ++i) {
+                row.*Row::fields[i] = reader_.next();
+                if (i == 0 && (row.*Row::fields[0]).starts_with(heading))
+                    return text;
+                const bool last = i + 1 == Row::fields.size();
+                if (reader_.lineEnded() != last)
+                    refuseRow(line, i + (last ? 2 : 1), Row::fields.size(), expected);
+            }
+            appendRow(text, row, Description::bare);
+        }
+        return text;
+    }
+
+    /// Line by line; where a line is a row it must have that many fields (0: any line will do).
+    std::string lines(std::string_view heading, std::string_view expected, std::size_t fields) {
+        std::string text;
+        while (present(expected)) {
+            const int number = reader_.line();
+            const auto line = reader_.nextLine();
+            if (line.starts_with(heading))
+                break;
+            if (fields > 0)
+                checkRow(number, line, fields, expected);
+            appendLine(text, line);
+        }
+        return text;
+    }
+
+    /// To the end of the file; the empty lines that an editor leaves there are passed over.
+    std::string dimensions() {
+        std::string text;
+        while (!wrong_ && !reader_.atEnd()) {
+            const int number = reader_.line();
+            const auto line = reader_.nextLine();
+            if (line.empty() && reader_.atEnd())
+                break;
+            checkRow(number, line, BeamDimensionRow::fields.size(), "a row of beam dimensions");
+            appendLine(text, line);
+        }
+        return text;
+    }
+
+    bool present(std::string_view expected) {
+        if (!wrong_ && reader_.atEnd())
+            refuse(reader_.line(),
+                   "the file ends where " + std::string(expected) + " was expected");
+        return !wrong_;
+    }
+
+    void checkRow(int number, std::string_view line, std::size_t wanted,
+                  std::string_view expected) {
+        FieldReader row(line);
+        std::size_t found = 0;
+        do {
+            row.next();
+            ++found;
+        } while (!row.lineEnded() && found <= wanted);
+        if (found != wanted)
+            refuseRow(number, found, wanted, expected);
+    }
+
+    void refuseRow(int line, std::size_t found, std::size_t wanted, std::string_view expected) {
+        const auto much =
+            found < wanted ? std::to_string(found) : "more than " + std::to_string(wanted);
+        refuse(line, std::string(expected) + " was expected; a row has " + std::to_string(wanted) +
+                         " fields, this line has " + much);
+    }
+
+    void refuse(int line, const std::string& what) {
+        if (!wrong_)
+            wrong_ = Refusal{"line " + std::to_string(line) + ": " + what};
+    }
+
+    FieldReader reader_;
+    Failure wrong_;
+};
+
+bool breaksAField(std::string_view title) {
+    return title.find_first_of("\"\r\n") != title.npos;
+}
+
+}  // namespace
+
+std::string packedText(const Project& project) {
+    std::string text;
+    appendLine(text, warning);
+    appendLine(text, titleHeading);
+    for (const auto& title :
+         {project.title.project, project.title.designer, project.title.beamName})
+        appendLine(text, '"' + title + '"');
+    appendLine(text, jointsHeading);
+    text += packedRows<JointRow>(project.joints);
+    appendLine(text, membersHeading);
+    text += packedRows<MemberRow>(project.members);
+    appendLine(text, pointsHeading);
+    text += packedRows<PointRow>(project.points);
+    appendLine(text, udlsHeading);
+    text += packedRows<UdlRow>(project.udls);
+    appendLine(text, resultsHeading);
+    text += wholeLines(project.balanceTable);
+    appendLine(text, dimensionsHeading);
+    text += wholeLines(project.beamDimensions);
+    return text;
+}
+
+Outcome<Project> unpackedProject(std::string_view text) {
+    return Unpacker(text).project();
+}
+
+Failure packProject(const std::filesystem::path& folder, const ProjectTitle& title,
+                    const std::filesystem::path& file) {
+    for (const auto& text : {title.project, title.designer, title.beamName})
+        if (breaksAField(text))
+            return Refusal{"The title text " + text +
+                           " holds a double quote or a line end. Take it out, then save again."};
+    const auto content = [&](std::string_view name) { return readWhole(folder / name); };
+    return replaceFile(
+        file,
+        packedText({title, content(working_file::joint), content(working_file::member),
+                    content(working_file::point), content(working_file::udl),
+                    content(working_file::balanceTable), content(working_file::beamDimensions)}));
+}
+
+Outcome<ProjectTitle> unpackProject(const std::filesystem::path& file,
+                                    const std::filesystem::path& folder) {
+    std::error_code missing;
+    if (!std::filesystem::is_regular_file(file, missing))
+        return Refusal{"\"" + file.string() +
+                       "\" is not there, or is not a file. Choose a project file (*.TB)."};
+    const auto project = unpackedProject(readWhole(file));
+    if (!project)
+        return Refusal{"\"" + file.string() +
+                       "\" is not a whole project file: " + project.refusal().sentence +
+                       ". Mend that line; the open project is unchanged."};
+    const std::array<std::pair<std::string_view, std::string_view>, 6> contents{{
+        {working_file::joint, project->joints},
+        {working_file::member, project->members},
+        {working_file::point, project->points},
+        {working_file::udl, project->udls},
+        {working_file::balanceTable, project->balanceTable},
+        {working_file::beamDimensions, project->beamDimensions},
+    }};
+    FileSet files(folder);
+    for (const auto& [name, text] : contents)
+        files.add(name).write(text);
+    if (auto failure = files.commit())
+        return *failure;
+    return project->title;
+}
+
+}  // namespace trabeon

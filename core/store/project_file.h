@@ -1,0 +1,41 @@
+// The project file, *.TB: the title and six working files packed into one text file.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "core/outcome.h"
+
+namespace trabeon {
+
+struct ProjectTitle {
+    std::string project = "Untitled";
+    std::string designer = "Annonymous";
+    std::string beamName = "Beam Name";
+};
+
+/// A project taken apart: the title, and each working file's text as opening leaves it.
+struct Project {
+    ProjectTitle title;
+    std::string joints, members, points, udls, balanceTable, beamDimensions;
+};
+
+/// The project file's text. Descriptions stand in double quotes, numbers without a blank in front.
+[[nodiscard]] std::string packedText(const Project& project);
+
+/// Takes a project file's text apart. Refuses a text that lacks a heading or ends inside a row,
+/// with the line (counting from 1) and what was expected there. Headings are known by their first
+/// letters alone, and numbers are taken as they stand. LF line ends are read as well.
+[[nodiscard]] Outcome<Project> unpackedProject(std::string_view text);
+
+/// Packs the working files of a folder. Refuses a title text that holds a double quote or a line
+/// end, and a file that cannot be written; the old file then stays as it was.
+[[nodiscard]] Failure packProject(const std::filesystem::path& folder, const ProjectTitle& title,
+                                  const std::filesystem::path& file);
+
+/// Unpacks a project file into the six working files of a folder; "BM.txt" stays as it was. The
+/// file is read and checked whole first: if it is refused, no working file changes.
+[[nodiscard]] Outcome<ProjectTitle> unpackProject(const std::filesystem::path& file,
+                                                  const std::filesystem::path& folder);
+
+}  // namespace trabeon

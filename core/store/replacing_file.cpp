@@ -1,0 +1,106 @@
+#include "core/store/replacing_file.h"
+
+#include <cerrno>
+#include <cstring>
+#include <utility>
+
+namespace trabeon {
+namespace {
+
+std::filesystem::path besides(std::filesystem::path target) {
+    return target += ".new";
+}
+
+}  // namespace
+
+ReplacingFile::ReplacingFile(std::filesystem::path target)
+    : target_(std::move(target)),
+      fresh_(besides(target_)),
+      buffer_(std::make_unique_for_overwrite<char[]>(capacity)) {
+    file_ = std::fopen(fresh_.string().c_str(), "wb");
+    opened_ = file_ != nullptr;
+    if (opened_)
+        std::setvbuf(file_, nullptr, _IONBF, 0);
+    else
+        noteError();
+}
+
+ReplacingFile::~ReplacingFile() {
+    if (committed_)
+        return;
+    if (file_ != nullptr)
+        std::fclose(file_);
+    std::error_code ignored;
+    if (opened_)
+        std::filesystem::remove(fresh_, ignored);
+}
+
+void ReplacingFile::write(std::string_view text) {
+    if (text.size() > capacity - used_)
+        flush();
+    if (text.size() > capacity) {
+        if (file_ != nullptr && std::fwrite(text.data(), 1, text.size(), file_) != text.size())
+            noteError();
+        return;
+    }
+    std::memcpy(buffer_.get() + used_, text.data(), text.size());
+    used_ += text.size();
+}
+
+void ReplacingFile::flush() {
+    if (file_ != nullptr && used_ > 0 && std::fwrite(buffer_.get(), 1, used_, file_) != used_)
+        noteError();
+    used_ = 0;
+}
+
+Failure ReplacingFile::finish() {
+    flush();
+    if (file_ != nullptr && std::fclose(std::exchange(file_, nullptr)) != 0)
+        noteError();
+    if (error_ != 0)
+        return refusal();
+    return std::nullopt;
+}
+
+Failure ReplacingFile::commit() {
+    if (auto failure = finish())
+        return failure;
+    std::error_code error;
+    std::filesystem::rename(fresh_, target_, error);
+    if (error) {
+        error_ = error.value();
+        return refusal();
+    }
+    committed_ = true;
+    return std::nullopt;
+}
+
+void ReplacingFile::noteError() {
+    if (error_ == 0)
+        error_ = errno != 0 ? errno : EIO;
+}
+
+Refusal ReplacingFile::refusal() const {
+    return {"\"" + target_.string() + "\" could not be written (" +
+            std::generic_category().message(error_) +
+            "). What stood there before is unchanged; make room or choose another folder, then try "
+            "again."};
+}
+
+Failure FileSet::commit() {
+    for (auto& file : files_)
+        if (auto failure = file.finish())
+            return failure;
+    for (auto& file : files_)
+        if (auto failure = file.commit())
+            return failure;
+    return std::nullopt;
+}
+
+Failure replaceFile(const std::filesystem::path& target, std::string_view text) {
+    ReplacingFile file(target);
+    file.write(text);
+    return file.commit();
+}
+
+}  // namespace trabeon

@@ -1,0 +1,76 @@
+// A file that takes the place of an old one whole, or not at all.
+#pragma once
+
+#include <cstdio>
+#include <deque>
+#include <filesystem>
+#include <memory>
+#include <string_view>
+
+#include "core/outcome.h"
+
+namespace trabeon {
+
+/// New content is written to "NAME.new" beside the target and renamed over it by commit(). Until
+/// then, and if anything fails or the process dies, the old file stands as it was. One that is
+/// destroyed before its commit removes what it wrote.
+class ReplacingFile {
+  public:
+    explicit ReplacingFile(std::filesystem::path target);
+    ~ReplacingFile();
+    ReplacingFile(const ReplacingFile&) = delete;
+    ReplacingFile& operator=(const ReplacingFile&) = delete;
+
+    void write(std::string_view text);
+
+    /// Room for `size` characters (at most 4096) to be written in place; advance() tells their end.
+    char* room(std::size_t size) {
+        if (capacity - used_ < size)
+            flush();
+        return buffer_.get() + used_;
+    }
+    void advance(const char* end) { used_ = static_cast<std::size_t>(end - buffer_.get()); }
+
+    /// All that was written is with the file system; a full disk shows here at the latest.
+    [[nodiscard]] Failure finish();
+
+    /// Takes the old file's place; finishes first if that is not done.
+    [[nodiscard]] Failure commit();
+
+  private:
+    static constexpr std::size_t capacity = 256 * 1024;
+
+    void flush();
+    void noteError();
+    [[nodiscard]] Refusal refusal() const;
+
+    std::filesystem::path target_;
+    std::filesystem::path fresh_;
+    std::FILE* file_ = nullptr;
+    std::unique_ptr<char[]> buffer_;
+    std::size_t used_ = 0;
+    int error_ = 0;  // errno of the first failure
+    bool opened_ = false;
+    bool committed_ = false;
+};
+
+/// New content for several files of a folder, none of which is replaced before all of it is
+/// written.
+class FileSet {
+  public:
+    explicit FileSet(std::filesystem::path folder) : folder_(std::move(folder)) {}
+
+    ReplacingFile& add(std::string_view name) { return files_.emplace_back(folder_ / name); }
+
+    /// Every file takes its place, in the order in which they were added.
+    [[nodiscard]] Failure commit();
+
+  private:
+    std::filesystem::path folder_;
+    std::deque<ReplacingFile> files_;
+};
+
+/// Replaces a file by this text in one go.
+[[nodiscard]] Failure replaceFile(const std::filesystem::path& target, std::string_view text);
+
+}  // namespace trabeon

@@ -1,0 +1,50 @@
+#include "core/store/working_files.h"
+
+#include <cstdio>
+#include <memory>
+
+#include "core/store/replacing_file.h"
+
+namespace trabeon {
+
+std::string readWhole(const std::filesystem::path& file) {
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> opened(
+        std::fopen(file.string().c_str(), "rb"), &std::fclose);
+    std::string text;
+    if (!opened)
+        return text;
+    std::setvbuf(opened.get(), nullptr, _IONBF, 0);
+    std::error_code unknown;
+    const auto size = std::filesystem::file_size(file, unknown);
+    std::size_t expected = unknown ? 0 : static_cast<std::size_t>(size);
+    for (;;) {  // a file may grow, or not know its size
+        const auto filled = text.size();
+        text.resize(filled + expected + 4096);
+        const auto got = std::fread(text.data() + filled, 1, text.size() - filled, opened.get());
+        const bool ended = filled + got < text.size();
+        text.resize(filled + got);
+        if (ended)
+            return text;
+        expected = text.size();
+    }
+}
+
+void DuplicateFile(const std::filesystem::path& Source, const std::filesystem::path& Target) {
+    std::error_code missing;
+    if (!std::filesystem::is_regular_file(Source, missing))
+        return;
+    static_cast<void>(replaceFile(Target, readWhole(Source)));
+}
+
+void MurderFile(const std::filesystem::path& file) {
+    std::error_code ignored;
+    if (!std::filesystem::is_directory(file, ignored))
+        std::filesystem::remove(file, ignored);
+}
+
+void CreateNFile(const std::filesystem::path& folder) {
+    for (const auto name : projectFiles)
+        static_cast<void>(replaceFile(folder / name, {}));
+}
+
+}  // namespace trabeon
