@@ -1,0 +1,101 @@
+#include "core/analysis/analysis.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/analysis/fixed_end_moments.h"
+#include "core/text/number_text.h"
+
+namespace trabeon {
+namespace {
+
+Failure unfit(const AnalysisSettings& settings) {
+    const auto [Divisions, places] = settings;
+    if (!(Divisions >= 1 && Divisions <= 10'000 && Divisions == std::floor(Divisions)))
+        return Refusal{"The number of sections of a span must be a whole number from 1 to 10,000."};
+    if (!(places >= 0 && places <= 12))
+        return Refusal{"The decimal places of the maximum must be a number from 0 to 12."};
+    return std::nullopt;
+}
+
+bool structureHolds(const BeamRows& rows, const MessageSink& show) {
+    bool JointError = false;
+    bool MemberError = false;
+    CheckJoint(rows.joints, JointError, show);
+    CheckMember(rows.joints.size(), rows.members.size(), MemberError, show);
+    return !JointError && !MemberError;
+}
+
+Failure tooLarge(std::size_t member) {
+    return Refusal{"Member " + std::to_string(member) +
+                   ": its loads are too large to be calculated. Use other units."};
+}
+
+Failure unfit(const std::vector<double>& FEM) {
+    for (std::size_t k = 1; k < FEM.size(); ++k)
+        if (!std::isfinite(FEM[k]))
+            return tooLarge((k + 1) / 2);
+    return std::nullopt;
+}
+
+Failure unfit(const std::vector<Station>& stations, std::size_t perSpan) {
+    for (std::size_t k = 0; k < stations.size(); ++k)
+        if (!std::isfinite(stations[k].forces.moment) || !std::isfinite(stations[k].forces.shear))
+            return tooLarge(k / perSpan + 1);
+    return std::nullopt;
+}
+
+/// The calculation from a sound structure on.
+Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
+                            const AnalysisOutputs& outputs) {
+    if (auto failure = unfit(settings))
+        return *failure;
+    auto beam = beamOf(rows.joints, rows.members);
+    if (!beam)
+        return beam.refusal();
+    const auto n = beam->members();
+    auto points = normalForm<PointLoad>(std::move(rows.points), n);
+    if (!points)
+        return points.refusal();
+    auto udls = normalForm<UdlLoad>(std::move(rows.udls), n);
+    if (!udls)
+        return udls.refusal();
+
+    const auto FEM = fixedEndMoments(*beam, *udls, *points);
+    if (auto failure = unfit(FEM))
+        return *failure;
+    auto Final = relax(*beam, FEM, outputs.tableRow, [&] { outputs.progress(50); });
+    if (!Final)
+        return Final.refusal();
+
+    SpanResults results(*udls, *points, static_cast<int>(settings.Divisions));
+    const double CorrectTo = 1 / std::pow(10, settings.places + 1);
+    auto maxima = searchMaxima(results, *beam, *Final, CorrectTo, [&](std::size_t span) {
+        outputs.progress(50 + 50 * static_cast<double>(span) / static_cast<double>(n));
+    });
+    if (auto failure = unfit(results.stations(), results.stationsPerSpan()))
+        return *failure;
+    return Analysis{std::move(*beam),  std::move(*points),     std::move(*udls),
+                    std::move(*Final), results.takeStations(), std::move(maxima)};
+}
+
+}  // namespace
+
+BeamRows readBeamRows(const std::filesystem::path& folder) {
+    return {readRows<JointRow>(folder), readRows<MemberRow>(folder), readRows<PointRow>(folder),
+            readRows<UdlRow>(folder)};
+}
+
+std::optional<Analysis> analyse(BeamRows rows, const AnalysisSettings& settings,
+                                const AnalysisOutputs& outputs) {
+    outputs.progress(0);
+    if (!structureHolds(rows, outputs.message))
+        return std::nullopt;
+    auto analysis = calculate(std::move(rows), settings, outputs);
+    if (analysis)
+        return std::move(*analysis);
+    outputs.message({analysis.refusal().sentence, 48, "Trabeon"});
+    return std::nullopt;
+}
+
+}  // namespace trabeon

@@ -1,0 +1,63 @@
+// The whole analysis of a beam as one call over values.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "core/analysis/beam.h"
+#include "core/analysis/maximum_search.h"
+#include "core/analysis/member_loads.h"
+#include "core/analysis/relaxation.h"
+#include "core/analysis/span_results.h"
+#include "core/rules/structure_rules.h"
+
+namespace trabeon {
+
+/// The input files' rows.
+struct BeamRows {
+    std::vector<JointRow> joints;
+    std::vector<MemberRow> members;
+    std::vector<PointRow> points;
+    std::vector<UdlRow> udls;
+};
+
+[[nodiscard]] BeamRows readBeamRows(const std::filesystem::path& folder);
+
+/// Divisions: equal parts of each span, a whole number from 1 to 10,000. places: 0 to 12; the
+/// search for a maximum stops at a bracket of 1 / 10^(places + 1) of the length unit.
+struct AnalysisSettings {
+    double Divisions = 10;
+    double places = 3;
+};
+
+/// What an analysis tells while it runs. `progress` gets 0, then 50 when the moments have settled,
+/// then 50 + 50 i / n when span i of n is searched.
+struct AnalysisOutputs {
+    MessageSink message;
+    TableSink tableRow = [](const TableRow&) {};
+    std::function<void(double)> progress = [](double) {};
+};
+
+/// The loads in normal form, the end moments, the stations and the maxima. The table's rows went
+/// out one by one, so that a long table needs no memory.
+struct Analysis {
+    Beam beam;
+    MemberLoads<PointLoad> points;
+    MemberLoads<UdlLoad> udls;
+    std::vector<double> Final;        // by member end, clockwise positive, from 1
+    std::vector<Station> stations;    // Divisions + 1 a span, one span behind the other
+    std::vector<SpanMaximum> maxima;  // one a span
+
+    [[nodiscard]] std::span<const Station> stationsOf(std::size_t span) const {
+        const auto perSpan = stations.size() / maxima.size();
+        return std::span(stations).subspan((span - 1) * perSpan, perSpan);
+    }
+};
+
+/// Nothing if the structure breaks a rule or a value cannot be calculated: then a message was
+/// shown.
+[[nodiscard]] std::optional<Analysis> analyse(BeamRows rows, const AnalysisSettings& settings,
+                                              const AnalysisOutputs& outputs);
+
+}  // namespace trabeon

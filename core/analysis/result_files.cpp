@@ -1,0 +1,116 @@
+#include "core/analysis/result_files.h"
+
+#include <cstring>
+
+#include "core/text/number_masks.h"
+#include "core/text/number_text.h"
+
+namespace trabeon {
+namespace {
+
+constexpr std::string_view blanks = "     ";
+
+using PutMask = char* (*)(char*, double);
+
+PutMask maskOf(TableRow::Cells kind) {
+    switch (kind) {
+        case TableRow::Cells::joints:
+            return putNineDigits;
+        case TableRow::Cells::factors:
+            return putPercent;
+        case TableRow::Cells::moments:
+            break;
+    }
+    return putSignedThreeFigures;
+}
+
+char* put(char* at, std::string_view text) {
+    std::memcpy(at, text.data(), text.size());
+    return at + text.size();
+}
+
+void writeRow(ReplacingFile& file, double x, std::string_view moment, std::string_view shear) {
+    char* at = file.room(4 * longestMask);
+    at = put(putThreeFigures(at, x), ",");
+    at = put(put(put(at, moment), ","), shear);
+    file.advance(put(at, "\r\n"));
+}
+
+void writeRow(ReplacingFile& file, const Station& station) {
+    char* at = file.room(4 * longestMask);
+    at = put(putThreeFigures(at, station.x), ",");
+    at = put(putThreeFigures(at, station.forces.moment), ",");
+    at = putThreeFigures(at, station.forces.shear);
+    file.advance(put(at, "\r\n"));
+}
+
+/// The load files in normal form, and the scratch twins that the regrouping leaves behind.
+template <class Load>
+void writeLoads(FileSet& files, const MemberLoads<Load>& loads) {
+    const auto text = textOf(loads.rows, Description::bare);
+    files.add(Load::Row::scratch).write(text);
+    files.add(Load::Row::file).write(text);
+}
+
+}  // namespace
+
+void BalanceTableWriter::write(const TableRow& row) {
+    if (begun_)
+        file_.write("\r\n");
+    begun_ = true;
+    file_.write(row.label);
+    file_.write(blanks);
+    const auto mask = maskOf(row.kind);
+    for (const double cell : row.cells) {
+        char* at = file_.room(longestMask + blanks.size());
+        file_.advance(put(mask(at, cell), blanks));
+    }
+}
+
+void writeStations(ReplacingFile& file, const Analysis& analysis) {
+    for (std::size_t span = 1; span <= analysis.beam.members(); ++span) {
+        file.write("Span" + printForm(static_cast<double>(span)) + "\r\n");
+        const auto& maximum = analysis.maxima[span - 1];
+        bool written = false;
+        for (const auto& station : analysis.stationsOf(span)) {
+            if (!written && maximum.x <= station.x) {
+                writeRow(file, maximum.x, maximum.moment, maximum.shear);
+                written = true;
+            }
+            writeRow(file, station);
+        }
+    }
+}
+
+void writeMaxima(ReplacingFile& file, const Analysis& analysis) {
+    for (std::size_t span = 1; span <= analysis.beam.members(); ++span) {
+        const auto& maximum = analysis.maxima[span - 1];
+        file.write("Span #" + printForm(static_cast<double>(span)) + "\r\n");
+        file.write(printForm(maximum.x) + ',' + maximum.moment + ',' + maximum.shear + "\r\n");
+    }
+}
+
+std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
+                                      const AnalysisSettings& settings, AnalysisOutputs outputs) {
+    FileSet files(folder);
+    std::optional<BalanceTableWriter> table;
+    outputs.tableRow = [&](const TableRow& row) {
+        if (!table)
+            table.emplace(files.add(working_file::balanceTable));
+        table->write(row);
+    };
+    auto analysis = analyse(readBeamRows(folder), settings, outputs);
+    if (!analysis)
+        return std::nullopt;
+    writeStations(files.add(working_file::stations), *analysis);
+    writeMaxima(files.add(working_file::maxima), *analysis);
+    writeLoads(files, analysis->points);
+    writeLoads(files, analysis->udls);
+    if (const auto failure = files.commit()) {
+        outputs.message({failure->sentence, 48, "Trabeon"});
+        return std::nullopt;
+    }
+    return analysis;
+}
+
+}  // namespace trabeon
