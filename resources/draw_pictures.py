@@ -282,7 +282,7 @@ def convention(name, shape, words, inside_words):
     area(sheet, shape, left, right, base)
     sheet.line([(left - 12, base), (right + 12, base)], 2)
     for x, y, sign in inside_words:
-        sheet.text(x, y, sign, 13, colour=BLUE, bold=True)
+        sheet.text(x, y, sign, 12, colour=BLUE, bold=True)
     sheet.text(120, 127, words, 17)
     sheet.save_gif(name)
 
@@ -299,9 +299,9 @@ def conventions():
     convention("BMTop", upward, "sagging drawn upward", [(120, 69, "sagging")])
     convention("BMBot", downward, "sagging drawn downward", [(120, 97, "sagging")])
     convention("SBot", lambda t: 28 * (1 - 2 * t), "left end drawn downward",
-               [(52, 91, "shear")])
+               [(49, 91, "shear")])
     convention("STop", lambda t: -28 * (1 - 2 * t), "left end drawn upward",
-               [(52, 76, "shear")])
+               [(49, 75, "shear")])
 
 
 # The icon: a beam over two spans with its moment diagram
@@ -368,6 +368,351 @@ def icon():
                                                               optimize=True)
 
 
+# The pictures of the manual
+
+def beam_parts():
+    sheet = Sheet(640, 172)
+    x = (50, 230, 410, 590)
+    y = 62
+    for k in range(3):
+        middle = (x[k] + x[k + 1]) / 2
+        sheet.text(middle, y - 40, f"member {k + 1}", 14, bold=True, colour=BLUE)
+        sheet.line([(x[k] + 6, y - 26), (x[k + 1] - 6, y - 26)], 1, BLUE)
+        sheet.head(x[k] + 6, y - 26, pi, 6, BLUE)
+        sheet.head(x[k + 1] - 6, y - 26, 0, 6, BLUE)
+        for end, at in ((2 * k + 1, x[k] + 24), (2 * k + 2, x[k + 1] - 24)):
+            sheet.ring(at, y, 11, 1.4, RED)
+            sheet.text(at, y, str(end), 13, colour=RED)
+    sheet.line([(x[0], y), (x[0] + 13, y)], 4)
+    for k in range(3):
+        sheet.line([(x[k] + 35, y), (x[k + 1] - 35, y)], 4)
+        if k:
+            sheet.line([(x[k] - 13, y), (x[k] + 13, y)], 4)
+    sheet.line([(x[3] - 13, y), (x[3], y)], 4)
+    support(sheet, x[0], y + 2, True)
+    support(sheet, x[1], y + 2)
+    support(sheet, x[2], y + 2)
+    at = y - 22
+    while at < y + 24:
+        sheet.line([(x[3] + 2, at), (x[3] + 10, at - 7)], 1.2, GREY)
+        at += 7
+    sheet.line([(x[3], y - 26), (x[3], y + 26)], 3)
+    names = ("Pin Jointed", "Continuous", "Continuous", "Fixed")
+    for k in range(4):
+        sheet.text(x[k], y + 46, f"joint {k + 1}", 14, bold=True)
+        sheet.text(x[k], y + 64, names[k], 12, colour=GREY)
+    sheet.text(320, 158, "circled: member ends 1 to 6, one column of the table each", 13, colour=RED)
+    sheet.save_png("beam-parts")
+
+
+def loads():
+    sheet = Sheet(640, 190)
+    for left, right in ((40, 290), (350, 600)):
+        sheet.line([(left, 86), (right, 86)], 4)
+        support(sheet, left, 88)
+        support(sheet, right, 88)
+        sheet.dimension(left, right, 158, "L")
+    sheet.arrow((190, 26), (190, 82), 2.5, RED, 10)
+    sheet.text(203, 36, "P", 15, "lm", True, RED)
+    sheet.dashes((190, 90), (190, 130))
+    sheet.dimension(40, 190, 120, "a")
+    sheet.text(40, 12, "point load", 13, "lm", True)
+    spread(sheet, 410, 550, 83, 26, 50, pitch=14)
+    sheet.text(404, 62, "w1", 14, "rm", True, RED)
+    sheet.text(557, 40, "w2", 14, "lm", True, RED)
+    for at in (410, 550):
+        sheet.dashes((at, 90), (at, 130))
+    sheet.dimension(350, 410, 120, "a")
+    sheet.dimension(410, 550, 120, "b")
+    sheet.text(350, 12, "distributed load", 13, "lm", True)
+    sheet.save_png("loads")
+
+
+def cantilevers():
+    sheet = Sheet(640, 150)
+    sheet.text(40, 12, "cantilever at the left end", 13, "lm", True)
+    beam(sheet, 40, 290, 66, 8, "R")
+    support(sheet, 210, 70)
+    sheet.arrow((96, 20), (96, 61), 2.5, RED, 10)
+    sheet.dimension(40, 96, 106, "a")
+    sheet.dimension(40, 210, 132, "L")
+    sheet.dashes((40, 72), (40, 138))
+    sheet.dashes((96, 72), (96, 112))
+    sheet.dashes((210, 90), (210, 138))
+    sheet.text(70, 50, "free", 12, colour=GREY)
+    sheet.text(350, 12, "cantilever at the right end", 13, "lm", True)
+    beam(sheet, 350, 600, 66, 8, "L")
+    support(sheet, 430, 70)
+    sheet.arrow((540, 20), (540, 61), 2.5, RED, 10)
+    sheet.dimension(430, 540, 106, "a")
+    sheet.dimension(430, 600, 132, "L")
+    sheet.dashes((430, 90), (430, 138))
+    sheet.dashes((540, 72), (540, 112))
+    sheet.dashes((600, 72), (600, 138))
+    sheet.text(572, 50, "free", 12, colour=GREY)
+    sheet.save_png("cantilevers")
+
+
+def sign_relaxation():
+    sheet = Sheet(640, 150)
+    sheet.text(20, 12, "in the balance table", 13, "lm", True)
+    left, right, y = 120, 400, 78
+    spread(sheet, left, right, y - 5, 24, pitch=20)
+    sheet.line([(left, y), (right, y)], 5)
+    sheet.turn(left, y, 32, 110, 250, 2.4)
+    sheet.turn(right, y, 32, -70, 70, 2.4)
+    sheet.text(70, y, "+ M", 16, "rm", True, BLUE)
+    sheet.text(450, y, "+ M", 16, "lm", True, BLUE)
+    sheet.text((left + right) / 2, y + 26, "+ load: downward", 13, colour=RED)
+    sheet.text(495, y - 10, "clockwise on the", 13, "lm")
+    sheet.text(495, y + 8, "member end: positive", 13, "lm")
+    sheet.text((left + right) / 2, 132,
+               "a downward load gives a negative left end and a positive right end", 12, "mm",
+               colour=GREY)
+    sheet.save_png("sign-relaxation")
+
+
+def sign_results():
+    sheet = Sheet(640, 190)
+    sheet.text(20, 12, "in the stations, the value tables and the design", 13, "lm", True)
+
+    def bent(x1, x2, y, rise, words, colour):
+        middle = (x1 + x2) / 2
+
+        def shape(t):
+            return y - rise + rise * 4 * t * (1 - t) * 1.0
+
+        for shift in (-5, 5):
+            curve(sheet, lambda t, s=shift: shape(t) + s, x1, x2, 2, INK)
+        for end in (x1, x2):
+            sheet.line([(end, shape(0) - 6), (end, shape(0) + 6)], 2)
+        at = shape(0)
+        if rise > 0:
+            sheet.turn(x1, at, 22, 110, 250, 2.2, colour)
+            sheet.turn(x2, at, 22, 70, -70, 2.2, colour)
+        else:
+            sheet.turn(x1, at, 22, 250, 110, 2.2, colour)
+            sheet.turn(x2, at, 22, -70, 70, 2.2, colour)
+        sheet.text(middle, 104, words, 13, colour=colour, bold=True)
+
+    bent(50, 190, 72, 16, "sagging: positive", BLUE)
+    bent(260, 400, 56, -16, "hogging: negative", RED)
+    sheet.text(120, 122, "tension below", 12, colour=GREY)
+    sheet.text(330, 122, "tension above", 12, colour=GREY)
+
+    left, right, y = 470, 610, 62
+    spread(sheet, left, 560, y - 4, 20, pitch=18)
+    sheet.box(left, y - 4, 560, y + 4, PALE)
+    sheet.line([(left, y - 4), (560, y - 4)], 2)
+    sheet.line([(left, y + 4), (560, y + 4)], 2)
+    sheet.dashes((560, y - 34), (560, y + 34), 1.2, INK)
+    sheet.text(576, y, "section", 12, "lm", colour=GREY)
+    sheet.arrow((left, y + 36), (left, y + 8), 2.2, BLUE, 9)
+    sheet.text(left + 10, y + 27, "R", 14, "lm", True, BLUE)
+    sheet.text((left + 600) / 2, 112, "shear = load left of the", 13, bold=True)
+    sheet.text((left + 600) / 2, 129, "section minus R", 13, bold=True)
+    sheet.text(320, 162, "The shear is negative at the left end of a loaded span and positive at "
+               "its right end;", 13, colour=GREY)
+    sheet.text(320, 179, "the moment has its peak where the shear is zero.", 13, colour=GREY)
+    sheet.save_png("sign-results")
+
+
+def data_flow():
+    sheet = Sheet(640, 250)
+
+    def block(x, y, width, height, title, lines, colour=BLUE, inside=SKY):
+        sheet.box(x, y, x + width, y + height, colour)
+        sheet.box(x + 1.5, y + 1.5, x + width - 1.5, y + height - 1.5, inside)
+        sheet.text(x + width / 2, y + 15, title, 13, bold=True, colour=colour)
+        for k, words in enumerate(lines):
+            sheet.text(x + width / 2, y + 34 + 17 * k, words, 12)
+
+    block(14, 14, 150, 112, "Input windows", ("Joints", "Members", "Point Load", "Distributed Load"))
+    block(245, 14, 150, 112, "Working files", ("Joint.txt  Member.txt", "Point.txt  Udl.txt",
+                                              "TB.txt  BM.txt", "BeamDim.txt"), INK, PALE)
+    block(476, 14, 150, 112, "Result windows", ("balance table", "diagrams", "value tables",
+                                               "beam design"))
+    block(245, 184, 150, 52, "Analyse, Design", ("the calculations",), RED, ROSE)
+    block(14, 184, 150, 52, "Project file", ("one file, *.TB",), INK, PALE)
+    sheet.arrow((168, 56), (241, 56), 2, INK, 9)
+    sheet.text(204, 43, "Add", 12)
+    sheet.text(204, 70, "Remove", 12)
+    sheet.arrow((399, 62), (472, 62), 2, INK, 9)
+    sheet.text(435, 49, "on opening", 12)
+    sheet.arrow((305, 130), (305, 180), 2, INK, 9)
+    sheet.arrow((335, 180), (335, 130), 2, INK, 9)
+    sheet.text(344, 155, "results", 12, "lm")
+    sheet.text(297, 155, "input", 12, "rm")
+    sheet.line([(241, 112), (204, 112), (204, 200)], 2)
+    sheet.arrow((204, 200), (168, 200), 2, INK, 9)
+    sheet.text(196, 155, "Save", 12, "rm")
+    sheet.line([(164, 222), (222, 222), (222, 122)], 2)
+    sheet.arrow((222, 122), (241, 122), 2, INK, 9)
+    sheet.text(229, 155, "Open", 12, "lm")
+    sheet.save_png("data-flow")
+
+
+def stations():
+    """The search for the maximum in the first span of the worked example."""
+    sheet = Sheet(640, 216)
+    left, right, base, lift = 60, 580, 96, 1.45
+
+    def at(x):
+        return left + (right - left) * x / 6
+
+    def shear(x):
+        return 12 * x - 27
+
+    def y(x):
+        return base - lift * shear(x)
+
+    sheet.fill([(at(0), base), (at(0), y(0)), (at(2.25), base)], SKY)
+    sheet.fill([(at(2.25), base), (at(6), y(6)), (at(6), base)], SKY)
+    sheet.box(at(1.8), 56, at(2.4), 136, ROSE)
+    sheet.line([(at(0), y(0)), (at(6), y(6))], 2, BLUE)
+    sheet.line([(at(0), base), (at(6), base)], 2)
+    for k in range(11):
+        x = 0.6 * k
+        sheet.line([(at(x), base - 5), (at(x), base + 5)], 1.2)
+        sheet.disc(at(x), y(x), 3.4, BLUE)
+        enclosing = k in (3, 4)
+        sheet.text(at(x), base + (18 if k > 3 else -16), f"{x:.1f}", 12, bold=enclosing,
+                   colour=INK if enclosing else GREY)
+    for x, colour in ((2.1, RED), (2.25, RED)):
+        sheet.disc(at(x), y(x), 3.4, colour)
+    sheet.dashes((at(2.1), y(2.1)), (at(2.1), 166), 1, RED)
+    sheet.dashes((at(2.25), y(2.25)), (at(2.25), 182), 1, RED)
+    sheet.text(at(2.1) - 5, 166, "first midpoint 2.1: the position kept", 12, "rm", colour=RED)
+    sheet.text(at(2.25) + 5, 182, "second midpoint 2.25: shear 0, its moment is kept", 12, "lm",
+               colour=RED)
+    sheet.text(at(0), 14, "shear along span 1, with its eleven stations", 13, "lm", True)
+    sheet.text(at(2.1), 204, "the stations 1.8 and 2.4 enclose the first change of sign", 12,
+               colour=GREY)
+    sheet.save_png("stations")
+
+
+# The worked example: two spans of 6 m, 12 kN/m, M = 27 x - 6 x x in span 1
+
+def example_moment(x):
+    return 27 * x - 6 * x * x if x <= 6 else -54 + 45 * (x - 6) - 6 * (x - 6) ** 2
+
+
+def example_shear(x, right_of_support=False):
+    second = x > 6 or (x == 6 and right_of_support)
+    return 12 * (x - 6) - 45 if second else 12 * x - 27
+
+
+def example_x(x):
+    return 60 + 520 * x / 12
+
+
+def example_supports(sheet, y):
+    for x in (0, 6, 12):
+        support(sheet, example_x(x), y, x != 6)
+
+
+def example_beam():
+    sheet = Sheet(640, 160)
+    spread(sheet, example_x(0), example_x(12), 62, 26, pitch=20)
+    sheet.text(example_x(6), 18, "12 kN/m", 14, bold=True, colour=RED)
+    sheet.line([(example_x(0), 65), (example_x(12), 65)], 5)
+    example_supports(sheet, 67)
+    for k, words in enumerate(("joint 1", "joint 2", "joint 3")):
+        sheet.text(example_x(6 * k), 96, words, 13, bold=True)
+    for k in (0, 1):
+        sheet.text(example_x(3 + 6 * k), 84, f"member {k + 1}", 13, colour=BLUE, bold=True)
+        sheet.dimension(example_x(6 * k), example_x(6 * k + 6), 128, "6 m", size=13)
+    sheet.save_png("example-beam")
+
+
+def example_panel(sheet, top, title, points, factor, lift, values):
+    """One diagram of the example: `factor` is that of the option, values are (x, value, text)."""
+    base = top + (96 if factor * lift < 0 else 84)
+    big = [(example_x(x), base - factor * lift * v) for x, v in points]
+    sheet.fill([(example_x(0), base)] + big + [(example_x(12), base)], SKY)
+    sheet.line(big, 2, BLUE)
+    sheet.line([(example_x(0) - 16, base), (example_x(12) + 16, base)], 2)
+    for x in (0, 6, 12):
+        sheet.line([(example_x(x), base - 4), (example_x(x), base + 4)], 1.5)
+    sheet.text(20, top + 12, title, 14, "lm", True)
+    for x, value, words, dx, dy, anchor in values:
+        y = base - factor * lift * value
+        sheet.disc(example_x(x), y, 3, BLUE)
+        sheet.text(example_x(x) + dx, y + dy, words, 13, anchor, colour=INK)
+
+
+def example_diagrams():
+    points = [(12 * k / 240, example_moment(12 * k / 240)) for k in range(241)]
+    sheet = Sheet(640, 372)
+    for top, title, factor in ((0, "Option B: sagging drawn downward", -1),
+                               (186, "Option A: sagging drawn upward", 1)):
+        below = 13 if factor < 0 else -13
+        values = [(2.25, 30.375, "30.4 at 2.25", 0, below, "mm"),
+                  (9.75, 30.375, "30.4 at 3.75 of span 2", 0, below, "mm"),
+                  (6, -54, "54 hogging", 10, 0, "lm")]
+        example_panel(sheet, top, title, points, factor, 1.3, values)
+    sheet.save_png("bmd-two-span")
+
+    points = [(0, 0), (0, -27), (6, 45), (6, -45), (12, 27), (12, 0)]
+    sheet = Sheet(640, 372)
+    for top, title, factor in ((0, "Option B: left end drawn upward", -1),
+                               (186, "Option A: left end drawn downward", 1)):
+        values = [(0, -27, "27", 8, -8 * -factor, "lm"), (6, 45, "45", 8, 0, "lm"),
+                  (6, -45, "45", -8, 0, "rm"), (12, 27, "27", -8, -8 * factor, "rm")]
+        example_panel(sheet, top, title, points, factor, 1.5, values)
+    sheet.save_png("sfd-two-span")
+
+
+def section(sheet, x, title, top_bars, bottom_bars, words):
+    """A section of 225 x 400 mm, half a pixel to the millimetre, bars as (count, size)."""
+    scale, top = 0.5, 40
+    width, depth = 225 * scale, 400 * scale
+    sheet.text(x + width / 2, 16, title, 14, bold=True)
+    sheet.box(x, top, x + width, top + depth, INK)
+    sheet.box(x + 2, top + 2, x + width - 2, top + depth - 2, PALE)
+    cover, link = 25 * scale, 10 * scale
+    inset = cover + link / 2
+    sheet.line([(x + inset, top + inset), (x + width - inset, top + inset),
+                (x + width - inset, top + depth - inset), (x + inset, top + depth - inset),
+                (x + inset, top + inset - 1)], 2.5, BLUE)
+    for (count, size), y, face in ((top_bars, top + 47.5 * scale, "top"),
+                                   (bottom_bars, top + depth - 47.5 * scale, "bottom")):
+        radius = size * scale / 2
+        first = x + cover + link + radius
+        last = x + width - cover - link - radius
+        for k in range(count):
+            sheet.disc(first + (last - first) * k / (count - 1), y, max(radius, 3), RED)
+        sheet.line([(x + width + 4, y), (x + width + 20, y)], 1, GREY)
+        sheet.text(x + width + 25, y, f"{count}Y{size} {face}", 13, "lm")
+    sheet.text(x + width + 25, top + depth / 2, words, 13, "lm", colour=BLUE)
+    sheet.dimension(x, x + width, top + depth + 14, "225")
+
+
+def example_sections():
+    sheet = Sheet(640, 278)
+    section(sheet, 50, "over the support", (2, 20), (2, 12), "1R6-136")
+    section(sheet, 360, "in the span, at the maximum", (2, 12), (2, 16), "1R6-136")
+    sheet.line([(34, 40), (34, 240)], 1, GREY)
+    for y, angle in ((40, -pi / 2), (240, pi / 2)):
+        sheet.line([(30, y), (38, y)], 1, GREY)
+        sheet.head(34, y, angle, 6, GREY)
+    sheet.text(18, 140, "400", 12, colour=GREY)
+    sheet.save_png("example-sections")
+
+
+def manual():
+    beam_parts()
+    loads()
+    cantilevers()
+    sign_relaxation()
+    sign_results()
+    data_flow()
+    stations()
+    example_beam()
+    example_diagrams()
+    example_sections()
+
+
 def main():
     PICTURES.mkdir(exist_ok=True)
     HELP.mkdir(exist_ok=True)
@@ -377,6 +722,7 @@ def main():
     joint_fixed()
     conventions()
     icon()
+    manual()
 
 
 if __name__ == "__main__":
