@@ -70,7 +70,7 @@ std::optional<Analysis> analysed(const fs::path& folder, const AnalysisSettings&
 Exit analyseCommand(const CommandLine& line) {
     const auto settings = settingsOf(line);
     if (!settings) {
-        complain(settings.refusal().sentence);
+        complain("trabeon-batch: " + settings.refusal().sentence);
         return Exit::usage;
     }
     std::error_code error;
@@ -127,7 +127,7 @@ void show(const ProjectTitle& title, const Analysis& analysis, const fs::path& f
 Exit runCommand(const CommandLine& line) {
     const auto settings = settingsOf(line);
     if (!settings) {
-        complain(settings.refusal().sentence);
+        complain("trabeon-batch: " + settings.refusal().sentence);
         return Exit::usage;
     }
     const auto& file = line.operands[0];
