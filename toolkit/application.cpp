@@ -1,6 +1,7 @@
 #include "toolkit/application.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <clocale>
 
 #include "toolkit/look.h"
@@ -17,6 +18,10 @@ Application::Application(int& argc, char** argv)
 }
 
 Application::~Application() = default;
+
+void Application::SetIcon(const std::string& path) {
+    QApplication::setWindowIcon(QIcon(QString::fromStdString(path)));
+}
 
 int Application::Run() {
     return QApplication::exec();

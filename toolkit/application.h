@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 class QApplication;
 
@@ -15,6 +16,8 @@ class Application {
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;
 
+    // The picture in the corner of every window.
+    static void SetIcon(const std::string& path);
     // Handles events until Outside::End or until the last window has closed.
     int Run();
     // Lets the windows repaint and answer in the middle of a long handler.

@@ -68,17 +68,17 @@ void Graph::SetDrawAction(DrawActions action) {
 
 void Graph::SetValueFactor(double factor) {
     Inner().factor = factor;
-    Inner().replot(QCustomPlot::rpQueuedReplot);
+    Inner().Refresh();
 }
 
 void Graph::SetMarks(std::vector<GraphMark> marks) {
     Inner().marks = std::move(marks);
-    Inner().replot(QCustomPlot::rpQueuedReplot);
+    Inner().Refresh();
 }
 
 void Graph::SetNote(const std::string& note) {
     Inner().note->setText(QString::fromStdString(note));
-    Inner().replot(QCustomPlot::rpQueuedReplot);
+    Inner().Refresh();
 }
 
 QImage Graph::Picture() const {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "toolkit/look.h"
+
 namespace trabeon {
 
 namespace {
@@ -13,8 +15,15 @@ const QColor Ink(0x1a1a1a);
 const QColor Faint(0x6b7580);
 const QColor Curve(0x0a64ad);
 
+// Four significant digits, and all of those before the point while they are few.
+QString ShortNumber(double value) {
+    const double size = std::abs(value);
+    return size >= 1e3 && size < 1e6 ? QString::number(value, 'f', 0)
+                                     : QString::number(value + 0.0, 'g', 4);
+}
+
 QString LabelText(double value, double x) {
-    return QString("%1 at %2").arg(NumberOnAxis(value), NumberOnAxis(x));
+    return QString("%1 at %2").arg(ShortNumber(value), ShortNumber(x));
 }
 
 void SetPixel(QCPItemText& item, const QPointF& at) {
@@ -50,8 +59,8 @@ void Graph::Plot::MakeCurve() {
     xAxis->setSubTicks(false);
     yAxis->setSubTicks(false);
     for (QCPAxis* axis : {xAxis, yAxis, xAxis2}) {
-        axis->setTickLabelFont(QFont("Liberation Sans", 8));
-        axis->setLabelFont(QFont("Liberation Sans", 9));
+        axis->setTickLabelFont(FontNamed("Arial", 8, false));
+        axis->setLabelFont(FontNamed("Arial", 9, false));
         axis->setTickLabelColor(Ink);
         axis->setLabelColor(Ink);
         axis->setBasePen(QPen(Faint));
@@ -65,6 +74,7 @@ void Graph::Plot::MakeCurve() {
     xAxis2->setSubTicks(false);
     xAxis2->setTickLabelColor(Faint);
     xAxis2->setBasePen(Qt::NoPen);
+    xAxis2->grid()->setVisible(true);
     xAxis2->grid()->setPen(QPen(QColor(0xb4bdc6), 1, Qt::DashLine));
     connect(xAxis, QOverload<const QCPRange&>::of(&QCPAxis::rangeChanged), xAxis2,
             QOverload<const QCPRange&>::of(&QCPAxis::setRange));
@@ -74,10 +84,7 @@ QCPItemText* Graph::Plot::MakeText(const QColor& colour, double size, bool bold)
     auto* text = new QCPItemText(this);
     text->setClipToAxisRect(false);
     text->position->setType(QCPItemPosition::ptAbsolute);
-    QFont font("Liberation Sans");
-    font.setPointSizeF(size);
-    font.setBold(bold);
-    text->setFont(font);
+    text->setFont(FontNamed("Arial", size, bold));
     text->setColor(colour);
     text->setSelectable(false);
     return text;
@@ -96,7 +103,6 @@ void Graph::Plot::MakeItems(const GraphTitles& titles) {
     greatest = MakeText(Ink, 8, true);
     least = MakeText(Ink, 8, true);
     dot_ = new QCPItemTracer(this);
-    dot_->setGraph(graph(0));
     dot_->setInterpolating(true);
     dot_->setStyle(QCPItemTracer::tsCircle);
     dot_->setSize(8);
@@ -120,21 +126,32 @@ void Graph::Plot::MakeMouse() {
     });
     connect(this, &QCustomPlot::mouseDoubleClick, this, [this] {
         zoomed_ = false;
-        replot(rpQueuedReplot);
+        Refresh();
     });
     setMouseTracking(true);
 }
 
 void Graph::Plot::Redraw() {
     zoomed_ = false;
-    const bool isDue =
-        isVisible() && (!sinceRedraw_.isValid() || sinceRedraw_.elapsed() >= FrameMs);
+    const bool isDue = isVisible() && !size().isEmpty() &&
+                       (!sinceRedraw_.isValid() || sinceRedraw_.elapsed() >= FrameMs);
     if (!isDue) {
-        replot(rpQueuedReplot);
+        Refresh();
         return;
     }
     replot(rpImmediateRefresh);
     sinceRedraw_.start();
+}
+
+// A chart of no size has nothing to paint on.
+void Graph::Plot::Refresh() {
+    if (!size().isEmpty())
+        replot(rpQueuedReplot);
+}
+
+void Graph::Plot::resizeEvent(QResizeEvent* event) {
+    if (!size().isEmpty())
+        QCustomPlot::resizeEvent(event);
 }
 
 void Graph::Plot::Prepare() {
@@ -195,7 +212,8 @@ void Graph::Plot::FitToSize() {
     note->setVisible(noted);
     xAxis->setLabel(roomy ? xTitle_ : QString());
     yAxis->setLabel(roomy ? valueTitle_ : QString());
-    axisRect()->setMinimumMargins(QMargins(8, (titled ? 26 : 6) + (noted ? 14 : 0), 18, 4));
+    const int top = (titled ? 26 : 6) + (noted ? 14 : 0) + (marks.empty() ? 0 : 16);
+    axisRect()->setMinimumMargins(QMargins(8, top, 18, 4));
     xAxis->ticker()->setTickCount(std::clamp(viewport().width() / 80, 2, 10));
     yAxis->ticker()->setTickCount(std::clamp(viewport().height() / 40, 2, 8));
     const double middle = viewport().width() / 2.0;
@@ -280,26 +298,28 @@ void Graph::Plot::ReadOut(const QPointF& mouse) {
         HideReadOut();
         return;
     }
+    dot_->setGraph(graph(0));
     dot_->setGraphKey(xAxis->pixelToCoord(mouse.x()));
     dot_->updatePosition();
     const QPointF at = dot_->position->pixelPosition();
     readOut_->setText(QString("x = %1   %2")
-                          .arg(QString::number(dot_->position->key() + 0.0, 'g', 4),
-                               QString::number(dot_->position->value() * factor + 0.0, 'g', 4)));
+                          .arg(ShortNumber(dot_->position->key()),
+                               ShortNumber(dot_->position->value() * factor)));
     const double wide = QFontMetricsF(readOut_->font()).horizontalAdvance(readOut_->text()) + 12;
     SetPixel(*readOut_, {at.x() + 10 + wide > area.right() ? at.x() - 10 - wide : at.x() + 10,
                          std::max(at.y() - 6, area.top() + 20.0)});
     dot_->setVisible(true);
     readOut_->setVisible(true);
-    replot(rpQueuedReplot);
+    Refresh();
 }
 
 void Graph::Plot::HideReadOut() {
     if (!readOut_->visible())
         return;
     dot_->setVisible(false);
+    dot_->setGraph(nullptr);  // it cannot stand on a chart that may be empty the next time
     readOut_->setVisible(false);
-    replot(rpQueuedReplot);
+    Refresh();
 }
 
 void Graph::Plot::leaveEvent(QEvent* event) {

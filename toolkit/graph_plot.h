@@ -29,12 +29,15 @@ class Graph::Plot : public QCustomPlot {
     // Shows the whole of the data, at the screen's pace: at once if the last time is long enough
     // ago, else when the handlers have come to their end.
     void Redraw();
+    // The same data, once the handlers have come to their end.
+    void Refresh();
     // Brings the chart's parts up to date with the data and the size; each replot does it.
     void Prepare();
     QImage PictureOf(QSize size, double ratio);
 
   protected:
     void leaveEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void MakeItems(const GraphTitles& titles);

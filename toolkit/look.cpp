@@ -45,7 +45,7 @@ QPalette ProgramPalette() {
 void ApplyLook() {
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QApplication::setPalette(ProgramPalette());
-    QApplication::setFont(QFont("Liberation Sans", 9));
+    QApplication::setFont(FontNamed("Arial", 9, false));
 }
 
 QFont FontNamed(const std::string& name, double points, bool bold) {

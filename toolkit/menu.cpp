@@ -3,7 +3,6 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
-#include <algorithm>
 
 namespace trabeon {
 
@@ -45,12 +44,6 @@ Menu Menu::AddMenu(const std::string& caption) {
 
 MenuEntry Menu::Entry() const {
     return MenuEntry(menu_->menuAction());
-}
-
-int Menu::Count() const {
-    const QList<QAction*> actions = menu_->actions();
-    return static_cast<int>(std::count_if(
-        actions.begin(), actions.end(), [](const QAction* each) { return !each->isSeparator(); }));
 }
 
 void Menu::SetFiller(std::function<void(Menu&)> fill) {

@@ -38,8 +38,6 @@ class Menu {
     Menu AddMenu(const std::string& caption);
     // The entry that opens this menu: its caption, and whether it is enabled.
     MenuEntry Entry() const;
-    // The entries of this menu, separators left out.
-    int Count() const;
     // Fills the menu anew each time it opens.
     void SetFiller(std::function<void(Menu&)> fill);
 

@@ -52,6 +52,8 @@ class PictureBox::Surface : public QFrame {
     void paintEvent(QPaintEvent* event) override {
         QPainter painter(this);
         painter.setFont(font());
+        painter.setClipRect(contentsRect());
+        painter.translate(contentsRect().topLeft());
         box_.Paint(painter, devicePixelRatioF());
         painter.end();
         QFrame::paintEvent(event);
@@ -124,11 +126,12 @@ void PictureBox::PrintLine(const std::string& text) {
 }
 
 void PictureBox::Paint(QPainter& painter, double pixelRatio) const {
-    painter.fillRect(Widget()->rect(), QColor(backColour_));
+    const QRect inside(QPoint(0, 0), Widget()->contentsRect().size());
+    painter.fillRect(inside, QColor(backColour_));
     if (!picture_.isNull()) {
-        QImage scaled = picture_.scaled(Widget()->size() * pixelRatio, Qt::IgnoreAspectRatio,
+        QImage scaled = picture_.scaled(inside.size() * pixelRatio, Qt::IgnoreAspectRatio,
                                         Qt::SmoothTransformation);
-        painter.drawImage(Widget()->rect(), scaled);
+        painter.drawImage(inside, scaled);
     }
     painter.setRenderHint(QPainter::Antialiasing);
     for (const Stroke& stroke : drawn_)
@@ -138,7 +141,8 @@ void PictureBox::Paint(QPainter& painter, double pixelRatio) const {
 
 QImage PictureBox::Picture() const {
     const double ratio = std::max(2.0, Widget()->devicePixelRatioF());
-    QImage picture(Widget()->size().expandedTo({1, 1}) * ratio, QImage::Format_RGB32);
+    QImage picture(Widget()->contentsRect().size().expandedTo({1, 1}) * ratio,
+                   QImage::Format_RGB32);
     picture.setDevicePixelRatio(ratio);
     picture.fill(QColor(backColour_));
     QPainter painter(&picture);

@@ -1,5 +1,5 @@
-// A surface to draw on. Measures are twips from its top left corner, colours 0xRRGGBB. It keeps
-// what is drawn as a list of strokes, so that it is sharp on every screen and in its picture.
+// A surface to draw on. Measures are twips from the corner inside its border, colours 0xRRGGBB. It
+// keeps what is drawn as a list of strokes, so that it is sharp on every screen and in its picture.
 #pragma once
 
 #include <QImage>
