@@ -1,0 +1,387 @@
+// Which events each control fires, by the user and by code, and what its setters leave alone.
+#include <QAbstractItemView>
+#include <QClipboard>
+#include <QComboBox>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QListWidget>
+
+#include "tests/support/gui_fixture.h"
+#include "toolkit/button.h"
+#include "toolkit/combo_box.h"
+#include "toolkit/common_dialog.h"
+#include "toolkit/form.h"
+#include "toolkit/label.h"
+#include "toolkit/list_box.h"
+#include "toolkit/option_button.h"
+#include "toolkit/progress_bar.h"
+#include "toolkit/scroll_bar.h"
+#include "toolkit/text_box.h"
+#include "toolkit/text_view.h"
+#include "toolkit/web_browser.h"
+
+namespace trabeon {
+namespace {
+
+struct Nothing {};
+
+class frmBench : public Form {
+  public:
+    static constexpr const char* Name = "frmBench";
+    explicit frmBench(Nothing&) : Form("Bench") {}
+};
+
+class ControlsTest : public GuiTest {
+  protected:
+    ControlsTest() { forms.Register<frmBench>(nothing); }
+
+    Form& Bench() { return forms.Get<frmBench>(); }
+    static void Click(const Control& control, QPoint at = {}) {
+        QTest::mouseClick(control.Widget(), Qt::LeftButton, {}, at);
+    }
+    static void Type(const Control& control, const char* text) {
+        QTest::keyClicks(control.Widget(), text);
+    }
+    // A callback that counts.
+    static auto Count(int& counter) {
+        return [&counter] { ++counter; };
+    }
+
+    Nothing nothing;
+};
+
+TEST_F(ControlsTest, TextBoxFiresChangeForEachKeyAndForANewTextByCode) {
+    TextBox box(Bench(), "10");
+    int changes = 0;
+    box.Change = Count(changes);
+    box.SetText("10");
+    EXPECT_EQ(changes, 0);
+    box.SetText("12");
+    EXPECT_EQ(changes, 1);
+    Type(box, "34");
+    EXPECT_EQ(changes, 3);
+    EXPECT_EQ(box.Text(), "1234");
+}
+
+TEST_F(ControlsTest, AKeyPressHandlerDropsOrReplacesTheKey) {
+    TextBox box(Bench());
+    std::vector<int> keys;
+    box.KeyPress = [&](int& key) {
+        keys.push_back(key);
+        if (key == ',')
+            key = '.';
+        else if (key == 'x' || key == 13)
+            key = 0;
+    };
+    Type(box, "1x,5");
+    QTest::keyClick(box.Widget(), Qt::Key_Return);
+    EXPECT_EQ(box.Text(), "1.5");
+    QTest::keyClick(box.Widget(), Qt::Key_Backspace);
+    EXPECT_EQ(box.Text(), "1.");
+    EXPECT_EQ(keys, (std::vector<int>{'1', 'x', ',', '5', 13, 8}));
+}
+
+TEST_F(ControlsTest, DeleteTabAndShortcutsAreNoKeyPress) {
+    TextBox box(Bench(), "5");
+    int presses = 0;
+    box.KeyPress = [&](int& key) {
+        ++presses;
+        key = 0;
+    };
+    QTest::keyClick(box.Widget(), Qt::Key_Home);
+    QTest::keyClick(box.Widget(), Qt::Key_Delete);
+    EXPECT_EQ(box.Text(), "");
+    QGuiApplication::clipboard()->setText("7a");
+    QTest::keyClick(box.Widget(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), "7a");
+    EXPECT_EQ(presses, 0);
+}
+
+TEST_F(ControlsTest, AComposedCharacterPassesTheKeyPressHandlerToo) {
+    TextBox box(Bench());
+    box.KeyPress = [](int& key) {
+        if (key < '0' || key > '9')
+            key = 0;
+    };
+    for (const char* typed : {"é", "7"}) {
+        QInputMethodEvent event;
+        event.setCommitString(typed);
+        QApplication::sendEvent(box.Widget(), &event);
+    }
+    EXPECT_EQ(box.Text(), "7");
+}
+
+TEST_F(ControlsTest, ABoxThatKeepsToAFieldTakesNoQuoteAndNoLineEnd) {
+    TextBox box(Bench(), "None");
+    box.SetKeepsToField(true);
+    box.SetText("");
+    Type(box, "a\"b");
+    QGuiApplication::clipboard()->setText("c\"\r\nd");
+    QTest::keyClick(box.Widget(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), "abcd");
+    EXPECT_EQ(box.SelStart(), 4);
+}
+
+TEST_F(ControlsTest, GotFocusComesByKeyMouseAndCodeButNotWithTheWindow) {
+    TextBox first(Bench()), second(Bench());
+    first.Move(0, 0, 1500, 345);
+    second.Move(0, 600, 1500, 345);
+    Settle();
+    int focused = 0;
+    second.GotFocus = Count(focused);
+    first.SetFocus();
+    second.SetFocus();
+    second.SetFocus();
+    EXPECT_EQ(focused, 1);
+    first.SetFocus();
+    QTest::keyClick(first.Widget(), Qt::Key_Tab);
+    EXPECT_EQ(focused, 2);
+    first.SetFocus();
+    Click(second);
+    EXPECT_EQ(focused, 3);
+    QFocusEvent back(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+    QApplication::sendEvent(second.Widget(), &back);
+    QFocusEvent popup(QEvent::FocusIn, Qt::PopupFocusReason);
+    QApplication::sendEvent(second.Widget(), &popup);
+    EXPECT_EQ(focused, 3);
+}
+
+TEST_F(ControlsTest, WhatGotFocusSelectsOutlastsTheClick) {
+    TextBox first(Bench()), second(Bench(), "None");
+    first.Move(0, 0, 1500, 345);
+    second.Move(0, 600, 1500, 345);
+    Settle();
+    second.GotFocus = [&] {
+        second.SetSelStart(0);
+        second.SetSelLength(4);
+    };
+    first.SetFocus();
+    Click(second, {20, 10});
+    EXPECT_EQ(second.SelStart(), 0);
+    EXPECT_EQ(second.SelLength(), 4);
+    Type(second, "x");
+    EXPECT_EQ(second.Text(), "x");
+    second.SetText("None");
+    Click(second, {2, 10});  // the second click places the caret
+    EXPECT_EQ(second.SelLength(), 0);
+}
+
+TEST_F(ControlsTest, EnterMovesTheFocusFromAHandler) {
+    TextBox first(Bench()), second(Bench());
+    first.KeyPress = [&](int& key) {
+        if (key == 13)
+            second.SetFocus();
+    };
+    first.SetFocus();
+    QTest::keyClick(first.Widget(), Qt::Key_Enter);
+    EXPECT_TRUE(second.HasFocus());
+}
+
+TEST_F(ControlsTest, ButtonClicksByMouseSpaceEnterAndCodeWhileEnabled) {
+    Button button(Bench(), "&Add >");
+    int clicks = 0;
+    button.Click = Count(clicks);
+    Click(button);
+    QTest::keyClick(button.Widget(), Qt::Key_Space);
+    QTest::keyClick(button.Widget(), Qt::Key_Return);
+    button.Press();
+    EXPECT_EQ(clicks, 4);
+    button.SetEnabled(false);
+    Click(button);
+    QTest::keyClick(button.Widget(), Qt::Key_Return);
+    button.Press();
+    EXPECT_EQ(clicks, 4);
+}
+
+TEST_F(ControlsTest, AButtonIsWideEnoughForItsCaption) {
+    const Button shortOne(Bench(), "&Ok"), longOne(Bench(), "Use &Word For Windows To Print");
+    EXPECT_EQ(shortOne.Width(), 1215);
+    EXPECT_GE(longOne.Widget()->width(), longOne.Widget()->sizeHint().width());
+}
+
+TEST_F(ControlsTest, OptionButtonClicksWhenItBecomesTheChosenOne) {
+    OptionButton uniform(Bench(), "Uniform", true), vary(Bench(), "Varying");
+    int clicks = 0;
+    vary.Click = Count(clicks);
+    vary.Choose();
+    vary.Choose();
+    EXPECT_EQ(clicks, 1);
+    EXPECT_FALSE(uniform.Value());
+    uniform.Choose();
+    Click(vary, {8, vary.Widget()->height() / 2});
+    EXPECT_EQ(clicks, 2);
+    EXPECT_TRUE(vary.Value());
+}
+
+TEST_F(ControlsTest, ComboBoxClicksForEveryChoiceAlsoTheSameOne) {
+    ComboBox combo(Bench());
+    int clicks = 0, seen = -2;
+    combo.Click = [&] {
+        ++clicks;
+        seen = combo.ListIndex();
+    };
+    combo.AddItem("Member 1");
+    combo.AddItem("Member 2");
+    EXPECT_EQ(combo.ListIndex(), -1);
+    EXPECT_EQ(combo.Text(), "");
+    EXPECT_EQ(clicks, 0);
+    combo.SetListIndex(1);
+    EXPECT_EQ(seen, 1);
+    combo.SetListIndex(1);
+    EXPECT_EQ(clicks, 2);
+    combo.SetListIndex(-1);
+    combo.SetListIndex(7);
+    EXPECT_EQ(combo.ListIndex(), -1);
+    combo.SetText("Member 2");
+    combo.SetText("Member 3");
+    EXPECT_EQ(combo.ListIndex(), 1);
+    EXPECT_EQ(clicks, 2);
+    combo.Clear();
+    EXPECT_EQ(combo.ListCount(), 0);
+    EXPECT_EQ(combo.ListIndex(), -1);
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(ControlsTest, ComboBoxClicksForTheUsersChoice) {
+    ComboBox combo(Bench());
+    combo.AddItem("Member 1");
+    combo.AddItem("Member 2");
+    int clicks = 0;
+    combo.Click = Count(clicks);
+    QTest::keyClick(combo.Widget(), Qt::Key_Down);
+    EXPECT_EQ(combo.List(combo.ListIndex()), "Member 1");
+    EXPECT_EQ(clicks, 1);
+    auto* inner = static_cast<QComboBox*>(combo.Widget());
+    inner->showPopup();
+    QTest::keyClick(inner->view(), Qt::Key_Return);  // the same entry again
+    Settle();
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(ControlsTest, ListBoxClicksForEachSelectionByCodeAndForEachUsersClick) {
+    ListBox list(Bench());
+    list.Move(0, 0, 2000, 2000);
+    Settle();
+    int clicks = 0;
+    list.Click = Count(clicks);
+    list.AddItem("Member  1");
+    list.AddItem("Member  2");
+    list.SetSelected(0, true);
+    list.SetSelected(1, true);
+    list.SetSelected(1, true);
+    EXPECT_EQ(clicks, 3);
+    EXPECT_TRUE(list.Selected(0) && list.Selected(1));
+    auto* inner = static_cast<QListWidget*>(list.Widget());
+    const QPoint second = inner->visualItemRect(inner->item(1)).center();
+    QTest::mouseClick(inner->viewport(), Qt::LeftButton, {}, second);
+    EXPECT_EQ(clicks, 4);
+    EXPECT_FALSE(list.Selected(0));
+    QTest::mouseClick(inner->viewport(), Qt::LeftButton, {}, second);
+    EXPECT_EQ(clicks, 5);
+    QTest::mouseClick(inner->viewport(), Qt::LeftButton, Qt::ControlModifier, second);
+    EXPECT_EQ(clicks, 6);
+    EXPECT_FALSE(list.Selected(1));
+    list.SetSelected(0, true);
+    list.Clear();
+    EXPECT_EQ(clicks, 7);
+    EXPECT_FALSE(list.Selected(0));
+}
+
+TEST_F(ControlsTest, ScrollBarFiresChangeForANewValue) {
+    ScrollBar bar(Bench(), Direction::Vertical);
+    int changes = 0;
+    bar.Change = Count(changes);
+    bar.SetRange(0, 1000);
+    bar.SetSteps(50, 100);
+    bar.SetValue(200);
+    bar.SetValue(200);
+    EXPECT_EQ(changes, 1);
+    QTest::keyClick(bar.Widget(), Qt::Key_PageDown);
+    QTest::keyClick(bar.Widget(), Qt::Key_Down);
+    EXPECT_EQ(bar.Value(), 350);
+    EXPECT_EQ(changes, 3);
+}
+
+TEST_F(ControlsTest, ProgressBarShowsItsValueWhileAHandlerRuns) {
+    ProgressBar bar(Bench());
+    Settle();
+    const PaintCounter counter(bar);
+    bar.SetValue(50);
+    EXPECT_EQ(counter.paints, 1);
+    for (int i = 0; i < 1000; ++i)
+        bar.SetValue(50 + i * 0.0001);  // less than a pixel
+    EXPECT_EQ(counter.paints, 1);
+    bar.SetValue(100.00001);
+    EXPECT_EQ(bar.Value(), 100);
+    EXPECT_EQ(counter.paints, 2);
+}
+
+TEST_F(ControlsTest, ALabelsAccessKeyLeadsToItsBuddyAndNamesIt) {
+    Label label(Bench(), "&Member");
+    ComboBox combo(Bench());
+    TextBox other(Bench());
+    EXPECT_EQ(label.Widget()->property("text").toString(), "Member");
+    label.SetBuddy(combo);
+    other.SetFocus();
+    QTest::keyClick(window.Widget(), Qt::Key_M, Qt::AltModifier);
+    EXPECT_TRUE(combo.HasFocus());
+    EXPECT_EQ(combo.Widget()->accessibleName(), "Member");
+    EXPECT_EQ(label.Caption(), "&Member");
+}
+
+TEST_F(ControlsTest, AClickIntoThePictureViewTakesTheFocus) {
+    WebBrowser view(Bench());
+    int focused = 0;
+    view.GotFocus = Count(focused);
+    Click(view);
+    EXPECT_EQ(focused, 1);
+    view.Navigate("no such picture.gif");
+    EXPECT_FALSE(view.HasPicture());
+}
+
+TEST_F(ControlsTest, ANegativeSizeIsHeldAtNothing) {
+    TextView view(Bench());
+    view.Move(100, 600, -200, -600);
+    EXPECT_EQ(view.Width(), 0);
+    EXPECT_EQ(view.Height(), 0);
+    EXPECT_EQ(view.Left(), 105);  // the nearest pixel
+}
+
+TEST_F(ControlsTest, TheTextViewCopiesWhatIsSelected) {
+    TextView view(Bench());
+    view.Move(0, 0, 4500, 1500);
+    Settle();
+    view.SetText("one two\r\nthree");
+    EXPECT_EQ(view.Text(), "one two\r\nthree");
+    QTest::keyClick(view.Widget(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(outside.clipboardText, "");
+    QTest::keyClick(view.Widget(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(view.Widget(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(outside.clipboardText, "one two\nthree");
+    auto* inside = static_cast<QAbstractScrollArea*>(view.Widget())->viewport();
+    const int cell = view.Widget()->fontMetrics().horizontalAdvance('0');
+    QTest::mousePress(inside, Qt::LeftButton, {}, {4 + 4 * cell, 8});
+    QTest::mouseMove(inside, {4 + 7 * cell, 8});
+    QTest::mouseRelease(inside, Qt::LeftButton, {}, {4 + 7 * cell, 8});
+    EXPECT_EQ(view.SelectedText(), "two");
+}
+
+TEST_F(ControlsTest, TheDialogTellsItsQuestionAndKeepsItsNameWhenCancelled) {
+    CommonDialog dialog;
+    dialog.Filter = "Trabeon File (*.TB) |*.TB";
+    dialog.DialogTitle = "Save Trabeon File";
+    dialog.Flags = 10246;
+    outside.ExpectSave("Save Trabeon File", "/beams/One.TB");
+    EXPECT_TRUE(dialog.ShowSave());
+    EXPECT_EQ(dialog.FileName, "/beams/One.TB");
+    EXPECT_TRUE(outside.lastQuestion.asksBeforeOverwriting);
+    dialog.DialogTitle = "Open Trabeon File";
+    dialog.Flags = 2052;
+    outside.ExpectOpen("Open Trabeon File", "");
+    EXPECT_FALSE(dialog.ShowOpen());
+    EXPECT_EQ(dialog.FileName, "/beams/One.TB");
+    EXPECT_FALSE(outside.lastQuestion.asksBeforeOverwriting);
+}
+
+}  // namespace
+}  // namespace trabeon

@@ -1,0 +1,292 @@
+// The registry of forms: what loads, shows, hides and unloads them, and when.
+#include "toolkit/forms.h"
+
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTimer>
+
+#include "tests/support/gui_fixture.h"
+#include "toolkit/button.h"
+#include "toolkit/form.h"
+#include "toolkit/text_box.h"
+
+namespace trabeon {
+namespace {
+
+struct SharedRun {
+    Forms* forms = nullptr;
+    std::vector<std::string> log;
+    bool hideOnLoad = false;
+};
+
+class frmFirst : public Form {
+  public:
+    static constexpr const char* Name = "frmFirst";
+    explicit frmFirst(SharedRun& run) : Form("First"), run_(run) {
+        cmdClose.Click = [this] {
+            Unload();
+            text.SetText("still here");  // the handler runs to its end
+            run_.log.push_back("closed with " + text.Text());
+        };
+    }
+    ~frmFirst() override { run_.log.push_back("first gone"); }
+
+    Button cmdClose{*this, "&Close"};
+    TextBox text{*this, "default"};
+    std::vector<std::pair<int, int>> sizes;
+
+  protected:
+    void Form_Load() override {
+        Move(150, 300, 4500, 3000);
+        if (run_.hideOnLoad)
+            Hide();
+        run_.log.push_back("first loads");
+    }
+    void Form_Resize() override { sizes.emplace_back(ScaleWidth(), ScaleHeight()); }
+
+    SharedRun& run_;
+};
+
+class frmSecond : public Form {
+  public:
+    static constexpr const char* Name = "frmSecond";
+    explicit frmSecond(SharedRun& run) : Form("Second", FormBorder::FixedToolWindow), run_(run) {}
+    ~frmSecond() override { run_.log.push_back("second gone"); }
+
+    std::string seen;
+
+  protected:
+    void Form_Load() override {
+        run_.log.push_back("second loads");
+        // Its own text is read back by another form while it is still loading.
+        run_.forms->Get<frmFirst>().text.SetText("from second");
+        seen = run_.forms->Get<frmSecond>().Caption();
+    }
+
+    SharedRun& run_;
+};
+
+class frmAsk : public Form {
+  public:
+    static constexpr const char* Name = "frmAsk";
+    explicit frmAsk(SharedRun& run) : Form("Ask", FormBorder::FixedDialog), run_(run) {
+        cmdClose.Click = [this] { Unload(); };
+    }
+    ~frmAsk() override { run_.log.push_back("ask gone"); }
+
+    Button cmdClose{*this, "Close"};
+
+    SharedRun& run_;
+};
+
+class FormsTest : public GuiTest {
+  protected:
+    FormsTest() {
+        run.forms = &forms;
+        forms.Register<frmFirst>(run);
+        forms.Register<frmSecond>(run);
+        forms.Register<frmAsk>(run);
+    }
+    ~FormsTest() override {
+        forms.UnloadAll();
+        Settle();  // they write to the log as they go
+    }
+
+    SharedRun run;
+    using Log = std::vector<std::string>;
+};
+
+TEST_F(FormsTest, TheFirstTouchLoadsAndBringsUp) {
+    EXPECT_FALSE(forms.IsLoaded("frmFirst"));
+    EXPECT_EQ(forms.Loaded<frmFirst>(), nullptr);
+    frmFirst& first = forms.Get<frmFirst>();
+    EXPECT_TRUE(first.Visible());
+    EXPECT_EQ(&forms.Get<frmFirst>(), &first);
+    forms.Show("frmFirst");
+    EXPECT_EQ(run.log, Log{"first loads"});
+}
+
+TEST_F(FormsTest, AFormThatHidesItselfOnLoadStaysOutOfSightUntilShown) {
+    run.hideOnLoad = true;
+    EXPECT_FALSE(forms.Get<frmFirst>().Visible());
+    EXPECT_TRUE(forms.IsLoaded("frmFirst"));
+    forms.Show("frmFirst");
+    EXPECT_TRUE(forms.Get<frmFirst>().Visible());
+}
+
+TEST_F(FormsTest, LoadMayTouchOtherFormsAndItself) {
+    EXPECT_EQ(forms.Get<frmSecond>().seen, "Second");
+    EXPECT_EQ(forms.Get<frmFirst>().text.Text(), "from second");
+    EXPECT_EQ(run.log, (Log{"second loads", "first loads"}));
+}
+
+TEST_F(FormsTest, AHiddenFormKeepsItsTextsAnUnloadedOneLosesThem) {
+    forms.Get<frmFirst>().text.SetText("typed");
+    forms.Get<frmFirst>().Hide();
+    EXPECT_FALSE(forms.Get<frmFirst>().Visible());
+    forms.Show("frmFirst");
+    EXPECT_EQ(forms.Get<frmFirst>().text.Text(), "typed");
+    forms.Unload("frmFirst");
+    EXPECT_FALSE(forms.IsLoaded("frmFirst"));
+    EXPECT_EQ(forms.Get<frmFirst>().text.Text(), "default");
+}
+
+TEST_F(FormsTest, AFormUnloadsItselfInItsOwnClick) {
+    forms.Get<frmFirst>().cmdClose.Press();
+    EXPECT_FALSE(forms.IsLoaded("frmFirst"));
+    EXPECT_EQ(run.log, (Log{"first loads", "closed with still here"}));
+    Settle();
+    EXPECT_EQ(run.log.back(), "first gone");
+    EXPECT_TRUE(window.Area().subWindowList().isEmpty());
+}
+
+TEST_F(FormsTest, TheCloseBoxUnloads) {
+    forms.Show("frmFirst");
+    forms.Get<frmFirst>().Widget()->close();
+    EXPECT_FALSE(forms.IsLoaded("frmFirst"));
+    Settle();
+    EXPECT_EQ(run.log.back(), "first gone");
+}
+
+TEST_F(FormsTest, UnloadAllTakesTheLastLoadedFirstAndTheHiddenToo) {
+    forms.Show("frmFirst");
+    forms.Show("frmSecond");
+    forms.Get<frmFirst>().Hide();
+    forms.Show("frmFirst");
+    forms.Get<frmFirst>().Hide();
+    forms.UnloadAll();
+    Settle();
+    EXPECT_EQ(run.log, (Log{"first loads", "second loads", "second gone", "first gone"}));
+}
+
+TEST_F(FormsTest, NamesThatAreNotLoadedAreLeftAlone) {
+    forms.Unload("frmFirst");
+    forms.Unload("frmNobody");
+    EXPECT_FALSE(forms.IsLoaded("frmNobody"));
+    EXPECT_FALSE(forms.IsRegistered("frmNobody"));
+    EXPECT_TRUE(forms.IsRegistered("frmFirst"));
+    EXPECT_TRUE(run.log.empty());
+}
+
+TEST_F(FormsTest, ShowBringsToTheFrontAndHidingBringsUpTheOneBefore) {
+    forms.Show("frmFirst");
+    forms.Show("frmSecond");
+    QMdiArea& area = window.Area();
+    EXPECT_EQ(area.activeSubWindow()->windowTitle(), "Second");
+    forms.Show("frmFirst");
+    EXPECT_EQ(area.activeSubWindow()->windowTitle(), "First");
+    forms.Get<frmFirst>().Hide();
+    EXPECT_EQ(area.activeSubWindow()->windowTitle(), "Second");
+}
+
+TEST_F(FormsTest, PlaceIsTheOuterOneAndResizeTellsTheInnerOne) {
+    frmFirst& first = forms.Get<frmFirst>();
+    EXPECT_EQ(first.Left(), 150);
+    EXPECT_EQ(first.Top(), 300);
+    EXPECT_EQ(first.Width(), 4500);
+    EXPECT_EQ(first.Height(), 3000);
+    ASSERT_FALSE(first.sizes.empty());
+    const auto before = first.sizes.back();
+    EXPECT_LT(before.first, 4500);
+    EXPECT_LT(before.second, 3000 - 300);
+    first.SetWidth(6000);
+    EXPECT_EQ(first.sizes.back(), std::make_pair(before.first + 1500, before.second));
+    first.SetScaleSize(6690, 4485);
+    EXPECT_EQ(first.sizes.back(), std::make_pair(6690, 4485));
+    first.Move(0, 0, -100, -100);
+    EXPECT_GE(first.sizes.back().first, 0);
+    EXPECT_GE(first.sizes.back().second, 0);
+}
+
+TEST_F(FormsTest, AToolWindowCannotBeSizedAndHasACloseBoxOnly) {
+    QWidget* frame = forms.Get<frmSecond>().Widget();
+    EXPECT_EQ(frame->minimumSize(), frame->maximumSize());
+    EXPECT_TRUE(frame->windowFlags() & Qt::WindowCloseButtonHint);
+    EXPECT_FALSE(frame->windowFlags() &
+                 (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint));
+}
+
+TEST_F(FormsTest, ADialogHoldsTheCallerUntilItIsUnloaded) {
+    QTimer::singleShot(0, [this] {
+        run.log.push_back("in dialog");
+        QTest::mouseClick(forms.Get<frmAsk>().cmdClose.Widget(), Qt::LeftButton);
+    });
+    forms.Show("frmAsk");
+    EXPECT_FALSE(forms.IsLoaded("frmAsk"));
+    Settle();
+    EXPECT_EQ(run.log, (Log{"in dialog", "ask gone"}));
+}
+
+TEST_F(FormsTest, TheWindowMenuListsTheFormsInSight) {
+    window.AddWindowList("&Window");
+    auto* bar = static_cast<QMainWindow*>(window.Widget())->menuBar();
+    QMenu* menu = bar->actions().last()->menu();
+    const auto captions = [&] {
+        emit menu->aboutToShow();
+        QStringList all;
+        for (const QAction* action : menu->actions())
+            all << action->text();
+        return all.join(", ").toStdString();
+    };
+    EXPECT_EQ(captions(), "(No window is open)");
+    forms.Show("frmFirst");
+    forms.Show("frmSecond");
+    forms.Get<frmSecond>().Hide();
+    EXPECT_EQ(captions(), "&1 First");
+    forms.Show("frmSecond");
+    EXPECT_EQ(captions(), "&1 First, &2 Second");
+    menu->actions().first()->trigger();
+    EXPECT_EQ(window.Area().activeSubWindow()->windowTitle(), "First");
+}
+
+TEST_F(FormsTest, ClosingTheWindowAsksQueryUnloadThenUnload) {
+    std::vector<std::string> log;
+    bool refuse = true;
+    window.QueryUnload = [&](bool&) { log.push_back("query"); };
+    window.Unload = [&](bool& cancel) {
+        log.push_back("unload");
+        cancel = refuse;
+    };
+    window.Close();
+    EXPECT_TRUE(window.Widget()->isVisible());
+    refuse = false;
+    window.Close();
+    EXPECT_FALSE(window.Widget()->isVisible());
+    EXPECT_EQ(log, (Log{"query", "unload", "query", "unload"}));
+}
+
+TEST_F(FormsTest, AMaximisedFormLeavesTheCaptionProperAlone) {
+    forms.Get<frmFirst>().Maximize();
+    Settle();
+    EXPECT_EQ(window.Caption(), "Trabeon - Untitled");
+    window.SetCaption("Trabeon - One.TB");
+    EXPECT_EQ(window.Caption(), "Trabeon - One.TB");
+    forms.Unload("frmFirst");
+    EXPECT_EQ(window.Widget()->windowTitle(), "Trabeon - One.TB");
+}
+
+TEST_F(FormsTest, MenuEntriesRunTheirCommandByKeyAndChoiceWhileEnabled) {
+    int runs = 0;
+    Menu file = window.AddMenu("&File");
+    MenuEntry entry = file.Add("&New", "Ctrl+N", [&] { ++runs; });
+    Settle();  // the bar comes up with its first menu
+    QTest::keyClick(window.Widget(), Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(runs, 1);
+    entry.SetEnabled(false);
+    QTest::keyClick(window.Widget(), Qt::Key_N, Qt::ControlModifier);
+    entry.Choose();
+    EXPECT_EQ(runs, 1);
+    entry.SetEnabled(true);
+    entry.Choose();
+    EXPECT_EQ(runs, 2);
+    Menu loading = file.AddMenu("&Loading");
+    loading.Entry().SetEnabled(false);
+    EXPECT_EQ(loading.Entry().Caption(), "&Loading");
+    EXPECT_FALSE(loading.Entry().Enabled());
+}
+
+}  // namespace
+}  // namespace trabeon

@@ -1,0 +1,229 @@
+// The chart and the picture box: what they hold, label and hand on as pictures.
+#include "toolkit/graph.h"
+
+#include <QElapsedTimer>
+#include <QImage>
+#include <cmath>
+
+#include "tests/support/gui_fixture.h"
+#include "toolkit/form.h"
+#include "toolkit/picture_box.h"
+
+namespace trabeon {
+namespace {
+
+struct Nothing {};
+
+class frmDraw : public Form {
+  public:
+    static constexpr const char* Name = "frmDraw";
+    explicit frmDraw(Nothing&) : Form("Draw") {
+        graph.Move(0, 0, 4500, 3000);
+        picture.Move(0, 3000, 3135, 1575);
+    }
+    Graph graph{*this, {"Shear vs. Span", "Distance along the beam", "Shear force"}};
+    PictureBox picture{*this};
+};
+
+class DrawTest : public GuiTest {
+  protected:
+    DrawTest() { forms.Register<frmDraw>(nothing); }
+
+    Graph& graph() { return forms.Get<frmDraw>().graph; }
+    PictureBox& picture() { return forms.Get<frmDraw>().picture; }
+    void Feed(int index, int count, double x, double y) {
+        graph().SetAutoAdvance(false);
+        graph().SetPointCount(count);
+        graph().SetPointIndex(index);
+        graph().SetPointValue(y);
+        graph().SetPointX(x);
+        graph().SetDrawAction(DrawActions::Redraw);
+    }
+    void Plot(const std::vector<std::pair<double, double>>& points) {
+        for (std::size_t i = 0; i < points.size(); ++i)
+            Feed(static_cast<int>(i + 1), static_cast<int>(points.size()), points[i].first,
+                 points[i].second);
+    }
+    // How many pixels have the colour of the curve.
+    static int CurvePixels(const QImage& image) {
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                count += image.pixelColor(x, y) == QColor(0x0a64ad);
+        return count;
+    }
+
+    Nothing nothing;
+};
+
+TEST_F(DrawTest, LabelsTellTheGreatestAndTheLeastValueAndTheirPlace) {
+    EXPECT_EQ(graph().GreatestLabel(), "");
+    Plot({{0, 12.5}, {3, 0}, {4, -7.25}, {6, 1}});
+    EXPECT_EQ(graph().GreatestLabel(), "12.5 at 0");
+    EXPECT_EQ(graph().LeastLabel(), "-7.25 at 4");
+}
+
+TEST_F(DrawTest, ValuesDrawnUpsideDownAreLabelledWithTheTrueOnes) {
+    graph().SetValueFactor(-1);
+    Plot({{0, -12.5}, {4, 7.25}, {6, 0}});
+    EXPECT_EQ(graph().GreatestLabel(), "12.5 at 0");
+    EXPECT_EQ(graph().LeastLabel(), "-7.25 at 4");
+}
+
+TEST_F(DrawTest, AConstantCurveHasOneLabel) {
+    Plot({{0, 0}, {6, -0.0}});
+    EXPECT_EQ(graph().GreatestLabel(), "0 at 0");
+    EXPECT_EQ(graph().LeastLabel(), "");
+}
+
+TEST_F(DrawTest, TheSameCountKeepsThePointsAndAnotherPlotBeginsAnew) {
+    Plot({{0, 5}, {1, 9}, {2, 1}});
+    graph().SetPointCount(3);
+    EXPECT_EQ(graph().PointCount(), 3);
+    EXPECT_EQ(graph().GreatestLabel(), "9 at 1");
+    Feed(1, 2, 0, 4);
+    EXPECT_EQ(graph().GreatestLabel(), "4 at 0");  // what is not written yet does not show
+    Feed(2, 2, 3, 6);
+    EXPECT_EQ(graph().GreatestLabel(), "6 at 3");
+    EXPECT_EQ(graph().LeastLabel(), "4 at 0");
+}
+
+TEST_F(DrawTest, AutoAdvanceMovesToTheNextPoint) {
+    graph().SetPointCount(2);
+    graph().SetPointIndex(1);
+    graph().SetAutoAdvance(true);
+    for (const double at : {1.0, 2.0}) {
+        graph().SetPointValue(10 * at);
+        graph().SetPointX(at);
+    }
+    EXPECT_EQ(graph().GreatestLabel(), "20 at 2");
+    EXPECT_EQ(graph().LeastLabel(), "10 at 1");
+}
+
+TEST_F(DrawTest, TheClipboardPictureIsSharpAndUpToDate) {
+    graph().SetDrawAction(DrawActions::CopyToClipboard);
+    EXPECT_EQ(CurvePixels(outside.clipboardPicture), 0);
+    Plot({{0, 0}, {3, 10}, {6, 0}});
+    graph().SetDrawAction(DrawActions::CopyToClipboard);
+    const QImage copied = outside.clipboardPicture;
+    EXPECT_EQ(copied.devicePixelRatio(), 2);
+    EXPECT_GE(copied.width(), 2 * graph().Widget()->width());
+    EXPECT_GT(CurvePixels(copied), 500);
+}
+
+TEST_F(DrawTest, AFeedWithARedrawAfterEachPointCostsMilliseconds) {
+    const auto feed = [&](int count) {
+        QElapsedTimer timer;
+        timer.start();
+        for (int i = 1; i <= count; ++i)
+            Feed(i, count, i * 0.01, std::sin(i * 0.01));
+        Settle();
+        return timer.elapsed();
+    };
+    feed(100);
+    EXPECT_LT(feed(12000), 500);  // milliseconds as a rule; a redraw for each takes 13 seconds
+    EXPECT_LT(feed(24000), 1000);
+}
+
+TEST_F(DrawTest, TheCurveGrowsWhileAHandlerRunsAtTheScreensPace) {
+    Settle();
+    const PaintCounter counter(graph());
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 1; timer.elapsed() < 150; ++i)
+        Feed(i, 100000, i, 1);
+    EXPECT_GE(counter.paints, 2);
+    EXPECT_LE(counter.paints, 7);
+}
+
+TEST_F(DrawTest, TheWheelZoomsAndADoubleClickBringsTheWholeBack) {
+    Plot({{0, 0}, {3, 10}, {6, 0}});
+    Settle();
+    const QImage whole = graph().Picture();
+    const QPoint middle(graph().Widget()->rect().center());
+    QWheelEvent wheel(middle, graph().Widget()->mapToGlobal(middle), {}, {0, 120}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(graph().Widget(), &wheel);
+    Settle();
+    EXPECT_NE(graph().Picture(), whole);
+    QTest::mouseDClick(graph().Widget(), Qt::LeftButton, {}, middle);
+    Settle();
+    EXPECT_EQ(graph().Picture(), whole);
+}
+
+TEST_F(DrawTest, TheReadOutComesWithTheMouseAndStaysOutOfThePicture) {
+    Plot({{0, 0}, {3, 10}, {6, 0}});
+    Settle();
+    const QImage without = graph().Widget()->grab().toImage();
+    const QImage copied = graph().Picture();
+    QTest::mouseMove(graph().Widget(), graph().Widget()->rect().center());
+    Settle();
+    EXPECT_NE(graph().Widget()->grab().toImage(), without);
+    EXPECT_EQ(graph().Picture(), copied);
+}
+
+TEST_F(DrawTest, AChartOfNoHeightStillGivesAPicture) {
+    Plot({{0, 0}, {3, 10}, {6, 0}});
+    graph().Move(0, 0, 4500, -20);
+    EXPECT_EQ(graph().Height(), 0);
+    EXPECT_GT(CurvePixels(graph().Picture()), 500);
+}
+
+TEST_F(DrawTest, StrokesAreKeptAsTheNumbersThatWereDrawn) {
+    PictureBox& box = picture();
+    box.ForeColor = QBColor(1);
+    box.Line(1567.5, 700, 1467.5, 600);
+    box.Circle(100, 400, 50, QBColor(4));
+    ASSERT_EQ(box.Drawn().size(), 2u);
+    const Stroke& line = box.Drawn()[0];
+    EXPECT_EQ(std::make_tuple(line.x1, line.y1, line.x2, line.y2, line.colour),
+              std::make_tuple(1567.5, 700., 1467.5, 600., 0x000080u));
+    const Stroke& circle = box.Drawn()[1];
+    EXPECT_EQ(std::make_tuple(circle.x1, circle.y1, circle.x2, circle.colour),
+              std::make_tuple(100., 400., 50., 0x800000u));
+    box.Cls();
+    EXPECT_TRUE(box.Drawn().empty());
+}
+
+TEST_F(DrawTest, TextStandsWhereThePenIs) {
+    PictureBox& box = picture();
+    box.Line(100, 700, 3035, 700);
+    EXPECT_EQ(box.CurrentX, 3035);
+    EXPECT_EQ(box.CurrentY, 700);
+    box.PrintLine();
+    EXPECT_EQ(box.CurrentX, 0);
+    const double row = box.CurrentY - 700;
+    EXPECT_GT(row, 0);
+    box.Print("a = 3");
+    EXPECT_GT(box.CurrentX, 0);
+    EXPECT_EQ(box.CurrentY, 700 + row);
+    box.PrintLine();
+    EXPECT_EQ(box.CurrentY, 700 + 2 * row);
+    ASSERT_EQ(box.Drawn().size(), 2u);
+    EXPECT_EQ(box.Drawn()[1].text, "a = 3");
+    EXPECT_EQ(box.Drawn()[1].y1, 700 + row);
+}
+
+TEST_F(DrawTest, TabsLeadToTheNextStop) {
+    PictureBox& box = picture();
+    box.TabWidth = 1000;
+    box.Print("\ta\t\tb");
+    ASSERT_EQ(box.Drawn().size(), 2u);
+    EXPECT_EQ(box.Drawn()[0].x1, 1000);
+    EXPECT_EQ(box.Drawn()[1].x1, 3000);
+}
+
+TEST_F(DrawTest, ThePictureOfTheBoxIsTwiceAsSharpAndWithoutItsBorder) {
+    PictureBox& box = picture();
+    box.SetBorder(false);
+    box.Line(0, 750, 3135, 750, QBColor(4));
+    box.CopyToClipboard();
+    const QImage copied = outside.clipboardPicture;
+    EXPECT_EQ(copied.size(), QSize(2 * 209, 2 * 105));
+    EXPECT_EQ(copied.devicePixelRatio(), 2);
+    EXPECT_EQ(copied.pixelColor(200, 100), QColor(0x800000));
+    EXPECT_EQ(copied.pixelColor(200, 20), QColor(Qt::white));
+}
+
+}  // namespace
+}  // namespace trabeon

@@ -1,0 +1,51 @@
+#include "toolkit/button.h"
+
+#include <QKeyEvent>
+#include <QPushButton>
+#include <algorithm>
+
+namespace trabeon {
+
+namespace {
+
+QPushButton& Inner(const Control& control) {
+    return *static_cast<QPushButton*>(control.Widget());
+}
+
+}  // namespace
+
+Button::Button(Container& parent, const std::string& caption)
+    : Control(new QPushButton(QString::fromStdString(caption), parent.Canvas())) {
+    QPushButton& button = Inner(*this);
+    const int captionWide = button.fontMetrics().horizontalAdvance(button.text());
+    Control::Resize(std::max(ToPixels(1215), captionWide + ToPixels(270)), ToPixels(375));
+    QObject::connect(&button, &QPushButton::clicked, [this] {
+        if (Click)
+            Click();
+    });
+}
+
+std::string Button::Caption() const {
+    return Inner(*this).text().toStdString();
+}
+
+void Button::SetCaption(const std::string& caption) {
+    Inner(*this).setText(QString::fromStdString(caption));
+}
+
+void Button::Press() {
+    Inner(*this).click();
+}
+
+bool Button::OnEvent(QEvent& event) {
+    if (event.type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent&>(event).key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            Press();
+            return true;
+        }
+    }
+    return Control::OnEvent(event);
+}
+
+}  // namespace trabeon

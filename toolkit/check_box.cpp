@@ -1,0 +1,29 @@
+#include "toolkit/check_box.h"
+
+#include <QCheckBox>
+
+namespace trabeon {
+
+namespace {
+
+QCheckBox& Inner(const Control& control) {
+    return *static_cast<QCheckBox*>(control.Widget());
+}
+
+}  // namespace
+
+CheckBox::CheckBox(Container& parent, const std::string& caption, bool ticked)
+    : Control(new QCheckBox(QString::fromStdString(caption), parent.Canvas())) {
+    Inner(*this).adjustSize();
+    SetValue(ticked);
+}
+
+bool CheckBox::Value() const {
+    return Inner(*this).isChecked();
+}
+
+void CheckBox::SetValue(bool ticked) {
+    Inner(*this).setChecked(ticked);
+}
+
+}  // namespace trabeon

@@ -1,0 +1,23 @@
+// The file dialogs of the program.
+#pragma once
+
+#include <string>
+
+namespace trabeon {
+
+class CommonDialog {
+  public:
+    std::string Filter;  // "Trabeon File (*.TB) |*.TB"
+    std::string DialogTitle;
+    int Flags = 0;         // bit 2: ask before a file that is there is chosen for saving
+    std::string FileName;  // the full path last chosen; a dialog that is cancelled leaves it
+
+    // Both block, and answer whether the user chose a file.
+    [[nodiscard]] bool ShowOpen();
+    [[nodiscard]] bool ShowSave();
+
+  private:
+    bool Show(bool saves);
+};
+
+}  // namespace trabeon

@@ -1,0 +1,144 @@
+#include "toolkit/control.h"
+
+#include <QEvent>
+#include <QFocusEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QWidget>
+
+#include "toolkit/look.h"
+
+namespace trabeon {
+
+namespace {
+
+// The widget's own answer to the event, passing by the filters.
+void Deliver(QWidget& widget, QEvent& event) {
+    static_cast<QObject&>(widget).event(&event);
+}
+
+bool IsReturning(Qt::FocusReason reason) {
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+           reason == Qt::MenuBarFocusReason;
+}
+
+constexpr int DeleteCode = 127;
+
+// The code of a key that types one character; 0 for all else, shortcuts and Tab among them.
+int CharacterOf(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    if (event.text().size() != 1 || (event.modifiers() & commands))
+        return 0;
+    const int code = event.text().at(0).unicode();
+    return code == '\t' || code == DeleteCode || event.key() == Qt::Key_Escape ? 0 : code;
+}
+
+}  // namespace
+
+class Control::Tap : public QObject {
+  public:
+    explicit Tap(Control& control) : control_(control) {}
+
+    bool eventFilter(QObject* target, QEvent* event) override {
+        if (target != control_.Widget())
+            return control_.OnInnerEvent(*event);
+        return control_.OnEvent(*event);
+    }
+
+  private:
+    Control& control_;
+};
+
+Control::Control(QWidget* widget) : Placement(widget), tap_(std::make_unique<Tap>(*this)) {
+    widget->installEventFilter(tap_.get());
+    widget->show();  // else a control made while its form stands would stay out of sight
+}
+
+Control::~Control() {
+    tap_.reset();
+    delete Widget();
+}
+
+void Control::Watch(QWidget* inner) {
+    inner->installEventFilter(tap_.get());
+}
+
+bool Control::OnInnerEvent(QEvent&) {
+    return false;
+}
+
+bool Control::OnEvent(QEvent& event) {
+    if (event.type() == QEvent::FocusIn) {
+        // The widget first, so that what the handler selects stays selected.
+        Deliver(*Widget(), event);
+        if (GotFocus && !IsReturning(static_cast<QFocusEvent&>(event).reason()))
+            GotFocus();
+        return true;
+    }
+    if (event.type() == QEvent::KeyPress && KeyPress)
+        return OnKey(static_cast<QKeyEvent&>(event));
+    if (event.type() == QEvent::InputMethod && KeyPress) {
+        // Composed characters come past the key events: one that is dropped takes all with it.
+        for (const QChar character : static_cast<QInputMethodEvent&>(event).commitString()) {
+            int key = character.unicode();
+            KeyPress(key);
+            if (key == 0)
+                return true;
+        }
+    }
+    return false;
+}
+
+bool Control::OnKey(QKeyEvent& event) {
+    const int typed = CharacterOf(event);
+    if (typed == 0)
+        return false;
+    int key = typed;
+    KeyPress(key);
+    if (key == typed)
+        return false;
+    event.accept();
+    if (key != 0) {
+        QKeyEvent other(QEvent::KeyPress, 0, Qt::NoModifier, QString(QChar(key)));
+        Deliver(*Widget(), other);
+    }
+    return true;
+}
+
+bool Control::Enabled() const {
+    return Widget()->isEnabled();
+}
+
+void Control::SetEnabled(bool enabled) {
+    Widget()->setEnabled(enabled);
+}
+
+bool Control::Visible() const {
+    return !Widget()->isHidden();
+}
+
+void Control::SetVisible(bool visible) {
+    Widget()->setVisible(visible);
+}
+
+void Control::SetFocus() {
+    Widget()->setFocus(Qt::OtherFocusReason);
+}
+
+bool Control::HasFocus() const {
+    return Widget()->hasFocus();
+}
+
+void Control::SetFont(const std::string& name, double points, bool bold) {
+    Widget()->setFont(FontNamed(name, points, bold));
+}
+
+void Control::SetAccessibleName(const std::string& name) {
+    Widget()->setAccessibleName(QString::fromStdString(name));
+}
+
+void Control::SetToolTipText(const std::string& text) {
+    Widget()->setToolTip(QString::fromStdString(text));
+}
+
+}  // namespace trabeon

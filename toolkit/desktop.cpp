@@ -1,0 +1,182 @@
+#include "toolkit/desktop.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QImage>
+#include <QLockFile>
+#include <QMessageBox>
+#include <QPageSize>
+#include <QPointer>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QTextBrowser>
+#include <QUrl>
+
+namespace trabeon {
+
+namespace {
+
+constexpr int ButtonBits = 0x07;
+constexpr int PictureBits = 0x70;
+
+QMessageBox::StandardButtons ButtonsOf(int style) {
+    switch (style & ButtonBits) {
+        case 1:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case 3:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+        case 4:
+            return QMessageBox::Yes | QMessageBox::No;
+        default:
+            return QMessageBox::Ok;
+    }
+}
+
+QMessageBox::Icon PictureOf(int style) {
+    switch (style & PictureBits) {
+        case 16:
+            return QMessageBox::Critical;
+        case 32:
+            return QMessageBox::Question;
+        case 48:
+            return QMessageBox::Warning;
+        case 64:
+            return QMessageBox::Information;
+        default:
+            return QMessageBox::NoIcon;
+    }
+}
+
+Answer AnswerOf(int button) {
+    switch (button) {
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::No:
+            return Answer::No;
+        case QMessageBox::Cancel:
+            return Answer::Cancel;
+        default:
+            return Answer::Ok;
+    }
+}
+
+// The window that a box belongs to. It becomes the active one again when the box has closed:
+// some platforms leave none active, and no focus event comes from then on.
+class Owner {
+  public:
+    Owner() : window_(QApplication::activeWindow()) {}
+    ~Owner() {
+        if (window_)
+            window_->activateWindow();
+    }
+    Owner(const Owner&) = delete;
+    Owner& operator=(const Owner&) = delete;
+
+    QWidget* Window() const { return window_; }
+
+  private:
+    QPointer<QWidget> window_;
+};
+
+// "Text (*.A) |*.A" names the pattern twice; the dialog wants "Text (*.A)".
+QString DialogFilter(const std::string& filter) {
+    const QStringList parts = QString::fromStdString(filter).split('|');
+    if (parts.size() < 2)
+        return parts.value(0);
+    const QString text = parts.at(0).section('(', 0, 0).trimmed();
+    return text + " (" + parts.at(1).trimmed() + ");;All files (*)";
+}
+
+void ShowPage(const QString& path) {
+    auto* page = new QTextBrowser;
+    page->setAttribute(Qt::WA_DeleteOnClose);
+    page->setAttribute(Qt::WA_QuitOnClose, false);
+    page->setSource(QUrl::fromLocalFile(path));
+    page->setWindowTitle(page->documentTitle());
+    page->resize(800, 640);
+    page->show();
+}
+
+}  // namespace
+
+Desktop::Desktop() = default;
+
+Desktop::~Desktop() = default;
+
+Answer Desktop::MsgBox(const std::string& text, int style, const std::string& title) {
+    const Owner owner;
+    QMessageBox box(PictureOf(style), QString::fromStdString(title), QString::fromStdString(text),
+                    ButtonsOf(style), owner.Window());
+    box.setTextFormat(Qt::PlainText);
+    return AnswerOf(box.exec());
+}
+
+std::string Desktop::AskFile(const FileQuestion& question) {
+    const Owner owner;
+    QFileDialog dialog(owner.Window(), QString::fromStdString(question.title));
+    dialog.setNameFilters(DialogFilter(question.filter).split(";;"));
+    dialog.setAcceptMode(question.saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(question.saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !question.asksBeforeOverwriting);
+    if (!question.fileName.empty())
+        dialog.selectFile(QString::fromStdString(question.fileName));
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return dialog.selectedFiles().value(0).toStdString();
+}
+
+void Desktop::PutText(const std::string& text) {
+    QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+}
+
+void Desktop::PutPicture(const QImage& picture) {
+    QGuiApplication::clipboard()->setImage(picture);
+}
+
+QImage Desktop::Picture() const {
+    return QGuiApplication::clipboard()->image();
+}
+
+bool Desktop::OpenDocument(const std::string& path) {
+    const QString file = QString::fromStdString(path);
+    if (QDesktopServices::openUrl(QUrl::fromLocalFile(file)))
+        return true;
+    const bool isPage = file.endsWith(".htm", Qt::CaseInsensitive) && QFile::exists(file);
+    if (isPage)
+        ShowPage(file);
+    return isPage;
+}
+
+std::unique_ptr<QPrinter> Desktop::OpenPrinter(const std::string& documentName) {
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setDocName(QString::fromStdString(documentName));
+    if (!QPrinterInfo::defaultPrinter().isNull())
+        return printer;
+    FileQuestion question{true, true, "Print to a PDF File", "PDF File (*.pdf) |*.pdf", ""};
+    const std::string path = AskFile(question);
+    if (path.empty())
+        return nullptr;
+    printer->setOutputFormat(QPrinter::PdfFormat);
+    printer->setPageSize(QPageSize(QPageSize::A4));
+    printer->setOutputFileName(QString::fromStdString(path));
+    return printer;
+}
+
+bool Desktop::AnotherCopyRuns(const std::string& folder) {
+    auto lock =
+        std::make_unique<QLockFile>(QDir(QString::fromStdString(folder)).filePath("trabeon.lock"));
+    lock->setStaleLockTime(0);  // a lock whose owner was killed is known by the process alone
+    if (!lock->tryLock(0))
+        return lock->error() == QLockFile::LockFailedError;
+    lock_ = std::move(lock);
+    return false;
+}
+
+void Desktop::End() {
+    QCoreApplication::exit(0);
+}
+
+}  // namespace trabeon

@@ -1,0 +1,32 @@
+// The real way out: boxes, dialogs, clipboard, printer and programs of the user's desktop.
+#pragma once
+
+#include <memory>
+
+#include "toolkit/outside.h"
+
+class QLockFile;
+
+namespace trabeon {
+
+class Desktop : public Outside {
+  public:
+    Desktop();
+    ~Desktop() override;
+
+    Answer MsgBox(const std::string& text, int style, const std::string& title) override;
+    std::string AskFile(const FileQuestion& question) override;
+    void PutText(const std::string& text) override;
+    void PutPicture(const QImage& picture) override;
+    QImage Picture() const override;
+    // A page (.htm) comes up in a window of the program where the desktop has no browser.
+    bool OpenDocument(const std::string& path) override;
+    std::unique_ptr<QPrinter> OpenPrinter(const std::string& documentName) override;
+    bool AnotherCopyRuns(const std::string& folder) override;
+    void End() override;
+
+  private:
+    std::unique_ptr<QLockFile> lock_;
+};
+
+}  // namespace trabeon

@@ -1,0 +1,65 @@
+// A line chart of one data set, fed point by point. The properties and their numbers are those of
+// the chart control that the diagram forms speak to.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "toolkit/control.h"
+
+class QImage;
+
+namespace trabeon {
+
+struct GraphTitles {
+    std::string title;
+    std::string x;
+    std::string value;
+};
+
+// A place on the x axis, as a joint of the beam.
+struct GraphMark {
+    double x;
+    std::string label;
+};
+
+enum class DrawActions { Redraw = 3, CopyToClipboard = 4 };
+
+class Graph : public Control {
+  public:
+    Graph(Container& parent, const GraphTitles& titles);
+    ~Graph() override;
+
+    void SetAutoAdvance(bool advances);  // 1: writing a point's x moves PointIndex on
+    // 30: the chart holds that many points. Those written so far stay.
+    void SetPointCount(int count);
+    int PointCount() const;
+    // 42: the point that is written next, from 1. Point 1 begins a plot: what shows from then on
+    // are the points written since, up to the highest. The x of a plot must not fall.
+    void SetPointIndex(int index);
+    void SetPointValue(double y);  // 16
+    void SetPointX(double x);      // 46
+    // 7: Redraw scales the chart to its points; it may be asked for after every point, and then
+    // keeps the screen's pace. The picture on the clipboard is always up to date.
+    void SetDrawAction(DrawActions action);
+
+    // The values were multiplied by this to be drawn; labels and readout show the true ones.
+    void SetValueFactor(double factor);
+    void SetMarks(std::vector<GraphMark> marks);
+    void SetNote(const std::string& note);
+
+    // The chart as it stands, two pixels to each of the screen's at least.
+    QImage Picture() const;
+    // What the label of the greatest or the least value reads; empty while there is none.
+    std::string GreatestLabel() const;
+    std::string LeastLabel() const;
+
+  private:
+    class Plot;
+    Plot& Inner() const;
+
+    bool autoAdvance_ = false;
+    int index_ = 1;
+};
+
+}  // namespace trabeon

@@ -1,0 +1,73 @@
+// The chart behind Graph: its data, its labels, and what the mouse does on it.
+#pragma once
+
+#include <qcustomplot.h>
+
+#include <vector>
+
+#include "toolkit/graph.h"
+#include "toolkit/graph_axes.h"
+
+namespace trabeon {
+
+class Graph::Plot : public QCustomPlot {
+  public:
+    Plot(const GraphTitles& titles, QWidget* parent);
+
+    struct Point {
+        double x = 0;
+        double y = 0;
+    };
+    std::vector<Point> points;
+    int shown = 0;  // of the points, those of the plot that runs
+    double factor = 1;
+    std::vector<GraphMark> marks;
+    QCPItemText* note;
+    QCPItemText* greatest;
+    QCPItemText* least;
+
+    // Shows the whole of the data, at the screen's pace: at once if the last time is long enough
+    // ago, else when the handlers have come to their end.
+    void Redraw();
+    // The same data, once the handlers have come to their end.
+    void Refresh();
+    // Brings the chart's parts up to date with the data and the size; each replot does it.
+    void Prepare();
+    QImage PictureOf(QSize size, double ratio);
+
+  protected:
+    void leaveEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void MakeItems(const GraphTitles& titles);
+    void MakeCurve();
+    void MakeMouse();
+    QCPItemText* MakeText(const QColor& colour, double size, bool bold);
+
+    void TakeData();
+    void FindExtremes();
+    void FitToSize();
+    void FitMarks();
+    void Rescale();
+    void PlaceLabels();
+    QRectF PlaceLabel(QCPItemText& label, const Point& at, bool above);
+    void ReadOut(const QPointF& mouse);
+    void HideReadOut();
+    bool IsRoomy() const;
+
+    QCPItemText* title_;
+    QCPItemText* readOut_;
+    QCPItemTracer* dot_;
+    QCPGraph* extremes_;
+    QSharedPointer<DistanceTicker> distances_{new DistanceTicker};
+    QSharedPointer<ValueTicker> values_{new ValueTicker};
+    QSharedPointer<QCPAxisTickerText> markTicks_{new QCPAxisTickerText};
+    QString xTitle_;
+    QString valueTitle_;
+    Point top_, bottom_;  // the highest and the lowest as drawn
+    bool zoomed_ = false;
+    QElapsedTimer sinceRedraw_;
+};
+
+}  // namespace trabeon

@@ -1,0 +1,53 @@
+#include "toolkit/label.h"
+
+#include <QLabel>
+
+namespace trabeon {
+
+namespace {
+
+QLabel& Inner(const Control& control) {
+    return *static_cast<QLabel*>(control.Widget());
+}
+
+QString WithoutAccessKey(QString caption) {
+    for (qsizetype at = caption.indexOf('&'); at >= 0; at = caption.indexOf('&', at + 1))
+        caption.remove(at, 1);  // "&&" leaves one, which is passed over
+    return caption;
+}
+
+}  // namespace
+
+Label::Label(Container& parent, const std::string& caption)
+    : Control(new QLabel(parent.Canvas())), caption_(caption) {
+    ShowCaption();
+}
+
+std::string Label::Caption() const {
+    return caption_;
+}
+
+void Label::SetCaption(const std::string& caption) {
+    caption_ = caption;
+    ShowCaption();
+}
+
+void Label::SetBuddy(Control& control) {
+    Inner(*this).setBuddy(control.Widget());
+    control.SetAccessibleName(WithoutAccessKey(QString::fromStdString(caption_)).toStdString());
+    ShowCaption();
+}
+
+void Label::Resize(int pixelsWide, int pixelsHigh) {
+    sized_ = true;
+    Control::Resize(pixelsWide, pixelsHigh);
+}
+
+void Label::ShowCaption() {
+    const QString caption = QString::fromStdString(caption_);
+    Inner(*this).setText(Inner(*this).buddy() ? caption : WithoutAccessKey(caption));
+    if (!sized_)
+        Inner(*this).adjustSize();
+}
+
+}  // namespace trabeon

@@ -1,0 +1,74 @@
+#include "toolkit/list_box.h"
+
+#include <QEvent>
+#include <QListWidget>
+
+namespace trabeon {
+
+namespace {
+
+QListWidget& Inner(const Control& control) {
+    return *static_cast<QListWidget*>(control.Widget());
+}
+
+}  // namespace
+
+ListBox::ListBox(Container& parent) : Control(new QListWidget(parent.Canvas())) {
+    QListWidget& list = Inner(*this);
+    list.setSelectionMode(QAbstractItemView::ExtendedSelection);
+    list.setUniformItemSizes(true);
+    Watch(list.viewport());
+    QObject::connect(&list, &QListWidget::itemSelectionChanged, [this] { OnSelection(); });
+    QObject::connect(&list, &QListWidget::itemClicked, [this] {
+        if (!changed_)
+            OnSelection();
+    });
+}
+
+void ListBox::OnSelection() {
+    changed_ = true;
+    if (!muted_ && Click)
+        Click();
+}
+
+bool ListBox::OnInnerEvent(QEvent& event) {
+    if (event.type() == QEvent::MouseButtonPress)
+        changed_ = false;
+    return false;
+}
+
+void ListBox::AddItem(const std::string& text) {
+    Inner(*this).addItem(QString::fromStdString(text));
+}
+
+void ListBox::Clear() {
+    muted_ = true;
+    Inner(*this).clear();
+    muted_ = false;
+}
+
+int ListBox::ListCount() const {
+    return Inner(*this).count();
+}
+
+std::string ListBox::List(int index) const {
+    const QListWidgetItem* item = Inner(*this).item(index);
+    return item ? item->text().toStdString() : std::string();
+}
+
+bool ListBox::Selected(int index) const {
+    const QListWidgetItem* item = Inner(*this).item(index);
+    return item && item->isSelected();
+}
+
+void ListBox::SetSelected(int index, bool selected) {
+    QListWidgetItem* item = Inner(*this).item(index);
+    if (!item)
+        return;
+    muted_ = true;
+    item->setSelected(selected);
+    muted_ = false;
+    OnSelection();
+}
+
+}  // namespace trabeon

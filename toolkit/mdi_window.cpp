@@ -1,0 +1,125 @@
+#include "toolkit/mdi_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QScreen>
+
+namespace trabeon {
+
+class MdiWindow::Window : public QMainWindow {
+  public:
+    explicit Window(MdiWindow& owner) : owner_(owner), area(new QMdiArea(this)) {
+        setCentralWidget(area);
+        // Closing a child brings up the one used before it, not the oldest.
+        area->setActivationOrder(QMdiArea::ActivationHistoryOrder);
+        // A maximised child does not make the next one maximised, whose size may be fixed.
+        area->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
+        area->setBackground(palette().brush(QPalette::Dark));
+        area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+        area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+        resize(1024, 680);
+    }
+
+  protected:
+    void closeEvent(QCloseEvent* event) override {
+        bool cancel = false;
+        if (owner_.QueryUnload)
+            owner_.QueryUnload(cancel);
+        if (!cancel && owner_.Unload)
+            owner_.Unload(cancel);
+        event->setAccepted(!cancel);
+    }
+
+  private:
+    MdiWindow& owner_;
+
+  public:
+    QMdiArea* const area;
+};
+
+namespace {
+
+QString ListCaption(const QMdiSubWindow& child, int position) {
+    const QString title = child.windowTitle().replace('&', "&&");
+    return (position < 10 ? QString("&%1 %2") : QString("%1 %2")).arg(position).arg(title);
+}
+
+void FillWindowList(QMdiArea& area, Menu& menu) {
+    int position = 0;
+    for (QMdiSubWindow* child : area.subWindowList()) {
+        if (child->isHidden())
+            continue;
+        menu.Add(ListCaption(*child, ++position).toStdString(), "",
+                 [&area, child] { area.setActiveSubWindow(child); });
+    }
+    if (position == 0)
+        menu.Add("(No window is open)", "", [] {}).SetEnabled(false);
+}
+
+}  // namespace
+
+MdiWindow::MdiWindow(const std::string& caption) {
+    SetWidget(new Window(*this));
+    SetCaption(caption);
+}
+
+MdiWindow::~MdiWindow() {
+    delete Widget();
+}
+
+MdiWindow::Window& MdiWindow::Inner() const {
+    return *static_cast<Window*>(Widget());
+}
+
+QMdiArea& MdiWindow::Area() const {
+    return *Inner().area;
+}
+
+std::string MdiWindow::Caption() const {
+    return caption_;
+}
+
+void MdiWindow::SetCaption(const std::string& caption) {
+    caption_ = caption;
+    Inner().setWindowTitle(QString::fromStdString(caption));
+}
+
+int MdiWindow::ScaleWidth() const {
+    return Area().width() * TwipsPerPixel;
+}
+
+int MdiWindow::ScaleHeight() const {
+    return Area().height() * TwipsPerPixel;
+}
+
+int MdiWindow::ScreenWidth() {
+    return QGuiApplication::primaryScreen()->availableGeometry().width() * TwipsPerPixel;
+}
+
+int MdiWindow::ScreenHeight() {
+    return QGuiApplication::primaryScreen()->availableGeometry().height() * TwipsPerPixel;
+}
+
+Menu MdiWindow::AddMenu(const std::string& caption) {
+    return {*Inner().menuBar(), caption};
+}
+
+Menu MdiWindow::AddWindowList(const std::string& caption) {
+    Menu menu = AddMenu(caption);
+    menu.SetFiller([area = &Area()](Menu& list) { FillWindowList(*area, list); });
+    return menu;
+}
+
+void MdiWindow::Show() {
+    Inner().show();
+}
+
+void MdiWindow::Close() {
+    Inner().close();
+}
+
+}  // namespace trabeon

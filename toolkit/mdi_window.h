@@ -1,0 +1,50 @@
+// The program's one top-level window: a menu bar above a desktop for the child windows.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "toolkit/menu.h"
+#include "toolkit/placement.h"
+
+class QMdiArea;
+
+namespace trabeon {
+
+class MdiWindow : public Placement {
+  public:
+    explicit MdiWindow(const std::string& caption);
+    ~MdiWindow() override;
+
+    // The user closes the window, or Close does: QueryUnload first, then Unload. Either may set
+    // cancel, and the window stays; the second is run only if the first did not.
+    std::function<void(bool& cancel)> QueryUnload;
+    std::function<void(bool& cancel)> Unload;
+
+    // The caption proper: the title bar may show a maximised child's beside it.
+    std::string Caption() const;
+    void SetCaption(const std::string& caption);
+    // The desktop's size, in twips.
+    int ScaleWidth() const;
+    int ScaleHeight() const;
+    static int ScreenWidth();
+    static int ScreenHeight();
+
+    Menu AddMenu(const std::string& caption);
+    // A menu of the child windows in sight; choosing one brings it to the front.
+    Menu AddWindowList(const std::string& caption);
+
+    void Show();
+    void Close();
+
+    // Where the child windows stand.
+    QMdiArea& Area() const;
+
+  private:
+    class Window;
+    Window& Inner() const;
+
+    std::string caption_;
+};
+
+}  // namespace trabeon
