@@ -31,4 +31,8 @@ void Application::Yield() {
     QApplication::processEvents();
 }
 
+std::string Application::Folder() {
+    return QCoreApplication::applicationDirPath().toStdString();
+}
+
 }  // namespace trabeon

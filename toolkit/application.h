@@ -18,6 +18,8 @@ class Application {
 
     // The picture in the corner of every window.
     static void SetIcon(const std::string& path);
+    // The folder of the program file.
+    static std::string Folder();
     // Handles events until Outside::End or until the last window has closed.
     int Run();
     // Lets the windows repaint and answer in the middle of a long handler.

@@ -231,4 +231,9 @@ Outcome<ProjectTitle> unpackProject(const std::filesystem::path& file,
     return project->title;
 }
 
+std::string captionName(std::string_view fullPath) {
+    const auto first = fullPath.find_first_of("\\/");
+    return std::string(first == fullPath.npos ? fullPath : fullPath.substr(first + 1));
+}
+
 }  // namespace trabeon

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 #include "core/outcome.h"
 
@@ -37,5 +38,9 @@ struct Project {
 /// file is read and checked whole first: if it is refused, no working file changes.
 [[nodiscard]] Outcome<ProjectTitle> unpackProject(const std::filesystem::path& file,
                                                   const std::filesystem::path& folder);
+
+/// The name that the main window's caption shows: what follows the leftmost separator of a full
+/// path.
+[[nodiscard]] std::string captionName(std::string_view fullPath);
 
 }  // namespace trabeon

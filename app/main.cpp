@@ -1,0 +1,14 @@
+// trabeon: the program with its window.
+#include "forms/main/frmTrabeon.h"
+#include "toolkit/application.h"
+#include "toolkit/desktop.h"
+
+int main(int argc, char** argv) {
+    using namespace trabeon;
+    Application application(argc, argv);
+    const Desktop desktop;
+    const auto folder = Application::Folder();
+    Application::SetIcon((std::filesystem::path(folder) / "trabeon.png").string());
+    frmTrabeon program(folder);
+    return program.Start() ? application.Run() : 0;
+}

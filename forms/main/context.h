@@ -1,0 +1,21 @@
+// What the forms of one run share: the working folder, the record of unsaved changes, the file
+// dialogs, the menu entries that an analysis opens, and the registry of forms.
+#pragma once
+
+#include <filesystem>
+
+#include "toolkit/common_dialog.h"
+#include "toolkit/forms.h"
+#include "toolkit/menu.h"
+
+namespace trabeon {
+
+struct Context {
+    std::filesystem::path folder;  // of the working files
+    int dataChanged = 0;           // 1 while the project has changes that are not saved
+    CommonDialog CommonDialog1;    // serves all file dialogs
+    MenuEntry mnuContinuous, mnuSingle;
+    Forms& forms;
+};
+
+}  // namespace trabeon

@@ -1,0 +1,37 @@
+// The project's title data: its three boxes are the only place where they live.
+#pragma once
+
+#include "core/store/project_file.h"
+#include "forms/main/context.h"
+#include "toolkit/button.h"
+#include "toolkit/form.h"
+#include "toolkit/label.h"
+#include "toolkit/text_box.h"
+
+namespace trabeon {
+
+class frmTitle : public Form {
+  public:
+    static constexpr const char* Name = "frmTitle";
+
+    explicit frmTitle(Context& context);
+
+    [[nodiscard]] ProjectTitle Title() const;
+    void SetTitle(const ProjectTitle& title);
+
+    Label lblProject{*this, "Project Title"};
+    TextBox txtProject{*this, ProjectTitle().project};
+    Label lblDesigner{*this, "Designer"};
+    TextBox txtDesigner{*this, ProjectTitle().designer};
+    Label lblBeamName{*this, "Beam Name"};
+    TextBox txtBeamName{*this, ProjectTitle().beamName};
+    Button cmdOK{*this, "&Ok"};
+
+  private:
+    void cmdOK_Click();
+    void txt_Change();
+
+    Context& context_;
+};
+
+}  // namespace trabeon

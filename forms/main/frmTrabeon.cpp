@@ -1,0 +1,201 @@
+#include "forms/main/frmTrabeon.h"
+
+#include "core/store/project_file.h"
+#include "core/store/replacing_file.h"
+#include "core/store/working_files.h"
+#include "forms/main/frmTitle.h"
+#include "forms/main/messages.h"
+#include "forms/results/frmAnalysis.h"
+#include "forms/results/frmOptions.h"
+#include "toolkit/outside.h"
+
+namespace trabeon {
+namespace {
+
+constexpr auto untitled = "Untitled";
+constexpr auto untitledCaption = "Trabeon - Untitled";
+constexpr auto projectFilter = "Trabeon File (*.TB) |*.TB";
+constexpr int openFlags = 2052;
+constexpr int saveFlags = 10246;
+constexpr int yesNoCancel = 51;
+
+}  // namespace
+
+frmTrabeon::frmTrabeon(const std::filesystem::path& folder)
+    : window_(untitledCaption), forms_(window_), context_{folder, 0, {}, {}, {}, forms_} {
+    registerForms();
+    addMenus();
+    window_.QueryUnload = [this](bool& cancel) { QueryUnload(cancel); };
+    window_.Unload = [this](bool& cancel) { Unload(cancel); };
+}
+
+void frmTrabeon::registerForms() {
+    forms_.Register<frmTitle>(context_);
+    forms_.Register<frmAnalysis>(context_);
+    forms_.Register<frmOptions>(context_);
+}
+
+bool frmTrabeon::Start() {
+    window_.Show();
+    openPage("Contents and Index.htm");
+    if (Outside::Current().AnotherCopyRuns(context_.folder.string())) {
+        warn("Trabeon is already running.");
+        return false;
+    }
+    CenterForm(window_);
+    if (!folderIsWritable()) {
+        warn("Trabeon keeps its working files in its own folder, \"" + context_.folder.string() +
+             "\", and cannot write there. Move the program to a folder of yours, then start it "
+             "again.");
+        return false;
+    }
+    CreateNFile(context_.folder);
+    setProjectName(untitled);
+    return true;
+}
+
+bool frmTrabeon::folderIsWritable() const {
+    const auto probe = context_.folder / "Writable.tmp";
+    if (replaceFile(probe, {}))
+        return false;
+    MurderFile(probe);
+    return true;
+}
+
+void frmTrabeon::SaveChanges() {
+    if (context_.dataChanged == 0)
+        return;
+    switch (
+        Outside::Current().MsgBox("Save changes to Trabeon Analysis?", yesNoCancel, "Trabeon")) {
+        case Answer::Yes:
+            mnuSave_Click();
+            break;
+        case Answer::No:
+            context_.dataChanged = 0;
+            break;
+        default:
+            break;
+    }
+}
+
+bool frmTrabeon::FileSave() {
+    const auto title = forms_.Get<frmTitle>().Title();
+    if (const auto failure = packProject(context_.folder, title, context_.CommonDialog1.FileName)) {
+        warn(failure->sentence);
+        return false;
+    }
+    context_.dataChanged = 0;
+    return true;
+}
+
+void frmTrabeon::FileSaveAs() {
+    auto& dialog = context_.CommonDialog1;
+    const auto former = dialog.FileName;
+    dialog.Filter = projectFilter;
+    dialog.DialogTitle = "Save Trabeon File";
+    dialog.Flags = saveFlags;
+    if (!dialog.ShowSave())
+        return;
+    if (FileSave())
+        setProjectName(captionName(dialog.FileName));
+    else
+        dialog.FileName = former;
+}
+
+bool frmTrabeon::FileOpen() {
+    auto& dialog = context_.CommonDialog1;
+    const auto former = dialog.FileName;
+    dialog.Filter = projectFilter;
+    dialog.DialogTitle = "Open Trabeon File";
+    dialog.Flags = openFlags;
+    if (!dialog.ShowOpen())
+        return false;
+    const auto title = unpackProject(dialog.FileName, context_.folder);
+    if (!title) {
+        dialog.FileName = former;
+        warn(title.refusal().sentence);
+        return false;
+    }
+    setProjectName(captionName(dialog.FileName));
+    fillTitle(*title);
+    forms_.Get<frmAnalysis>().ShowTable();
+    return true;
+}
+
+void frmTrabeon::fillTitle(const ProjectTitle& title) {
+    auto& form = forms_.Get<frmTitle>();
+    form.SetTitle(title);
+    form.Hide();
+}
+
+void frmTrabeon::mnuNew_Click() {
+    SaveChanges();
+    if (context_.dataChanged == 1)
+        return;
+    forms_.UnloadAll();
+    CreateNFile(context_.folder);
+    setProjectName(untitled);
+}
+
+void frmTrabeon::mnuOpen_Click() {
+    SaveChanges();
+    if (context_.dataChanged == 1)
+        return;
+    const auto* titleForm = forms_.Loaded<frmTitle>();
+    const auto title = titleForm == nullptr ? ProjectTitle() : titleForm->Title();
+    const bool titled = titleForm != nullptr;
+    forms_.UnloadAll();
+    if (FileOpen() || !titled)
+        return;
+    fillTitle(
+        title);  // the project that stays open keeps its title, and is no more changed by that
+    context_.dataChanged = 0;
+}
+
+void frmTrabeon::mnuSave_Click() {
+    if (window_.Caption() == untitledCaption)
+        mnuSaveAs_Click();
+    else
+        FileSave();
+}
+
+void frmTrabeon::mnuSaveAs_Click() {
+    FileSaveAs();
+}
+
+void frmTrabeon::mnuExit_Click() {
+    SaveChanges();
+    if (context_.dataChanged == 1)
+        return;
+    for (const auto name : filesDeletedAtExit)
+        MurderFile(context_.folder / name);
+    Outside::Current().End();
+}
+
+void frmTrabeon::QueryUnload(bool&) {
+    SaveChanges();
+}
+
+void frmTrabeon::Unload(bool& cancel) {
+    cancel = context_.dataChanged != 0;
+    mnuExit_Click();
+}
+
+void frmTrabeon::openPage(const char* name) {
+    Outside::Current().OpenDocument((context_.folder / name).string());
+}
+
+void frmTrabeon::setProjectName(std::string_view name) {
+    window_.SetCaption("Trabeon - " + std::string(name));
+}
+
+void CenterForm(Placement& frm, const Placement* vParent) {
+    const int left = vParent == nullptr ? 0 : vParent->Left();
+    const int top = vParent == nullptr ? 0 : vParent->Top();
+    const int width = vParent == nullptr ? MdiWindow::ScreenWidth() : vParent->Width();
+    const int height = vParent == nullptr ? MdiWindow::ScreenHeight() : vParent->Height();
+    frm.Move(left + (width - frm.Width()) / 2, top + (height - frm.Height()) / 2, frm.Width(),
+             frm.Height());
+}
+
+}  // namespace trabeon

@@ -1,0 +1,77 @@
+#include "forms/results/frmAnalysis.h"
+
+#include <algorithm>
+#include <chrono>
+
+#include "core/analysis/result_files.h"
+#include "forms/results/frmOptions.h"
+#include "toolkit/outside.h"
+#include "toolkit/wait_cursor.h"
+
+namespace trabeon {
+namespace {
+
+constexpr Colour grey = 0xC0C0C0;
+
+/// Moves a bar at the screen's pace: at once to 0, 50 and 100, in between when a while has passed.
+class PacedProgress {
+  public:
+    explicit PacedProgress(ProgressBar& bar) : bar_(bar) {}
+
+    void operator()(double percent) {
+        const auto now = std::chrono::steady_clock::now();
+        const bool mark = percent == 0 || percent == 50 || percent == 100;
+        if (!mark && now - last_ < std::chrono::milliseconds(33))
+            return;
+        last_ = now;
+        bar_.SetValue(percent);
+    }
+
+  private:
+    ProgressBar& bar_;
+    std::chrono::steady_clock::time_point last_;
+};
+
+}  // namespace
+
+frmAnalysis::frmAnalysis(Context& context) : Form("Trabeon Analysis"), context_(context) {
+    cmdAnalyse.Click = [this] { cmdAnalyse_Click(); };
+    txtTBResults.SetFont("Terminal", 9, true);
+    txtTBResults.SetBackColor(grey);
+    txtTBResults.SetAccessibleName("Balance table");
+    PBAnalysis.SetAccessibleName("Progress of the analysis");
+    SetTabOrder({&cmdAnalyse, &txtTBResults});
+}
+
+void frmAnalysis::Form_Load() {
+    Move(0, 0, 4755, 4020);
+}
+
+void frmAnalysis::Form_Resize() {
+    txtTBResults.Move(100, 600, ScaleWidth() - 200, ScaleHeight() - 600);
+    cmdAnalyse.Move(50, 10, cmdAnalyse.Width(), cmdAnalyse.Height());
+    const int left = cmdAnalyse.Width() + 350;
+    PBAnalysis.Move(left, 50, std::max(0, Width() - left - 300), PBAnalysis.Height());
+}
+
+void frmAnalysis::ShowTable() {
+    txtTBResults.SetText(readWhole(context_.folder / working_file::balanceTable));
+}
+
+void frmAnalysis::cmdAnalyse_Click() {
+    context_.mnuContinuous.SetEnabled(true);
+    context_.mnuSingle.SetEnabled(true);
+    auto& options = context_.forms.Get<frmOptions>();
+    const auto settings = options.Settings();
+    options.Hide();
+    const WaitCursor wait;
+    AnalysisOutputs outputs;
+    outputs.message = [](const Message& message) {
+        Outside::Current().MsgBox(message.text, message.style, message.title);
+    };
+    outputs.progress = PacedProgress(PBAnalysis);
+    if (analyseFolder(context_.folder, settings, outputs))
+        ShowTable();
+}
+
+}  // namespace trabeon

@@ -1,0 +1,74 @@
+// The whole program in a working folder of its own, with a scripted way out.
+#pragma once
+
+#include <QAction>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+
+#include "forms/main/frmTrabeon.h"
+#include "tests/support/scripted_outside.h"
+#include "tests/support/temporary_folder.h"
+
+namespace trabeon::test {
+
+class ProgramTest : public testing::Test {
+  protected:
+    /// Starts the program: the manual opens, no other copy runs.
+    void Start() {
+        outside.ExpectDocument((folder / "Contents and Index.htm").string());
+        outside.ExpectCopyCheck(false);
+        ASSERT_TRUE(program.Start());
+        window().activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    }
+
+    /// Chooses an entry by its captions, as "&File|&New"; it must be there and enabled.
+    void Choose(const QString& path) {
+        auto* action = Entry(path);
+        ASSERT_NE(action, nullptr) << path.toStdString();
+        ASSERT_TRUE(action->isEnabled()) << path.toStdString();
+        action->trigger();
+    }
+
+    QAction* Entry(const QString& path) {
+        QList<QAction*> actions = menuBar().actions();
+        QAction* found = nullptr;
+        for (const auto& caption : path.split('|')) {
+            found = nullptr;
+            for (auto* action : actions)
+                if (action->text() == caption)
+                    found = action;
+            if (found == nullptr)
+                return nullptr;
+            if (found->menu() != nullptr)
+                actions = found->menu()->actions();
+        }
+        return found;
+    }
+
+    static void Type(Control& control, const QString& keys) {
+        QTest::keyClicks(control.Widget(), keys);
+    }
+    static void Press(Control& control, Qt::Key key) { QTest::keyClick(control.Widget(), key); }
+    static void Click(Control& control) { QTest::mouseClick(control.Widget(), Qt::LeftButton); }
+
+    /// Whatever was put off until the handlers have ended, forms that go included.
+    static void Settle() {
+        QApplication::processEvents();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    QWidget& window() { return *program.window().Widget(); }
+    QMenuBar& menuBar() { return *window().findChild<QMenuBar*>(); }
+    Context& context() { return program.context(); }
+    Forms& forms() { return program.context().forms; }
+    std::string caption() { return program.window().Caption(); }
+
+    ScriptedOutside outside;
+    TemporaryFolder folder;
+    frmTrabeon program{folder.path()};
+};
+
+}  // namespace trabeon::test
