@@ -20,7 +20,7 @@ bool CommonDialog::ShowSave() {
 
 bool CommonDialog::Show(bool saves) {
     const std::string chosen = Outside::Current().AskFile(
-        {saves, (Flags & OverwritePrompt) != 0, DialogTitle, Filter, FileName});
+        {saves, (Flags & OverwritePrompt) != 0, DialogTitle, Filter, FileName, InitDir});
     if (chosen.empty())
         return false;
     FileName = chosen;

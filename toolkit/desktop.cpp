@@ -121,6 +121,8 @@ std::string Desktop::AskFile(const FileQuestion& question) {
     dialog.setAcceptMode(question.saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(question.saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !question.asksBeforeOverwriting);
+    if (!question.folder.empty())
+        dialog.setDirectory(QString::fromStdString(question.folder));
     if (!question.fileName.empty())
         dialog.selectFile(QString::fromStdString(question.fileName));
     if (dialog.exec() != QDialog::Accepted)

@@ -19,6 +19,7 @@ struct FileQuestion {
     std::string title;
     std::string filter;    // "Trabeon File (*.TB) |*.TB"
     std::string fileName;  // where the dialog starts
+    std::string folder{};  // the same while there is no file name
 };
 
 class Outside {

@@ -21,7 +21,10 @@ frmTitle::frmTitle(Context& context)
     cmdOK.Move(4005, top + 60, 1215, 375);
     cmdOK.Click = [this] { cmdOK_Click(); };
     SetTabOrder({&txtProject, &txtDesigner, &txtBeamName, &cmdOK});
-    SetScaleSize(5400, top + 615);
+}
+
+void frmTitle::Form_Load() {
+    SetScaleSize(5400, 2190);
 }
 
 ProjectTitle frmTitle::Title() const {

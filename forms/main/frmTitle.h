@@ -27,6 +27,9 @@ class frmTitle : public Form {
     TextBox txtBeamName{*this, ProjectTitle().beamName};
     Button cmdOK{*this, "&Ok"};
 
+  protected:
+    void Form_Load() override;
+
   private:
     void cmdOK_Click();
     void txt_Change();

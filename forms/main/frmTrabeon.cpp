@@ -23,6 +23,7 @@ constexpr int yesNoCancel = 51;
 
 frmTrabeon::frmTrabeon(const std::filesystem::path& folder)
     : window_(untitledCaption), forms_(window_), context_{folder, 0, {}, {}, {}, forms_} {
+    context_.CommonDialog1.InitDir = (folder / "examples").string();
     registerForms();
     addMenus();
     window_.QueryUnload = [this](bool& cancel) { QueryUnload(cancel); };

@@ -16,12 +16,12 @@ constexpr int backspace = 8;
 
 frmOptions::frmOptions(Context& context) : Form("Plotting Options"), context_(context) {
     fmOptions.Move(120, 60, 7860, 3900);
-    lblDivision.Move(240, 315, 3000, 255);
-    txtDivision.Move(3300, 255, 900, 345);
-    lblDivision2.Move(4320, 315, 1500, 255);
-    lblPlaces.Move(240, 780, 3000, 255);
-    txtPlaces.Move(3300, 720, 900, 345);
-    lblPlaces2.Move(4320, 780, 1500, 255);
+    lblDivision.Move(240, 315, 3180, 255);
+    txtDivision.Move(3480, 255, 900, 345);
+    lblDivision2.Move(4500, 315, 1500, 255);
+    lblPlaces.Move(240, 780, 3180, 255);
+    txtPlaces.Move(3480, 720, 900, 345);
+    lblPlaces2.Move(4500, 780, 1500, 255);
     int left = 240;
     for (auto [heading, option, picture, change] :
          {std::tuple{&lblBMD, &lblMOption, &WebMoment, &cmdChangeM},
@@ -41,12 +41,13 @@ frmOptions::frmOptions(Context& context) : Form("Plotting Options"), context_(co
 
     txtDivision.Change = [this] { DisablePlot(context_); };
     txtPlaces.Change = [this] { DisablePlot(context_); };
+    for (auto* box : {&txtDivision, &txtPlaces})
+        box->GotFocus = [box] { box->SelectAll(); };
     txtDivision.KeyPress = [this](int& keyAscii) { txtDivision_KeyPress(keyAscii); };
     cmdChangeM.Click = [this] { cmdChangeM_Click(); };
     cmdChangeS.Click = [this] { cmdChangeS_Click(); };
     cmdOptionsOK.Click = [this] { cmdOptionsOK_Click(); };
     SetTabOrder({&txtDivision, &txtPlaces, &cmdChangeM, &cmdChangeS, &cmdOptionsOK});
-    SetScaleSize(8100, 4575);
 }
 
 AnalysisSettings frmOptions::Settings() const {
@@ -55,6 +56,7 @@ AnalysisSettings frmOptions::Settings() const {
 }
 
 void frmOptions::Form_Load() {
+    SetScaleSize(8100, 4575);
     show(WebMoment, "BMBot.gif");
     show(WebShear, "STop.gif");
 }
