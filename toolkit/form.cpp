@@ -123,6 +123,9 @@ int Form::ScaleHeight() const {
 }
 
 void Form::SetScaleSize(int width, int height) {
+    if (!Widget()->isVisible() && border_ != FormBorder::FixedDialog) {
+        wantedInside_ = {width, height};  // a child has its border from its first showing on
+    }
     const QSize border = Widget()->size() - body_->size();
     Resize(ToPixels(width) + border.width(), ToPixels(height) + border.height());
 }
@@ -169,6 +172,8 @@ void Form::Show() {
     if (frame->isMinimized())
         frame->showNormal();
     frame->show();
+    if (const auto [width, height] = std::exchange(wantedInside_, {}); width > 0)
+        SetScaleSize(width, height);
     window_->Area().setActiveSubWindow(frame);
 }
 

@@ -5,6 +5,7 @@
 #include <initializer_list>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "toolkit/menu.h"
 #include "toolkit/placement.h"
@@ -76,6 +77,7 @@ class Form : public Placement, public Container {
     Forms* forms_ = nullptr;
     MdiWindow* window_ = nullptr;
     std::function<void()> endDialog_;
+    std::pair<int, int> wantedInside_;  // twips, until the form first shows
     bool loaded_ = false;
     bool hidden_ = false;
 };

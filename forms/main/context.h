@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 
 #include "toolkit/common_dialog.h"
 #include "toolkit/forms.h"
@@ -16,6 +17,8 @@ struct Context {
     CommonDialog CommonDialog1;    // serves all file dialogs
     MenuEntry mnuContinuous, mnuSingle;
     Forms& forms;
+    // Pastes the clipboard's picture into the report; the report takes this place up at start.
+    std::function<void()> pasteIntoReport{};
 };
 
 }  // namespace trabeon

@@ -12,6 +12,8 @@ TEST_F(Title, TypedTextsSetTheFlagAndStayWhenHidden) {
     Start();
     Choose("&Structure|&Title");
     auto& title = forms().Get<frmTitle>();
+    EXPECT_EQ(title.ScaleHeight(), 2190);
+    EXPECT_LT(title.cmdOK.Top() + title.cmdOK.Height(), title.ScaleHeight());
     EXPECT_TRUE(title.txtProject.HasFocus());
     EXPECT_EQ(title.txtProject.SelLength(), 8);  // the whole text, on entry
     EXPECT_EQ(context().dataChanged, 0);
