@@ -5,6 +5,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <fstream>
 
 #include "core/analysis/result_files.h"
