@@ -23,6 +23,7 @@ TEST(Beams, HaveTheEndMomentsOfTheForceMethod) {
     forRandomBeams(400, [](const BeamBuilder& beam) {
         const auto exact = jointMoments(beam);
         const auto told = analysed(beam);
+        ASSERT_EQ(told.messages, std::vector<std::string>{});
         for (std::size_t i = 1; i <= beam.members.size(); ++i) {
             EXPECT_NEAR(told->Final[2 * i - 1], exact[i - 1], allowed(beam)) << "left end of " << i;
             EXPECT_NEAR(told->Final[2 * i], -exact[i], allowed(beam)) << "right end of " << i;
@@ -107,14 +108,20 @@ TEST(Beams, HaveTheMirrorImageOfTheirResultInAMirror) {
 
 TEST(Beams, AddUpTheirLoads) {
     forRandomBeams(100, [](const BeamBuilder& beam) {
-        auto points = beam, udls = beam;  // all of the one kind twice, and all of the other
-        points.udls.clear();
-        udls.points.clear();
-        for (auto& load : points.points)
+        auto twice = beam, once = beam;  // every other load doubled, and the rest as it is
+        for (std::size_t k = 0; k < beam.points.size(); ++k)
+            (k % 2 == 0 ? once : twice).points[k].P = 0;
+        for (std::size_t k = 0; k < beam.udls.size(); ++k) {
+            auto& load = (k % 2 == 0 ? once : twice).udls[k];
+            load.w1 = load.w2 = 0;
+        }
+        for (auto& load : twice.points)
             load.P *= 2;
-        const auto both = analysed(beam), twice = analysed(points), once = analysed(udls);
-        for (std::size_t k = 1; k < both->Final.size(); ++k)
-            EXPECT_NEAR(both->Final[k], twice->Final[k] / 2 + once->Final[k], 2.5 * allowed(beam));
+        for (auto& load : twice.udls)
+            load = {load.member, load.a, load.b, load.w1 * 2, load.w2 * 2};
+        const auto all = analysed(beam), doubled = analysed(twice), rest = analysed(once);
+        for (std::size_t k = 1; k < all->Final.size(); ++k)
+            EXPECT_NEAR(all->Final[k], doubled->Final[k] / 2 + rest->Final[k], 2.5 * allowed(beam));
     });
 }
 
@@ -143,11 +150,23 @@ TEST(Beams, HaveTheSameMomentsInOtherUnits) {
 }
 
 TEST(Beams, SettleWhenTheLastBalanceIsAHundredthOrLess) {
-    // Pinned at both ends, under PL/8 = P, each cycle halves the balance: 40.96 = 2^12 × 0.01.
-    for (const auto& [P, cycles] : {std::pair{40.96, 12U}, std::pair{40.97, 13U}}) {
-        const auto told = analysed(BeamBuilder(pin).member(8, pin).point(1, 4, P));
-        EXPECT_EQ(told.table.size(), 4 + 2 * cycles + 1) << P;
-    }
+    const auto halving = [](double P) { return BeamBuilder(pin).member(8, pin).point(1, 4, P); };
+    auto balanced = BeamBuilder(fixed).member(8, continuous).member(8, fixed);
+    balanced.point(1, 4, 80).point(2, 4, 80);
+    const struct {
+        BeamBuilder beam;
+        std::size_t cycles;
+    } rows[] = {
+        // Pinned at both ends, under PL/8 = P, each cycle halves the balance: 40.96 = 2^12 × 0.01.
+        {halving(40.96), 12},
+        {halving(40.97), 13},
+        // One carry-over and one balance are always made.
+        {balanced, 1},
+        {BeamBuilder(fixed).member(8, fixed), 1},
+    };
+    for (const auto& [beam, cycles] : rows)
+        EXPECT_EQ(analysed(beam).table.size(), 4 + 2 * cycles + 1) << cycles << " cycles";
+    EXPECT_EQ(analysed(balanced).progress, (std::vector<double>{0, 50, 75, 100}));
 }
 
 }  // namespace

@@ -78,6 +78,9 @@ TEST(Station, ReadsAsStaticsSay) {
     };
     const auto free = loaded(BeamBuilder(fixed).member(0.7, cantilever));
     const auto overhang = BeamBuilder(cantilever).member(0.7, continuous).member(1.1, fixed);
+    const auto tip = [](double P) {
+        return BeamBuilder(cantilever).member(10, fixed).point(1, 0, P);
+    };
     const struct {
         BeamBuilder beam;
         double Divisions;
@@ -101,6 +104,11 @@ TEST(Station, ReadsAsStaticsSay) {
         {whole, 10, 5, "3.50E-01,1.84E-02,0.00E+00"},
         {free, 7, 7, "7.00E-01,0.00E+00,0.00E+00"},
         {loaded(overhang), 7, 0, "0.00E+00,0.00E+00,0.00E+00"},
+        // Of terms of 1 and -1 more than 10^-12 is a shear, less is rounding.
+        {tip(1).point(1, 1, 1.1e-12 - 1), 5, 1, "2.00E+00,-1.00E+00,1.10E-12"},
+        {tip(1).point(1, 1, 0.9e-12 - 1), 5, 1, "2.00E+00,-1.00E+00,0.00E+00"},
+        // No reaction at a free end, so a large load farther on blurs nothing.
+        {tip(1e-9).point(1, 8, 1e6), 10, 1, "1.00E+00,-1.00E-09,1.00E-09"},
     };
     for (const auto& [beam, Divisions, k, row] : rows)
         EXPECT_EQ(rowOf(*analysed(beam, {Divisions, 3}).analysis, 1, k), row);
