@@ -179,7 +179,7 @@ def member_messages(joints, members):
     return [" Please provide more Joints as Total Joints are less than Total Members."]
 
 
-def undefined_messages(joints, members, udls):
+def undefined_messages(joints, members, points, udls):
     """What no result is defined for."""
     messages = []
     for i, row in enumerate(joints, 1):
@@ -193,6 +193,7 @@ def undefined_messages(joints, members, udls):
         if number(row[2]) == 0 and (number(row[3]) != 0 or number(row[4]) != 0):
             messages.append("Distributed load %d: the width is 0." % i)
     for what, rows in (("Member", [row[1:4] for row in members]),
+                       ("Point load", [row[1:3] for row in points]),
                        ("Distributed load", [row[1:5] for row in udls])):
         for i, row in enumerate(rows, 1):
             if not all(math.isfinite(number(text)) for text in row):
@@ -448,7 +449,7 @@ def analyse(folder, divisions, places):
                          ["1", "0", "Zero Load"])
     udls = normal_form(read_rows(folder, "Udl.txt", 6), len(members), [3, 4],
                        ["0", "1", "0", "0", "Zero Load"])
-    messages = undefined_messages(joints, members, udls)
+    messages = undefined_messages(joints, members, points, udls)
     if messages:
         return messages, {}
 
