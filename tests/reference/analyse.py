@@ -317,7 +317,8 @@ def relax(beam):
         row = balance(carried, left[1], right[n])
         write("Bal..", row)
         add(row)
-        if all(-0.01 <= row[k] <= 0.01 for k in range(1, end_count + 1)):
+        limit = 0.01 * (1 + 1e-12)  # a moment that is 0.01 on paper counts as 0.01
+        if all(-limit <= row[k] <= limit for k in range(1, end_count + 1)):
             break
     write("Final", final)
     return table, final
