@@ -169,12 +169,15 @@ void Form::Show() {
         return;
     }
     auto* frame = static_cast<ChildFrame*>(Widget());
+    const bool comesUp = !frame->isVisible();
     if (frame->isMinimized())
         frame->showNormal();
     frame->show();
     if (const auto [width, height] = std::exchange(wantedInside_, {}); width > 0)
         SetScaleSize(width, height);
     window_->Area().setActiveSubWindow(frame);
+    if (comesUp && first_)
+        first_->Widget()->setFocus();  // hiding moved the focus on
 }
 
 // The form may be gone when the loop returns: nothing of it is touched from there on.
@@ -217,6 +220,7 @@ void Form::Retire() {
 }
 
 void Form::SetTabOrder(std::initializer_list<const Control*> controls) {
+    first_ = *controls.begin();
     const Control* former = nullptr;
     for (const Control* control : controls) {
         if (former)

@@ -56,6 +56,7 @@ class Form : public Placement, public Container {
     // Runs before the form first shows and at each change of its inner size from then on.
     virtual void Form_Resize() {}
 
+    // The first of them has the focus each time the form comes up.
     void SetTabOrder(std::initializer_list<const Control*> controls);
     Menu AddMenu(const std::string& caption);
 
@@ -79,6 +80,7 @@ class Form : public Placement, public Container {
     MdiWindow* window_ = nullptr;
     std::function<void()> endDialog_;
     std::pair<int, int> wantedInside_;  // twips, until the form first shows
+    const Control* first_ = nullptr;
     bool loaded_ = false;
     bool hidden_ = false;
 };

@@ -66,7 +66,6 @@ until_true active "$name"
 rows_of_first_span 13 || fail "the second copy touched the files"
 
 key alt+d o
-key ctrl+a
 type_text "20"
 key alt+o
 key alt+s a
