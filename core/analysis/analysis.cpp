@@ -54,6 +54,8 @@ Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
     if (!beam)
         return beam.refusal();
     const auto n = beam->members();
+    rows.joints = {};  // their memory serves the loads
+    rows.members = {};
     auto points = normalForm<PointLoad>(std::move(rows.points), n);
     if (!points)
         return points.refusal();

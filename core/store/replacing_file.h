@@ -38,7 +38,7 @@ class ReplacingFile {
     [[nodiscard]] Failure commit();
 
   private:
-    static constexpr std::size_t capacity = 256 * 1024;
+    static constexpr std::size_t capacity = 64 * 1024;
 
     void flush();
     void noteError();

@@ -1,6 +1,7 @@
 // The rows of the four input files and of the beam dimensions: text as the user typed it.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <string_view>
@@ -114,6 +115,8 @@ template <class Row>
 template <class Row>
 [[nodiscard]] std::vector<Row> rowsOf(std::string_view text) {
     std::vector<Row> rows;
+    const auto lines = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+    rows.reserve(std::min(lines, text.size() / Row::fields.size()) + 1);
     FieldReader reader(text);
     while (!reader.atEnd())
         rows.push_back(readRow<Row>(reader));

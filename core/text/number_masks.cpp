@@ -103,6 +103,16 @@ char* putFigures(char* at, double value) {
     return putMantissaAndShortExponent(at, digits, exponent);
 }
 
+/// Of a per cent of a factor from 0 to 1. The scaled factor is off by less than 1e-9, and rounding
+/// at 15 significant digits moves it by at most 5e-9; so near a tie the plain way decides.
+std::uint64_t hundredThousandthsOf(double factor) {
+    const double scaled = factor * 1e7;
+    const double rounded = std::floor(scaled + 0.5);
+    if (factor <= 1 && std::fabs(std::fabs(scaled - rounded) - 0.5) > 1e-8)
+        return static_cast<std::uint64_t>(rounded);
+    return scaledWhole(decimalOf(factor), 7);
+}
+
 }  // namespace
 
 char* putThreeFigures(char* at, double value) {
@@ -123,7 +133,7 @@ char* putThreeFiguresPlainly(char* at, double value) {
 }
 
 char* putPercent(char* at, double factor) {
-    auto hundredThousandths = scaledWhole(decimalOf(factor), 7);
+    auto hundredThousandths = hundredThousandthsOf(factor);
     const auto whole = hundredThousandths / 100'000;
     if (whole >= 100)
         *at++ = static_cast<char>('0' + whole / 100);
