@@ -86,8 +86,10 @@ Decimal decimalOf(double value) {
     const double size = std::fabs(value);
     DigitBuffer buffer;
     const auto few = shortest(buffer, size);
+    // Below the least normal number a double holds fewer digits than it shows when rounded to 15.
+    const bool exact = few.mantissa.size() <= significant && std::isnormal(size);
     Decimal decimal;
-    if (few.mantissa.size() <= significant) {
+    if (exact) {
         const auto missing = significant - static_cast<int>(few.mantissa.size());
         decimal = {false, wholeOf(few.mantissa) * powerOfTen(missing), few.exponent};
     } else {
