@@ -4,6 +4,8 @@
 #include <cstring>
 #include <utility>
 
+#include "core/store/working_files.h"
+
 namespace trabeon {
 namespace {
 
@@ -85,6 +87,11 @@ Refusal ReplacingFile::refusal() const {
             std::generic_category().message(error_) +
             "). What stood there before is unchanged; make room or choose another folder, then try "
             "again."};
+}
+
+void FileSet::put(std::string_view name, std::string_view text) {
+    if (text.empty() || readWhole(folder_ / name) != text)
+        add(name).write(text);
 }
 
 Failure FileSet::commit() {

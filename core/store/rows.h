@@ -103,14 +103,6 @@ void appendRow(std::string& text, const Row& row, Description description) {
     text += "\r\n";
 }
 
-template <class Row>
-[[nodiscard]] Row readRow(FieldReader& reader) {
-    Row row;
-    for (const auto field : Row::fields)
-        row.*field = reader.next();
-    return row;
-}
-
 /// All rows of a file's text. A last row that is short has empty texts for what is missing.
 template <class Row>
 [[nodiscard]] std::vector<Row> rowsOf(std::string_view text) {
@@ -119,7 +111,8 @@ template <class Row>
     rows.reserve(std::min(lines, text.size() / Row::fields.size()) + 1);
     FieldReader reader(text);
     while (!reader.atEnd())
-        rows.push_back(readRow<Row>(reader));
+        for (Row& row = rows.emplace_back(); const auto field : Row::fields)
+            row.*field = reader.next();
     return rows;
 }
 
