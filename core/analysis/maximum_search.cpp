@@ -54,7 +54,7 @@ class MaximumSearch {
     }
 
     SpanMaximum largerEnd(std::size_t span) {
-        const SpanMaximum atLeft{0, B_Moment_, S_Force_};
+        SpanMaximum atLeft{0, B_Moment_, S_Force_};
         const double L = beam_.Length[span];
         calculate(span, L);
         if (size(B_Moment_) >= size(atLeft.moment))
