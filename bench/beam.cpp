@@ -1,5 +1,6 @@
-// Writes a beam of a given number of spans into a folder as the editors would leave it: mixed
-// joint ends, members and loads, numbers of one to four digits, the same on every machine.
+// Writes a beam of a given number of spans into a folder as the editors would leave it before its
+// first analysis: mixed joint ends, members and loads, numbers of one to four digits, the same on
+// every machine.
 #include <array>
 #include <cstdint>
 #include <cstdio>
@@ -116,6 +117,8 @@ int main(int argc, char** argv) {
     }
     std::error_code error;
     std::filesystem::create_directories(argv[2], error);
+    for (const auto name : trabeon::filesDeletedAtExit)
+        trabeon::MurderFile(std::filesystem::path(argv[2]) / name);
     FileSet files(argv[2]);
     writeBeam(files, spans);
     if (const auto failure = files.commit()) {
