@@ -54,7 +54,7 @@ Failure unfitMember(const MemberRow& row, std::size_t number, const Beam& beam) 
         return bad("I", row.I);
     if (!isMeasure(beam.Length[number]))
         return bad("L", row.L);
-    if (!isMeasure(beam.Stiffness[number]))
+    if (!isMeasure(2 * beam.Stiffness[number]))  // two of them are added at a joint
         return Refusal{
             "Member " + std::to_string(number) +
             ": its stiffness E × I / L is too large or too small a number. Use other units."};
