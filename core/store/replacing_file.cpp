@@ -1,7 +1,6 @@
 #include "core/store/replacing_file.h"
 
 #include <cerrno>
-#include <cstring>
 #include <utility>
 
 #include "core/store/working_files.h"
@@ -45,8 +44,7 @@ void ReplacingFile::write(std::string_view text) {
             noteError();
         return;
     }
-    std::memcpy(buffer_.get() + used_, text.data(), text.size());
-    used_ += text.size();
+    used_ += text.copy(buffer_.get() + used_, text.size());
 }
 
 void ReplacingFile::flush() {
