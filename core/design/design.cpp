@@ -107,13 +107,16 @@ Failure unfitForDesign(double Divisions, const MiscProperties& misc) {
     return std::nullopt;
 }
 
+Failure writeDesign(const std::filesystem::path& folder, const BeamDesign& design) {
+    return replaceFile(folder / DesignRow::file, textOf(design.rows, Description::bare));
+}
+
 Outcome<BeamDesign> designFolder(const std::filesystem::path& folder, double Divisions,
                                  const MiscProperties& misc) {
     if (auto failure = unfitForDesign(Divisions, misc))
         return *failure;
     auto design = designBeam(readDesignData(folder, Divisions), misc);
-    const auto text = textOf(design.rows, Description::bare);
-    if (auto failure = replaceFile(folder / DesignRow::file, text))
+    if (auto failure = writeDesign(folder, design))
         return *failure;
     return design;
 }

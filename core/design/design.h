@@ -48,8 +48,11 @@ struct BeamDesign {
 /// Refuses Divisions that an analysis refuses, and properties that are no finite numbers.
 [[nodiscard]] Failure unfitForDesign(double Divisions, const MiscProperties& misc);
 
+/// Writes "DResult.txt" into a working folder anew.
+[[nodiscard]] Failure writeDesign(const std::filesystem::path& folder, const BeamDesign& design);
+
 /// Designs the beam whose working files stand in a folder, analysed with the same Divisions, and
-/// writes "DResult.txt" anew.
+/// writes "DResult.txt".
 [[nodiscard]] Outcome<BeamDesign> designFolder(const std::filesystem::path& folder,
                                                double Divisions, const MiscProperties& misc);
 
