@@ -35,12 +35,16 @@ bool hasResults(const CarriedValues& at) {
         {at.Asprov, at.Aspprov, at.AsvOsvreq, at.AsvOsvprov, at.DefActual, at.DefAllow});
 }
 
-void designSteel(CarriedValues& at, const MiscProperties& misc) {
+/// The steel required; false if it comes out as no finite number.
+bool designSteel(CarriedValues& at, const MiscProperties& misc) {
     DesignMoment(at.b, at.d, at.effd, at.fcu, at.fy, at.YM, at.fyv, at.L, at.dist, at.Moment,
                  at.Shear, at.Asreq, at.Aspreq, at.OriginMoment, at.OriginShear, misc);
     MinReinforcement(at.fy, at.b, at.d, at.MinTenRein, at.MinCompRein);
     MaxReinforcement(at.b, at.d, at.MaxRein);
+    if (!areFinite({at.Asreq, at.Aspreq, at.MaxRein}))
+        return false;
     raiseToMinimum(at.OriginMoment, at.MinTenRein, at.MinCompRein, at.Asreq, at.Aspreq);
+    return true;
 }
 
 /// Once the run's flag is set no section is given links any more.
@@ -67,10 +71,7 @@ DesignRow designSection(std::size_t Member, std::size_t Section, CarriedValues& 
                         const DesignData& data, const MiscProperties& misc) {
     data.GetData(Member, Section, at.b, at.d, at.effd, at.fcu, at.fy, at.YM, at.fyv, at.L, at.dist,
                  at.Moment, at.Shear, at.OriginMoment, at.OriginShear);
-    if (!hasData(at))
-        return rowWithoutData(Member, at);
-    designSteel(at, misc);
-    if (!areFinite({at.Asreq, at.Aspreq, at.MaxRein}))
+    if (!hasData(at) || !designSteel(at, misc))
         return rowWithoutData(Member, at);
     ProvideReinforcement(at.b, at.fy, at.Asreq, at.Aspreq, at.Asprov, at.Aspprov, at.MomentRein,
                          at.OriginMoment, at.OriginShear, misc);
