@@ -30,7 +30,7 @@ TEST(Bars, CountIsTheSmallestWhoseAreaReachesTheTargetAndNeverOne) {
     EXPECT_EQ(barsNeeded(60, 10), 2);
     EXPECT_EQ(barsNeeded(1e-9, 25), 2);
     EXPECT_EQ(barsNeeded(0, 10), 0);
-    EXPECT_EQ(barsNeeded(-5, 10), 0);
+    EXPECT_EQ(barsNeeded(-100, 10), 0);
     for (int n = 2; n < 2000; ++n) {  // as counting up finds it
         const double area = n * 3.141592654 * 156.25;
         EXPECT_EQ(barsNeeded(area, 25), n);

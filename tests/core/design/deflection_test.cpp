@@ -27,6 +27,8 @@ TEST(Deflection, BasicRatioIsThatOfTheKindButInAWebOfThreeMillimetres) {
         {cantilever, 5.6}, {simple, 16}, {continuous, 20.8}};
     for (const auto& [kind, ratio] : rows) {
         EXPECT_EQ(basicRatio(kind, 300), ratio);
+        EXPECT_EQ(basicRatio(kind, 10.0 / 3), ratio);                   // r is 0.3
+        EXPECT_TRUE(close(basicRatio(kind, 3.333), 20.8002228794));     // 0.3000300030
         EXPECT_EQ(basicRatio(kind, 3.34), ratio);                       // 1 / 3.34 = 0.2994
         EXPECT_TRUE(close(basicRatio(kind, 3.2), 20.892857142857143));  // 0.0125 × 5.2 / 0.7
     }
@@ -34,8 +36,9 @@ TEST(Deflection, BasicRatioIsThatOfTheKindButInAWebOfThreeMillimetres) {
 
 TEST(Deflection, SpansOverTenMetresAreHeldToLess) {
     EXPECT_EQ(ratioForLength(simple, 300, 10, true), 16);
-    EXPECT_TRUE(close(*ratioForLength(simple, 300, 10.1, true), 15.841584158416));  // 160 / 10.1
-    EXPECT_TRUE(close(*ratioForLength(continuous, 300, 13, true), 16));             // 208 / 13
+    EXPECT_TRUE(close(*ratioForLength(simple, 300, 10.1, true), 15.841584158416));    // 160 / 10.1
+    EXPECT_TRUE(close(*ratioForLength(simple, 300, 10.001, true), 15.998400159984));  // 160 / L
+    EXPECT_TRUE(close(*ratioForLength(continuous, 300, 13, true), 16));               // 208 / 13
     EXPECT_EQ(ratioForLength(continuous, 300, 13, false), 20.8);
     EXPECT_EQ(ratioForLength(cantilever, 300, 10, true), 5.6);
     EXPECT_EQ(ratioForLength(cantilever, 300, 12, false), 5.6);

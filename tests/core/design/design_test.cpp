@@ -115,8 +115,9 @@ TEST(GetData, FindsSectionsByNumberAndStationsByPlace) {
     EXPECT_EQ(missing.Member, 1);
     EXPECT_EQ(missing.Section, 1);
     const auto whole = beam.stations;
-    for (const auto& text : {whole + "Span 3 \r\n", whole.substr(0, whole.size() - 10),
-                             "0,1,2\r\n" + whole, std::string()}) {
+    for (const auto& text :
+         {whole + "Span 3 \r\n", "Title\r\n" + whole.substr(9), whole.substr(0, whole.size() - 10),
+          "0,1,2\r\n" + whole, std::string()}) {
         beam.stations = text;
         EXPECT_FALSE(beam.data().stationsFit()) << text;
     }
@@ -183,6 +184,12 @@ TEST(DesignRun, SectionWhoseValuesCannotBeCalculatedSaysNoData) {
         const auto rows = beam.design().rows;
         EXPECT_EQ(textOf(std::vector{rows[1]}, Description::bare), " 1, 1.5" + none) << sizes;
     }
+    // nor does it touch what carries over: the links of section 1 stand in section 3
+    Beam beam = memberOf(usual, {"0,0,10", "1,0,10", "2,0,600"});
+    beam.dimensions.replace(beam.dimensions.find("250,6", 40), 3, "0");
+    EXPECT_EQ(beam.design().rows[1].DefNote, "No Data");
+    EXPECT_EQ(beam.design().rows[2].AsvOsvreq + beam.design().rows[2].ShearRein,
+              " 0.552 1R 6- 102");
     // no modulus is needed without compression steel; the overall depth never
     const auto rows =
         memberOf("300,,400,30,460,,250,6", {"0,0,0", "1,50,9", "2,0,0"}).design().rows;
