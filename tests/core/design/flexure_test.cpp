@@ -29,18 +29,16 @@ TEST(Flexure, CompressionSteelYieldsUpToADepthOf215Thousandths) {
 }
 
 TEST(Flexure, SteelOnBothSidesOfK0156) {
-    // b 250, d 400, fcu 25, d' 37.5: K = M / 1000
-    const std::array<double, 3> rows[] = {
-        {0, 0, 0},
-        {50, 347.0486978733, 0},
-        {81, 562.2188905547, 0},
-        {82, 570.0410901234, 0},
-        {155.9, 1253.253190358, 0},
-        {156, 1254.380835285, 0},
-        {156.1, 1255.070145802, 0.6893105171552},
-        {200, 1557.677462834, 303.2966275483},
-        {300, 2246.987979989, 992.6071447035},  // beyond the K that the lever arm could take
-    };
+    // b 250, d 400, fcu 25, d' 37.5: K = M / 1000; the last is beyond what the lever arm could take
+    const std::array<double, 3> rows[] = {{0, 0, 0},
+                                          {50, 347.0486978733, 0},
+                                          {81, 562.2188905547, 0},
+                                          {82, 570.0410901234, 0},
+                                          {155.9, 1253.253190358, 0},
+                                          {156, 1254.380835285, 0},
+                                          {156.1, 1255.070145802, 0.6893105171552},
+                                          {200, 1557.677462834, 303.2966275483},
+                                          {300, 2246.987979989, 992.6071447035}};
     for (const auto& [M, As, Asp] : rows) {
         const auto steel = steelFor(250, 400, 25, 460, 2e5, M, 37.5);
         EXPECT_TRUE(close(steel.As, As)) << M;
