@@ -44,6 +44,13 @@ Failure unfit(const std::vector<Station>& stations, std::size_t perSpan) {
     return std::nullopt;
 }
 
+Failure unfit(const std::vector<SpanMaximum>& maxima) {
+    for (std::size_t k = 0; k < maxima.size(); ++k)
+        if (maxima[k].moment.empty() || maxima[k].shear.empty())
+            return tooLarge(k + 1);
+    return std::nullopt;
+}
+
 /// The calculation from a sound structure on.
 Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
                             const AnalysisOutputs& outputs) {
@@ -53,6 +60,8 @@ Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
     if (!beam)
         return beam.refusal();
     const auto n = beam->members();
+    rows.joints = {};  // their memory serves the loads
+    rows.members = {};
     auto points = normalForm<PointLoad>(std::move(rows.points), n);
     if (!points)
         return points.refusal();
@@ -73,6 +82,8 @@ Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
         outputs.progress(50 + 50 * static_cast<double>(span) / static_cast<double>(n));
     });
     if (auto failure = unfit(results.stations(), results.stationsPerSpan()))
+        return *failure;
+    if (auto failure = unfit(maxima))
         return *failure;
     return Analysis{std::move(*beam),  std::move(*points),     std::move(*udls),
                     std::move(*Final), results.takeStations(), std::move(maxima)};

@@ -1,8 +1,9 @@
 #include "core/store/replacing_file.h"
 
 #include <cerrno>
-#include <cstring>
 #include <utility>
+
+#include "core/store/working_files.h"
 
 namespace trabeon {
 namespace {
@@ -45,8 +46,7 @@ void ReplacingFile::write(std::string_view text) {
             noteError();
         return;
     }
-    std::memcpy(buffer_.get() + used_, text.data(), text.size());
-    used_ += text.size();
+    used_ += text.copy(buffer_.get() + used_, text.size());
 }
 
 void ReplacingFile::flush() {
@@ -87,6 +87,11 @@ Refusal ReplacingFile::refusal() const {
             std::generic_category().message(error_) +
             "). What stood there before is unchanged; make room or choose another folder, then try "
             "again."};
+}
+
+void FileSet::put(std::string_view name, std::string_view text) {
+    if (text.empty() || readWhole(folder_ / name) != text)
+        add(name).write(text);
 }
 
 Failure FileSet::commit() {
