@@ -10,10 +10,9 @@ namespace trabeon {
 namespace {
 
 Failure unfit(const AnalysisSettings& settings) {
-    const auto [Divisions, places] = settings;
-    if (!(Divisions >= 1 && Divisions <= 10'000 && Divisions == std::floor(Divisions)))
-        return Refusal{"The number of sections of a span must be a whole number from 1 to 10,000."};
-    if (!(places >= 0 && places <= 12))
+    if (auto failure = unfitDivisions(settings.Divisions))
+        return failure;
+    if (!(settings.places >= 0 && settings.places <= 12))
         return Refusal{"The decimal places of the maximum must be a number from 0 to 12."};
     return std::nullopt;
 }
@@ -91,6 +90,12 @@ Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
 }
 
 }  // namespace
+
+Failure unfitDivisions(double Divisions) {
+    if (!(Divisions >= 1 && Divisions <= 10'000 && Divisions == std::floor(Divisions)))
+        return Refusal{"The number of sections of a span must be a whole number from 1 to 10,000."};
+    return std::nullopt;
+}
 
 BeamRows readBeamRows(const std::filesystem::path& folder) {
     return {readRows<JointRow>(folder), readRows<MemberRow>(folder), readRows<PointRow>(folder),

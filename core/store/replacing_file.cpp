@@ -37,6 +37,8 @@ ReplacingFile::~ReplacingFile() {
 }
 
 void ReplacingFile::write(std::string_view text) {
+    if (text.empty())  // an empty view may have no characters to copy from
+        return;
     if (text.size() > capacity - used_)
         flush();
     if (text.size() > capacity) {

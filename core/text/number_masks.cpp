@@ -160,6 +160,12 @@ char* putNineDigits(char* at, double whole) {
     return at + count;
 }
 
+std::string threePlaces(double value) {
+    std::string text = std::to_string(scaledWhole(decimalOf(value), 3));
+    text.insert(0, text.size() < 4 ? 4 - text.size() : 0, '0');
+    return text.insert(text.size() - 3, ".");
+}
+
 std::string threeFigures(double value) {
     std::array<char, longestMask> text{};
     return {text.data(), putThreeFigures(text.data(), value)};
