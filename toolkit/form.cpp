@@ -130,6 +130,10 @@ void Form::SetScaleSize(int width, int height) {
     Resize(ToPixels(width) + border.width(), ToPixels(height) + border.height());
 }
 
+void Form::SetSmallestScaleSize(int width, int height) {
+    body_->setMinimumSize(ToPixels(width), ToPixels(height));
+}
+
 void Form::Resize(int pixelsWide, int pixelsHigh) {
     if (border_ == FormBorder::FixedToolWindow || border_ == FormBorder::FixedDialog)
         Widget()->setFixedSize(pixelsWide, pixelsHigh);

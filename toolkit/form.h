@@ -38,6 +38,8 @@ class Form : public Placement, public Container {
     int ScaleWidth() const;
     int ScaleHeight() const;
     void SetScaleSize(int width, int height);
+    // The user cannot make the inside smaller than this.
+    void SetSmallestScaleSize(int width, int height);
 
     // Brings the form to the front. For a dialog it returns when the form is hidden or unloaded.
     void Show();
