@@ -51,7 +51,7 @@ frmOptions::frmOptions(Context& context) : Form("Plotting Options"), context_(co
 
 AnalysisSettings frmOptions::Settings() const {
     constexpr double none = std::numeric_limits<double>::quiet_NaN();
-    return {leadingNumber(txtDivision.Text()), wholeNumberText(txtPlaces.Text()).value_or(none)};
+    return {leadingNumber(txtDivision.Text()), numberOfWholeText(txtPlaces.Text()).value_or(none)};
 }
 
 void frmOptions::Form_Load() {
