@@ -7,9 +7,11 @@
 #include <filesystem>
 
 #include "batch/beam_report.h"
+#include "batch/design_report.h"
 #include "core/analysis/result_files.h"
+#include "core/design/reinforcement_tables.h"
+#include "core/design/shear.h"
 #include "core/store/project_file.h"
-#include "core/text/number_text.h"
 
 namespace trabeon {
 namespace {
@@ -31,20 +33,39 @@ std::size_t terminalWidth() {
     return known ? size.ws_col : 100;
 }
 
+Exit wrongUsage(const Refusal& refusal) {
+    complain("trabeon-batch: " + refusal.sentence);
+    return Exit::usage;
+}
+
+Failure unfitFolder(const std::string& folder) {
+    std::error_code error;
+    if (!fs::is_directory(folder, error))
+        return Refusal{"\"" + folder + "\" is not a folder."};
+    return std::nullopt;
+}
+
 Outcome<AnalysisSettings> settingsOf(const CommandLine& line) {
     AnalysisSettings settings;
-    const std::pair<const char*, double*> options[] = {{"--divisions", &settings.Divisions},
-                                                       {"--places", &settings.places}};
-    for (const auto& [name, value] : options) {
-        const auto text = line.option(name);
-        if (!text)
-            continue;
-        const auto number = wholeNumberText(*text);
-        if (!number)
-            return Refusal{std::string(name) + " takes a number, not \"" + *text + "\"."};
-        *value = *number;
-    }
+    if (auto failure = line.readNumber("--divisions", settings.Divisions))
+        return *failure;
+    if (auto failure = line.readNumber("--places", settings.places))
+        return *failure;
     return settings;
+}
+
+Outcome<MiscProperties> propertiesOf(const CommandLine& line) {
+    MiscProperties misc;
+    const std::pair<const char*, double*> sizes[] = {
+        {"--cover", &misc.cover}, {"--link", &misc.links}, {"--aggregate", &misc.hagg}};
+    for (const auto& [name, value] : sizes) {
+        if (auto failure = line.readNumber(name, *value))
+            return *failure;
+        if (*value < 0)
+            return Refusal{std::string(name) + " takes a size of 0 mm or more."};
+    }
+    misc.restrictDeflection = !line.option("--no-restrict");
+    return misc;
 }
 
 /// A percentage on standard error, for a person who waits at a terminal.
@@ -69,15 +90,59 @@ std::optional<Analysis> analysed(const fs::path& folder, const AnalysisSettings&
 
 Exit analyseCommand(const CommandLine& line) {
     const auto settings = settingsOf(line);
-    if (!settings) {
-        complain("trabeon-batch: " + settings.refusal().sentence);
-        return Exit::usage;
-    }
-    std::error_code error;
+    if (!settings)
+        return wrongUsage(settings.refusal());
     const auto& folder = line.operands[0];
-    if (!fs::is_directory(folder, error))
-        return refused({"\"" + folder + "\" is not a folder."});
+    if (auto failure = unfitFolder(folder))
+        return refused(*failure);
     return analysed(folder, *settings, [](double) {}) ? Exit::done : Exit::refused;
+}
+
+/// A run takes a station file as it is; a user who has not analysed shall know it.
+Failure unfitStations(const DesignData& data) {
+    if (data.NumofMem() > 0 && data.stationsFit())
+        return std::nullopt;
+    return Refusal{"The stations do not fit the beam: \"BM.txt\" must have " +
+                   std::to_string(data.sectionsPerMember()) + " rows for each of " +
+                   std::to_string(data.NumofMem()) +
+                   " members. Analyse the beam first, with the same --divisions."};
+}
+
+void warn(const DesignData& data) {
+    if (const auto warning = missingDimensionsWarning(data); !warning.empty())
+        complain(warning);
+}
+
+Exit designCommand(const CommandLine& line) {
+    double Divisions = AnalysisSettings{}.Divisions;
+    if (auto failure = line.readNumber("--divisions", Divisions))
+        return wrongUsage(*failure);
+    const auto misc = propertiesOf(line);
+    if (!misc)
+        return wrongUsage(misc.refusal());
+    const fs::path folder = line.operands[0];
+    if (auto failure = unfitFolder(folder.string()))
+        return refused(*failure);
+    if (auto failure = unfitForDesign(Divisions, *misc))
+        return refused(*failure);
+    const auto data = readDesignData(folder, Divisions);
+    if (auto failure = unfitStations(data))
+        return refused(*failure);
+    warn(data);
+    const auto design = designBeam(data, *misc);
+    if (auto failure = writeDesign(folder, design))
+        return refused(*failure);
+    return design.ShearFailed ? refused({std::string(shearFailureSentence)}) : Exit::done;
+}
+
+Exit tablesCommand(const CommandLine& line) {
+    const auto& folder = line.operands[0];
+    if (auto failure = unfitFolder(folder))
+        return refused(*failure);
+    if (auto failure = writeSteelAreas(folder))
+        return refused(*failure);
+    const auto failure = writeLinkResistances(folder);
+    return failure ? refused(*failure) : Exit::done;
 }
 
 /// Makes the folder where there is none; a project that is refused leaves none behind.
@@ -98,10 +163,9 @@ Exit unpackCommand(const CommandLine& line) {
 }
 
 Exit packCommand(const CommandLine& line) {
-    std::error_code error;
     const auto& folder = line.operands[0];
-    if (!fs::is_directory(folder, error))
-        return refused({"\"" + folder + "\" is not a folder."});
+    if (auto failure = unfitFolder(folder))
+        return refused(*failure);
     const ProjectTitle untitled;
     const ProjectTitle title{line.option("--title").value_or(untitled.project),
                              line.option("--designer").value_or(untitled.designer),
@@ -121,15 +185,27 @@ void show(const ProjectTitle& title, const Analysis& analysis, const fs::path& f
     } else {
         std::printf("%zu members.\n%s", analysis.beam.members(), reactionCheck(analysis).c_str());
     }
-    std::printf("Result files: %s\n", folder.string().c_str());
+}
+
+/// A project that has no dimensions is not designed.
+Failure showDesign(const fs::path& folder, const AnalysisSettings& settings) {
+    if (readWhole(folder / working_file::beamDimensions).empty())
+        return std::nullopt;
+    const auto data = readDesignData(folder, settings.Divisions);
+    warn(data);
+    const auto design = designBeam(data, {});
+    if (auto failure = writeDesign(folder, design))
+        return failure;
+    const bool few = data.NumofMem() <= mostMembersShown;
+    const auto text = few ? designTable(design, data.NumofMem()) : designSummary(design);
+    std::printf("\n%s", text.c_str());
+    return std::nullopt;
 }
 
 Exit runCommand(const CommandLine& line) {
     const auto settings = settingsOf(line);
-    if (!settings) {
-        complain("trabeon-batch: " + settings.refusal().sentence);
-        return Exit::usage;
-    }
+    if (!settings)
+        return wrongUsage(settings.refusal());
     const auto& file = line.operands[0];
     const fs::path folder =
         line.option("--out").value_or(fs::path(file).replace_extension().string());
@@ -141,6 +217,9 @@ Exit runCommand(const CommandLine& line) {
     if (!analysis)
         return Exit::refused;
     show(*title, *analysis, folder);
+    if (auto failure = showDesign(folder, *settings))
+        return refused(*failure);
+    std::printf("Result files: %s\n", folder.string().c_str());
     return Exit::done;
 }
 
@@ -153,6 +232,10 @@ void complain(std::string_view sentence) {
 Exit carryOut(const CommandLine& line) {
     if (line.command == "analyse")
         return analyseCommand(line);
+    if (line.command == "design")
+        return designCommand(line);
+    if (line.command == "tables")
+        return tablesCommand(line);
     if (line.command == "unpack")
         return unpackCommand(line);
     if (line.command == "pack")

@@ -24,7 +24,7 @@ class MdiWindow::Window : public QMainWindow {
         area->setBackground(palette().brush(QPalette::Dark));
         area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
         area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-        resize(1024, 680);
+        resize(QSize(1024, 680).boundedTo(screen()->availableSize() * 0.95));
     }
 
   protected:

@@ -31,6 +31,9 @@ struct AnalysisSettings {
     double places = 3;
 };
 
+/// Refuses Divisions that are not a whole number from 1 to 10,000.
+[[nodiscard]] Failure unfitDivisions(double Divisions);
+
 /// What an analysis tells while it runs. `progress` gets 0, then 50 when the moments have settled,
 /// then 50 + 50 i / n when span i of n is searched.
 struct AnalysisOutputs {

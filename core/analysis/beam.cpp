@@ -20,9 +20,17 @@ bool isMeasure(double value) {
 /// A type that was spelled by hand ("fixed", "PIN") passed the rules as no type at all; as the type
 /// that it is taken for it must pass them too.
 Failure unfitSpelling(const std::vector<JointRow>& joints, const std::vector<Joint>& types) {
+    const auto nameOf = [&](std::size_t j) {
+        return jointNames[static_cast<std::size_t>(types[j])];
+    };
+    bool asNamed = true;
+    for (std::size_t j = 1; j <= joints.size(); ++j)
+        asNamed = asNamed && joints[j - 1].type == nameOf(j);
+    if (asNamed)
+        return std::nullopt;
     auto spelled = joints;
     for (std::size_t j = 1; j <= joints.size(); ++j)
-        spelled[j - 1].type = jointNames[static_cast<std::size_t>(types[j])];
+        spelled[j - 1].type = nameOf(j);
     bool error = false;
     std::string first;
     CheckJoint(spelled, error, [&](const Message& message) {
@@ -46,7 +54,7 @@ Failure unfitMember(const MemberRow& row, std::size_t number, const Beam& beam) 
         return bad("I", row.I);
     if (!isMeasure(beam.Length[number]))
         return bad("L", row.L);
-    if (!isMeasure(beam.Stiffness[number]))
+    if (!isMeasure(2 * beam.Stiffness[number]))  // two of them are added at a joint
         return Refusal{
             "Member " + std::to_string(number) +
             ": its stiffness E × I / L is too large or too small a number. Use other units."};

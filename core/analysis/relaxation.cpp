@@ -42,6 +42,16 @@ bool negligible(const Row& row, std::size_t ends) {
                        [](double moment) { return std::fabs(moment) <= balanceTolerance; });
 }
 
+bool isFinite(const Row& row) {
+    return std::all_of(row.begin(), row.end(), [](double moment) { return std::isfinite(moment); });
+}
+
+Refusal unsettled() {
+    return {
+        "The moments do not settle: a load or a stiffness is too large a number. Use other "
+        "units."};
+}
+
 void giveHeading(const Beam& beam, const DistributionFactors& factors, const TableSink& row) {
     Row cells(beam.EndCount);
     for (std::size_t i = 1; i <= beam.members(); ++i) {
@@ -97,22 +107,26 @@ Outcome<std::vector<double>> relax(const Beam& beam, const std::vector<double>& 
     balanceJoints(FEM, factors, n, BalRow);
     BalRow[1] = isPin(beam.SupportType[1]) ? -FEM[1] : 0;
     BalRow[ends] = isPin(beam.SupportType[beam.Supports]) ? -FEM[ends] : 0;
+    if (!isFinite(BalRow))
+        return unsettled();
     give("Bal..", BalRow);
     add(BalRow, Final);
     for (int cycle = 0; cycle == 0 || !negligible(BalRow, ends); ++cycle) {
         if (cycle == mostCycles)
-            return Refusal{
-                "The moments do not settle: a load or a stiffness is too large a number. Use "
-                "other units."};
+            return unsettled();
         carryOver(BalRow, n, NextRow);
         give("C.Ovr", NextRow);
         add(NextRow, Final);
         balanceJoints(NextRow, factors, n, BalRow);
         BalRow[1] = -NextRow[1] * factors.DFLeft[1];
         BalRow[ends] = -NextRow[ends] * factors.DFRight[n];
+        if (!isFinite(BalRow))
+            return unsettled();
         give("Bal..", BalRow);
         add(BalRow, Final);
     }
+    if (!isFinite(Final))
+        return unsettled();
     settled();
     give("Final", Final);
     return Final;

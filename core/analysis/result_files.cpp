@@ -44,12 +44,13 @@ void writeRow(ReplacingFile& file, const Station& station) {
     file.advance(put(at, "\r\n"));
 }
 
-/// The load files in normal form, and the scratch twins that the regrouping leaves behind.
+/// The load files in normal form, and the scratch twins that the regrouping leaves behind. A second
+/// analysis finds them so.
 template <class Load>
 void writeLoads(FileSet& files, const MemberLoads<Load>& loads) {
     const auto text = textOf(loads.rows, Description::bare);
-    files.add(Load::Row::scratch).write(text);
-    files.add(Load::Row::file).write(text);
+    files.put(Load::Row::scratch, text);
+    files.put(Load::Row::file, text);
 }
 
 }  // namespace

@@ -61,7 +61,11 @@ class SimpleSpan {
     SettledSum moment_, shear_;
 };
 
+/// A value that is not finite has no text.
 void putText(double value, std::string& text) {
+    text.clear();
+    if (!std::isfinite(value))
+        return;
     std::array<char, longestMask> mask;
     text.assign(mask.data(), putThreeFigures(mask.data(), value));
 }

@@ -1,5 +1,6 @@
 #include "core/store/project_file.h"
 
+#include <algorithm>
 #include <array>
 
 #include "core/store/replacing_file.h"
@@ -39,6 +40,15 @@ std::string wholeLines(std::string_view file) {
 template <class Row>
 std::string packedRows(std::string_view file) {
     return textOf(rowsOf<Row>(file), Description::quoted);
+}
+
+/// Numbers and types stand bare wherever they are written, which loses the blanks at their ends: in
+/// quotes they are lost at once, so that a row read again is the same row, and a heading a heading.
+std::string_view withoutBlanks(std::string_view field) {
+    const auto first = std::min(field.find_first_not_of(' '), field.size());
+    field.remove_prefix(first);
+    field.remove_suffix(field.size() - (field.find_last_not_of(' ') + 1));
+    return field;
 }
 
 /// Reads one project file from its beginning to its end; stops at the first thing that is wrong.
@@ -82,10 +92,11 @@ class Unpacker {
             const int line = reader_.line();
             Row row;
             for (std::size_t i = 0; i < Row::fields.size() && !wrong_; ++i) {
-                row.*Row::fields[i] = reader_.next();
+                const bool last = i + 1 == Row::fields.size();
+                const auto field = reader_.next();
+                row.*Row::fields[i] = last ? field : withoutBlanks(field);
                 if (i == 0 && (row.*Row::fields[0]).starts_with(heading))
                     return text;
-                const bool last = i + 1 == Row::fields.size();
                 if (reader_.lineEnded() != last)
                     refuseRow(line, i + (last ? 2 : 1), Row::fields.size(), expected);
             }
@@ -94,13 +105,15 @@ class Unpacker {
         return text;
     }
 
-    /// Line by line; where a line is a row it must have that many fields (0: any line will do).
+    /// Line by line; where a line is a row it must have that many fields (0: any line will do). The
+    /// number of a row is written bare again, so letters in quotes there are a heading too.
     std::string lines(std::string_view heading, std::string_view expected, std::size_t fields) {
         std::string text;
         while (present(expected)) {
             const int number = reader_.line();
             const auto line = reader_.nextLine();
-            if (line.starts_with(heading))
+            const auto letters = fields > 0 ? withoutBlanks(FieldReader(line).next()) : line;
+            if (letters.starts_with(heading))
                 break;
             if (fields > 0)
                 checkRow(number, line, fields, expected);
@@ -138,6 +151,9 @@ class Unpacker {
             row.next();
             ++found;
         } while (!row.lineEnded() && found <= wanted);
+        if (row.quoteOpen())
+            refuse(number, std::string(expected) +
+                               " was expected; this line has a double quote that is not closed");
         if (found != wanted)
             refuseRow(number, found, wanted, expected);
     }

@@ -1,8 +1,9 @@
 #include "core/store/replacing_file.h"
 
 #include <cerrno>
-#include <cstring>
 #include <utility>
+
+#include "core/store/working_files.h"
 
 namespace trabeon {
 namespace {
@@ -36,6 +37,8 @@ ReplacingFile::~ReplacingFile() {
 }
 
 void ReplacingFile::write(std::string_view text) {
+    if (text.empty())  // an empty view may have no characters to copy from
+        return;
     if (text.size() > capacity - used_)
         flush();
     if (text.size() > capacity) {
@@ -43,8 +46,7 @@ void ReplacingFile::write(std::string_view text) {
             noteError();
         return;
     }
-    std::memcpy(buffer_.get() + used_, text.data(), text.size());
-    used_ += text.size();
+    used_ += text.copy(buffer_.get() + used_, text.size());
 }
 
 void ReplacingFile::flush() {
@@ -85,6 +87,11 @@ Refusal ReplacingFile::refusal() const {
             std::generic_category().message(error_) +
             "). What stood there before is unchanged; make room or choose another folder, then try "
             "again."};
+}
+
+void FileSet::put(std::string_view name, std::string_view text) {
+    if (text.empty() || readWhole(folder_ / name) != text)
+        add(name).write(text);
 }
 
 Failure FileSet::commit() {

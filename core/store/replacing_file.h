@@ -38,7 +38,7 @@ class ReplacingFile {
     [[nodiscard]] Failure commit();
 
   private:
-    static constexpr std::size_t capacity = 256 * 1024;
+    static constexpr std::size_t capacity = 128 * 1024;
 
     void flush();
     void noteError();
@@ -61,6 +61,9 @@ class FileSet {
     explicit FileSet(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
     ReplacingFile& add(std::string_view name) { return files_.emplace_back(folder_ / name); }
+
+    /// The whole content of one file. If it stands there already, the file is left alone.
+    void put(std::string_view name, std::string_view text);
 
     /// Every file takes its place, in the order in which they were added.
     [[nodiscard]] Failure commit();

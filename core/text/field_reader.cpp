@@ -6,6 +6,7 @@ namespace trabeon {
 
 std::string_view FieldReader::next() {
     lineEnded_ = false;
+    quoteOpen_ = false;
     passBlanks();
     const bool quoted = at_ < text_.size() && text_[at_] == '"';
     return quoted ? quotedField() : bareField();
@@ -23,6 +24,7 @@ std::string_view FieldReader::nextLine() {
 std::string_view FieldReader::quotedField() {
     const auto start = at_ + 1;
     const auto end = std::min(text_.find('"', start), text_.size());
+    quoteOpen_ = end == text_.size();
     const auto field = text_.substr(start, end - start);
     line_ += static_cast<int>(std::count(field.begin(), field.end(), '\n'));
     at_ = std::min(end + 1, text_.size());

@@ -1,6 +1,5 @@
 // trabeon-batch as a user calls it: words in, exit code, texts and files out.
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -11,48 +10,16 @@
 #include <vector>
 
 #include "core/text/number_text.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/support/batch_program.h"
 
 namespace trabeon {
 namespace {
 
 namespace fs = std::filesystem;
+using test::batch;
+using test::start;
 using test::TemporaryFolder;
 using Contents = std::map<std::string, std::string>;
-
-/// Starts the program with its output in the folder's files "out" and "err".
-pid_t start(const TemporaryFolder& folder, const std::vector<std::string>& words,
-            rlim_t fileLimit = RLIM_INFINITY) {
-    const auto out = (folder / "out").string();
-    const auto err = (folder / "err").string();
-    std::vector<char*> arguments{const_cast<char*>(TRABEON_BATCH)};
-    for (const auto& word : words)
-        arguments.push_back(const_cast<char*>(word.c_str()));
-    arguments.push_back(nullptr);
-    const pid_t child = fork();
-    if (child != 0)
-        return child;
-    if (std::freopen(out.c_str(), "w", stdout) == nullptr ||
-        std::freopen(err.c_str(), "w", stderr) == nullptr)
-        _exit(126);
-    std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{fileLimit, RLIM_INFINITY};
-    setrlimit(RLIMIT_FSIZE, &limit);
-    execv(arguments[0], arguments.data());
-    _exit(127);
-}
-
-struct Answer {
-    int exit;
-    std::string out, err;
-};
-
-Answer batch(const std::vector<std::string>& words, rlim_t fileLimit = RLIM_INFINITY) {
-    const TemporaryFolder folder;
-    int status = 0;
-    waitpid(start(folder, words, fileLimit), &status, 0);
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, folder.read("out"), folder.read("err")};
-}
 
 void copyCase(const fs::path& from, const TemporaryFolder& to) {
     for (const auto& entry : fs::directory_iterator(from))
@@ -283,7 +250,7 @@ TEST(CommandLine, WrongUsageIsOneLineAndExitCodeTwo) {
     }
     const auto help = batch({"run", "--help"});
     EXPECT_EQ(help.exit, 0);
-    for (const auto* command : {"run", "analyse", "unpack", "pack"})
+    for (const auto* command : {"run", "analyse", "design", "tables", "unpack", "pack"})
         EXPECT_NE(help.out.find(std::string("Example: trabeon-batch ") + command),
                   std::string::npos)
             << command;
