@@ -9,9 +9,12 @@ double memberLength(const std::filesystem::path& folder, std::size_t member) {
     const auto text = readWhole(folder / MemberRow::file);
     FieldReader reader(text);
     for (std::size_t k = 1; !reader.atEnd(); ++k) {
-        const auto row = readRow<MemberRow>(reader);
+        std::string_view L;
+        for (const auto field : MemberRow::fields)
+            if (const auto value = reader.next(); field == &MemberRow::L)
+                L = value;
         if (k == member)
-            return leadingNumber(row.L);
+            return leadingNumber(L);
     }
     return 0;
 }
