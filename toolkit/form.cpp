@@ -95,7 +95,7 @@ Form::Form(const std::string& caption, FormBorder border)
         SetWidget(frame);
     }
     SetCaption(caption);
-    Resize(ToPixels(4800), ToPixels(3600));
+    Form::Resize(ToPixels(4800), ToPixels(3600));
 }
 
 Form::~Form() {

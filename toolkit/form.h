@@ -2,6 +2,7 @@
 // made on `*this`; handlers are set in its constructor.
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <string>

@@ -54,13 +54,6 @@ class ListView::Tree : public QTreeWidget {
     bool gridLines = false;
 
   protected:
-    // A click below the rows leaves the selection: what the user sees is what is acted on.
-    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
-                                                         const QEvent* event) const override {
-        return index.isValid() ? QTreeWidget::selectionCommand(index, event)
-                               : QItemSelectionModel::NoUpdate;
-    }
-
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const override {
         QTreeWidget::drawRow(painter, option, index);

@@ -182,6 +182,16 @@ TEST_F(FormsTest, ShowBringsToTheFrontAndHidingBringsUpTheOneBefore) {
     EXPECT_EQ(area.activeSubWindow()->windowTitle(), "Second");
 }
 
+TEST_F(FormsTest, AFormKeepsItsFocusWhileAnotherIsInFront) {
+    frmFirst& first = forms.Get<frmFirst>();
+    EXPECT_TRUE(first.cmdClose.HasFocus());  // the first in the tab order
+    first.text.SetFocus();
+    forms.Show("frmSecond");
+    EXPECT_FALSE(first.text.HasFocus());
+    forms.Show("frmFirst");
+    EXPECT_TRUE(first.text.HasFocus());
+}
+
 TEST_F(FormsTest, PlaceIsTheOuterOneAndResizeTellsTheInnerOne) {
     frmFirst& first = forms.Get<frmFirst>();
     EXPECT_EQ(first.Left(), 150);
