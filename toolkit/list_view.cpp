@@ -222,7 +222,7 @@ void ListView::Copy() const {
             continue;
         QStringList texts;
         for (int column = 0; column < tree.columnCount(); ++column)
-            texts << row.text(column);
+            texts << row.text(column).trimmed();  // a blank in front is for the eye
         lines << texts.join('\t') + '\n';
     }
     if (!lines.isEmpty())

@@ -93,6 +93,14 @@ void frmOptions::show(WebBrowser& picture, const char* file) {
     picture.Navigate((context_.folder / file).string());
 }
 
+frmOptions& optionsInTheBackground(Context& context) {
+    const bool wasLoaded = context.forms.IsLoaded(frmOptions::Name);
+    auto& options = context.forms.Get<frmOptions>();
+    if (!wasLoaded)
+        options.Hide();
+    return options;
+}
+
 void DisablePlot(Context& context) {
     context.mnuContinuous.SetEnabled(false);
     context.mnuSingle.SetEnabled(false);

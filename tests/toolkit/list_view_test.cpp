@@ -202,5 +202,12 @@ TEST_F(ListViewTest, CtrlCCopiesTheSelectedRows) {
     EXPECT_EQ(outside.clipboardText, "Member  10\t10\nMember  1\tb\n");
 }
 
+TEST_F(ListViewTest, BlanksAroundANumberStayOutOfTheCopy) {
+    Add(" 0.6", "1.40E+01 ");
+    list().SetSelectedItem(list().ListItems(1));
+    QTest::keyClick(list().Widget(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(outside.clipboardText, "0.6\t1.40E+01\n");
+}
+
 }  // namespace
 }  // namespace trabeon
