@@ -66,6 +66,7 @@ void Graph::Plot::MakeCurve() {
 
 QCPItemText* Graph::Plot::MakeText(const QColor& colour, double size, bool bold) {
     auto* text = new QCPItemText(this);
+    text->setText({});  // it has one of its own
     text->setClipToAxisRect(false);
     text->position->setType(QCPItemPosition::ptAbsolute);
     text->setFont(FontNamed("Arial", size, bold));

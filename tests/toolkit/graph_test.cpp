@@ -89,6 +89,7 @@ TEST_F(DrawTest, TheSameCountKeepsThePointsAndAnotherPlotBeginsAnew) {
 }
 
 TEST_F(DrawTest, WhatShowsCanBeReadBack) {
+    EXPECT_EQ(graph().Note(), "");
     Plot({{0, 5}, {1, 9}, {2, 1}});
     ASSERT_EQ(graph().Points().size(), 3u);
     EXPECT_EQ(graph().Points()[1].x, 1);
