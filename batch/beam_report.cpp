@@ -6,33 +6,17 @@
 #include <cstdio>
 #include <numeric>
 
+#include "batch/text_table.h"
+#include "core/analysis/settled_sum.h"
+
 namespace trabeon {
 namespace {
-
-constexpr std::size_t columnWidth = 12;
-constexpr std::size_t labelWidth = 8;
-
-std::string padded(std::string_view text, std::size_t width) {
-    return std::string(width > text.size() ? width - text.size() : 1, ' ') + std::string(text);
-}
-
-std::string labelled(std::string_view text) {
-    return std::string(text) +
-           std::string(labelWidth > text.size() ? labelWidth - text.size() : 1, ' ');
-}
 
 /// A value for people: five significant figures.
 std::string figure(double value) {
     std::array<char, 32> text{};
     std::snprintf(text.data(), text.size(), "%.5g", value == 0 ? 0.0 : value);
     return text.data();
-}
-
-std::string row(std::string_view label, std::initializer_list<std::string_view> cells) {
-    std::string line = labelled(label);
-    for (const auto cell : cells)
-        line += padded(cell, columnWidth);
-    return line + '\n';
 }
 
 std::vector<std::string_view> wordsOf(std::string_view line) {
@@ -53,13 +37,13 @@ std::string_view withoutZeros(std::string_view cell) {
 }
 
 std::string spanTable(const Analysis& analysis) {
-    std::string text = row("Member", {"M left", "M right", "at x", "M max", "shear there"});
+    std::string text = tableLine("Member", {"M left", "M right", "at x", "M max", "shear there"});
     for (std::size_t i = 1; i <= analysis.beam.members(); ++i) {
         const auto stations = analysis.stationsOf(i);
         const auto& maximum = analysis.maxima[i - 1];
-        text += row(std::to_string(i),
-                    {figure(stations.front().forces.moment), figure(stations.back().forces.moment),
-                     figure(maximum.x), maximum.moment, maximum.shear});
+        text += tableLine(std::to_string(i), {figure(stations.front().forces.moment),
+                                              figure(stations.back().forces.moment),
+                                              figure(maximum.x), maximum.moment, maximum.shear});
     }
     return text;
 }
@@ -74,10 +58,10 @@ double rightReaction(const Analysis& analysis, std::size_t member) {
         loads += load.P * load.a;
     for (const auto& load : analysis.udls.on(member))
         loads -= load.momentAbout(-load.a, load.b);
-    const double moment = left - right + loads;
-    const bool dust =
-        std::fabs(moment) < 1e-12 * (std::fabs(left) + std::fabs(right) + std::fabs(loads));
-    return dust ? 0 : moment / analysis.beam.Length[member];
+    SettledSum moment;
+    for (const double part : {left, -right, loads})
+        moment.add(part);
+    return moment.value() / analysis.beam.Length[member];
 }
 
 }  // namespace
@@ -138,9 +122,9 @@ std::string reactionCheck(const Analysis& analysis) {
 std::string resultTables(const Analysis& analysis) {
     const auto reactions = reactionsOf(analysis);
     std::string text = "Moments (sagging positive)\n" + spanTable(analysis);
-    text += "\nReactions (upward positive)\n" + row("Joint", {"reaction"});
+    text += "\nReactions (upward positive)\n" + tableLine("Joint", {"reaction"});
     for (std::size_t j = 0; j < reactions.size(); ++j)
-        text += row(std::to_string(j + 1), {figure(reactions[j])});
+        text += tableLine(std::to_string(j + 1), {figure(reactions[j])});
     return text + reactionCheck(analysis);
 }
 

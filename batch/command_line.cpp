@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/text/number_text.h"
+
 namespace trabeon {
 namespace {
 
@@ -17,10 +19,12 @@ const CommandForm* formOf(std::string_view command) {
     return found == forms.end() ? nullptr : &*found;
 }
 
-bool takes(const CommandForm& form, std::string_view option) {
-    return std::any_of(form.options.begin(), form.options.end(), [&](std::string_view shown) {
-        return shown.substr(0, shown.find(' ')) == option;
-    });
+/// An option as the form shows it; nothing if the command has no such option.
+std::optional<std::string_view> shownOption(const CommandForm& form, std::string_view option) {
+    for (const auto shown : form.options)
+        if (shown.substr(0, shown.find(' ')) == option)
+            return shown;
+    return std::nullopt;
 }
 
 std::string usageOf(const CommandForm& form) {
@@ -39,7 +43,8 @@ const std::vector<CommandForm>& commandForms() {
          "FILE.TB",
          {"--divisions N", "--places N", "--out DIR"},
          "Analyses a project and shows the balance table, the moments, the maxima and the "
-         "reactions. The "
+         "reactions; "
+         "with dimensions, also the governing sections of its design. The "
          "result files go to DIR, or to a folder beside the project that is named after it.",
          "trabeon-batch run examples/two-span-floor-beam.TB"},
         {"analyse",
@@ -48,6 +53,18 @@ const std::vector<CommandForm>& commandForms() {
          "Analyses the beam whose working files stand in a folder, and leaves the result files "
          "there.",
          "trabeon-batch analyse work --divisions 20"},
+        {"design",
+         "DIR",
+         {"--divisions N", "--cover MM", "--link MM", "--aggregate MM", "--no-restrict"},
+         "Designs the sections of the analysed beam in a folder, at the divisions of its analysis, "
+         "and "
+         "leaves the design results there.",
+         "trabeon-batch design work --aggregate 20"},
+        {"tables",
+         "DIR",
+         {},
+         "Writes the tables of bar areas and link resistances into a folder.",
+         "trabeon-batch tables work"},
         {"unpack",
          "FILE.TB DIR",
          {},
@@ -65,21 +82,37 @@ const std::vector<CommandForm>& commandForms() {
 
 std::string helpText() {
     std::string text =
-        "Analyses continuous beams by Hardy Cross moment distribution, without a window.\n";
+        "Analyses continuous beams by Hardy Cross moment distribution and designs their\n"
+        "reinforced concrete sections to BS 8110, without a window.\n";
     for (const auto& form : commandForms())
         text += "\n" + usageOf(form) + "\n    " + std::string(form.purpose) +
                 "\n    Example: " + std::string(form.example) + "\n";
     return text +
            "\n--divisions: equal parts of each span, 1 to 10000 (default 10). --places: decimal "
            "places to\n"
-           "which the position of a maximum is searched, 0 to 12 (default 3).\n"
-           "Exit code: 0 done, 1 refused (the reason stands on standard error), 2 wrong usage.\n";
+           "which the position of a maximum is searched, 0 to 12 (default 3). --cover, --link and\n"
+           "--aggregate: cover, assumed link size and aggregate size (defaults 25, 10, 0).\n"
+           "--no-restrict: spans over 10 m keep their basic span to depth ratio.\n"
+           "Exit code: 0 done, 1 refused or a section failed in shear (the reason stands on "
+           "standard\n"
+           "error), 2 wrong usage.\n";
 }
 
 std::optional<std::string> CommandLine::option(std::string_view name) const {
     for (auto it = options.rbegin(); it != options.rend(); ++it)
         if (it->first == name)
             return it->second;
+    return std::nullopt;
+}
+
+Failure CommandLine::readNumber(std::string_view name, double& value) const {
+    const auto text = option(name);
+    if (!text)
+        return std::nullopt;
+    const auto number = numberOfWholeText(*text);
+    if (!number)
+        return Refusal{std::string(name) + " takes a number, not \"" + *text + "\"."};
+    value = *number;
     return std::nullopt;
 }
 
@@ -101,16 +134,24 @@ Outcome<CommandLine> readCommandLine(const std::vector<std::string>& words) {
         }
         const auto sign = word.find('=');
         const auto name = word.substr(0, sign);
-        if (!takes(*form, name))
+        const auto shown = shownOption(*form, name);
+        if (!shown)
             return Refusal{"\"" + words[0] + "\" has no option " + name +
                            ". Usage: " + usageOf(*form)};
+        if (shown == name) {
+            if (sign != std::string::npos)
+                return Refusal{name + " takes no value. Usage: " + usageOf(*form)};
+            line.options.emplace_back(name, "");
+            continue;
+        }
         if (sign == std::string::npos && i + 1 == words.size())
             return Refusal{"A value is missing behind " + name + ". Usage: " + usageOf(*form)};
         line.options.emplace_back(name,
                                   sign == std::string::npos ? words[++i] : word.substr(sign + 1));
     }
-    if (line.operands.size() != operandCount(*form))
-        return Refusal{"Usage: " + usageOf(*form)};
+    if (const auto wanted = operandCount(*form); line.operands.size() != wanted)
+        return Refusal{"\"" + words[0] + "\" takes " + std::string(form->operands) + ", not " +
+                       std::to_string(line.operands.size()) + " names. Usage: " + usageOf(*form)};
     return line;
 }
 

@@ -15,7 +15,7 @@ struct CommandForm {
     std::string_view name;
     std::string_view operands;  // as the help shows them: "DIR FILE.TB"
     std::vector<std::string_view>
-        options;  // each takes one value; as the help shows them: "--places N"
+        options;  // as the help shows them: "--places N" takes a value, "--no-restrict" none
     std::string_view purpose;
     std::string_view example;
 };
@@ -33,6 +33,9 @@ struct CommandLine {
     std::vector<std::pair<std::string, std::string>> options;  // name with its dashes, value
 
     [[nodiscard]] std::optional<std::string> option(std::string_view name) const;
+
+    /// Puts the number of an option, if it is there, into value; refuses what is no number.
+    [[nodiscard]] Failure readNumber(std::string_view name, double& value) const;
 };
 
 /// Reads the words behind the program's name. "--help" anywhere is the command "--help". Options

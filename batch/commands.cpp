@@ -3,21 +3,25 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 
 #include "batch/beam_report.h"
+#include "batch/design_report.h"
 #include "core/analysis/result_files.h"
+#include "core/design/reinforcement_tables.h"
+#include "core/design/shear.h"
 #include "core/store/project_file.h"
-#include "core/text/number_text.h"
 
 namespace trabeon {
 namespace {
 
 namespace fs = std::filesystem;
 
-/// From this many members on an analysis shows its progress, and its table stays in its file.
+/// From this many members on an analysis shows its progress.
 constexpr std::size_t manyMembers = 1000;
+/// The balance table of more members than this stays in its file.
 constexpr std::size_t mostMembersShown = 20;
 
 Exit refused(const Refusal& refusal) {
@@ -31,21 +35,42 @@ std::size_t terminalWidth() {
     return known ? size.ws_col : 100;
 }
 
+Exit wrongUsage(const Refusal& refusal) {
+    complain("trabeon-batch: " + refusal.sentence);
+    return Exit::usage;
+}
+
+Failure unfitFolder(const std::string& folder) {
+    std::error_code error;
+    if (!fs::is_directory(folder, error))
+        return Refusal{"\"" + folder + "\" is not a folder."};
+    return std::nullopt;
+}
+
 Outcome<AnalysisSettings> settingsOf(const CommandLine& line) {
     AnalysisSettings settings;
-    const std::pair<const char*, double*> options[] = {{"--divisions", &settings.Divisions},
-                                                       {"--places", &settings.places}};
-    for (const auto& [name, value] : options) {
-        const auto text = line.option(name);
-        if (!text)
-            continue;
-        const auto number = wholeNumberText(*text);
-        if (!number)
-            return Refusal{std::string(name) + " takes a number, not \"" + *text + "\"."};
-        *value = *number;
-    }
+    if (auto failure = line.readNumber("--divisions", settings.Divisions))
+        return *failure;
+    if (auto failure = line.readNumber("--places", settings.places))
+        return *failure;
     return settings;
 }
+
+Outcome<MiscProperties> propertiesOf(const CommandLine& line) {
+    MiscProperties misc;
+    const std::pair<const char*, double*> sizes[] = {
+        {"--cover", &misc.cover}, {"--link", &misc.links}, {"--aggregate", &misc.hagg}};
+    for (const auto& [name, value] : sizes) {
+        if (auto failure = line.readNumber(name, *value))
+            return *failure;
+        if (*value < 0)
+            return Refusal{std::string(name) + " takes a size of 0 mm or more."};
+    }
+    misc.restrictDeflection = !line.option("--no-restrict");
+    return misc;
+}
+
+constexpr auto clearedLine = "\r                \r";
 
 /// A percentage on standard error, for a person who waits at a terminal.
 std::function<void(double)> progressLine(std::size_t members) {
@@ -55,53 +80,104 @@ std::function<void(double)> progressLine(std::size_t members) {
         if (static_cast<int>(percent) == shown)
             return;
         shown = static_cast<int>(percent);
-        std::fprintf(stderr, shown < 100 ? "\rAnalysing: %d %%" : "\r                \r", shown);
+        std::fprintf(stderr, shown < 100 ? "\rAnalysing: %d %%" : clearedLine, shown);
     };
 }
 
 std::optional<Analysis> analysed(const fs::path& folder, const AnalysisSettings& settings,
                                  std::function<void(double)> progress) {
     AnalysisOutputs outputs;
-    outputs.message = [](const Message& message) { complain(message.text); };
+    outputs.message = [](const Message& message) {
+        if (isatty(STDERR_FILENO) != 0)
+            std::fputs(clearedLine, stderr);
+        complain(message.text);
+    };
     outputs.progress = std::move(progress);
     return analyseFolder(folder, settings, std::move(outputs));
 }
 
 Exit analyseCommand(const CommandLine& line) {
     const auto settings = settingsOf(line);
-    if (!settings) {
-        complain("trabeon-batch: " + settings.refusal().sentence);
-        return Exit::usage;
-    }
-    std::error_code error;
+    if (!settings)
+        return wrongUsage(settings.refusal());
     const auto& folder = line.operands[0];
-    if (!fs::is_directory(folder, error))
-        return refused({"\"" + folder + "\" is not a folder."});
+    if (auto failure = unfitFolder(folder))
+        return refused(*failure);
     return analysed(folder, *settings, [](double) {}) ? Exit::done : Exit::refused;
 }
 
-/// Makes the folder where there is none; a project that is refused leaves none behind.
-Outcome<ProjectTitle> unpackInto(const std::string& file, const fs::path& folder) {
+/// A run takes a station file as it is; a user who has not analysed shall know it.
+Failure unfitStations(const DesignData& data) {
+    if (data.NumofMem() > 0 && data.stationsFit())
+        return std::nullopt;
+    return Refusal{"The stations do not fit the beam: \"BM.txt\" must have " +
+                   std::to_string(data.sectionsPerMember()) + " rows for each of " +
+                   std::to_string(data.NumofMem()) +
+                   " members. Analyse the beam first, with the same --divisions."};
+}
+
+void warn(const DesignData& data) {
+    if (const auto warning = missingDimensionsWarning(data); !warning.empty())
+        complain(warning);
+}
+
+Exit designCommand(const CommandLine& line) {
+    double Divisions = AnalysisSettings{}.Divisions;
+    if (auto failure = line.readNumber("--divisions", Divisions))
+        return wrongUsage(*failure);
+    const auto misc = propertiesOf(line);
+    if (!misc)
+        return wrongUsage(misc.refusal());
+    const fs::path folder = line.operands[0];
+    if (auto failure = unfitFolder(folder.string()))
+        return refused(*failure);
+    if (auto failure = unfitForDesign(Divisions, *misc))
+        return refused(*failure);
+    const auto data = readDesignData(folder, Divisions);
+    if (auto failure = unfitStations(data))
+        return refused(*failure);
+    warn(data);
+    const auto design = designBeam(data, *misc);
+    if (auto failure = writeDesign(folder, design))
+        return refused(*failure);
+    return design.ShearFailed ? refused({std::string(shearFailureSentence)}) : Exit::done;
+}
+
+Exit tablesCommand(const CommandLine& line) {
+    const auto& folder = line.operands[0];
+    if (auto failure = unfitFolder(folder))
+        return refused(*failure);
+    if (auto failure = writeSteelAreas(folder))
+        return refused(*failure);
+    const auto failure = writeLinkResistances(folder);
+    return failure ? refused(*failure) : Exit::done;
+}
+
+/// Reads and checks the project before it makes the folder.
+Outcome<Project> unpackInto(const std::string& file, const fs::path& folder) {
+    auto project = readProject(file);
+    if (!project)
+        return project;
     std::error_code error;
-    const bool made = fs::create_directories(folder, error);
+    fs::create_directories(folder, error);
     if (!fs::is_directory(folder, error))
         return Refusal{"The folder \"" + folder.string() + "\" cannot be made. Name another one."};
-    auto title = unpackProject(file, folder);
-    if (!title && made)
-        fs::remove(folder, error);
-    return title;
+    if (auto failure = writeWorkingFiles(*project, folder))
+        return *failure;
+    return project;
 }
 
 Exit unpackCommand(const CommandLine& line) {
-    const auto title = unpackInto(line.operands[0], line.operands[1]);
-    return title ? Exit::done : refused(title.refusal());
+    const auto project = unpackInto(line.operands[0], line.operands[1]);
+    return project ? Exit::done : refused(project.refusal());
 }
 
 Exit packCommand(const CommandLine& line) {
-    std::error_code error;
     const auto& folder = line.operands[0];
-    if (!fs::is_directory(folder, error))
-        return refused({"\"" + folder + "\" is not a folder."});
+    if (auto failure = unfitFolder(folder))
+        return refused(*failure);
+    if (!fs::exists(fs::path(folder) / working_file::joint))
+        return refused({"\"" + folder + "\" holds no beam: there is no Joint.txt in it."});
     const ProjectTitle untitled;
     const ProjectTitle title{line.option("--title").value_or(untitled.project),
                              line.option("--designer").value_or(untitled.designer),
@@ -113,46 +189,70 @@ Exit packCommand(const CommandLine& line) {
 void show(const ProjectTitle& title, const Analysis& analysis, const fs::path& folder) {
     std::printf("%s: %s, by %s\n\n", title.project.c_str(), title.beamName.c_str(),
                 title.designer.c_str());
-    if (analysis.beam.members() <= mostMembersShown) {
-        const auto table = readWhole(folder / working_file::balanceTable);
+    const auto file = folder / working_file::balanceTable;
+    if (analysis.beam.members() <= mostMembersShown)
         std::printf("Balance table (clockwise positive)\n%s\n",
-                    balanceTableStrips(table, terminalWidth()).c_str());
-        std::fputs(resultTables(analysis).c_str(), stdout);
-    } else {
-        std::printf("%zu members.\n%s", analysis.beam.members(), reactionCheck(analysis).c_str());
-    }
-    std::printf("Result files: %s\n", folder.string().c_str());
+                    balanceTableStrips(readWhole(file), terminalWidth()).c_str());
+    else
+        std::printf("The balance table of the %zu members stands in \"%s\".\n\n",
+                    analysis.beam.members(), file.string().c_str());
+    std::fputs(resultTables(analysis).c_str(), stdout);
+}
+
+/// A project that has no dimensions is not designed.
+Failure showDesign(const fs::path& folder, const AnalysisSettings& settings) {
+    if (readWhole(folder / working_file::beamDimensions).empty())
+        return std::nullopt;
+    const auto data = readDesignData(folder, settings.Divisions);
+    warn(data);
+    const auto design = designBeam(data, {});
+    if (auto failure = writeDesign(folder, design))
+        return failure;
+    const bool few = data.NumofMem() <= mostMembersShown;
+    const auto text = few ? designTable(design, data.NumofMem()) : designSummary(design);
+    std::printf("\n%s", text.c_str());
+    return std::nullopt;
 }
 
 Exit runCommand(const CommandLine& line) {
     const auto settings = settingsOf(line);
-    if (!settings) {
-        complain("trabeon-batch: " + settings.refusal().sentence);
-        return Exit::usage;
-    }
+    if (!settings)
+        return wrongUsage(settings.refusal());
+    if (auto failure = unfit(*settings))
+        return refused(*failure);
     const auto& file = line.operands[0];
     const fs::path folder =
         line.option("--out").value_or(fs::path(file).replace_extension().string());
-    const auto title = unpackInto(file, folder);
-    if (!title)
-        return refused(title.refusal());
+    const auto project = unpackInto(file, folder);
+    if (!project)
+        return refused(project.refusal());
     const auto members = readRows<MemberRow>(folder).size();
     const auto analysis = analysed(folder, *settings, progressLine(members));
     if (!analysis)
         return Exit::refused;
-    show(*title, *analysis, folder);
+    show(project->title, *analysis, folder);
+    if (auto failure = showDesign(folder, *settings))
+        return refused(*failure);
+    std::printf("Result files: %s\n", folder.string().c_str());
     return Exit::done;
 }
 
 }  // namespace
 
 void complain(std::string_view sentence) {
-    std::fprintf(stderr, "%.*s\n", static_cast<int>(sentence.size()), sentence.data());
+    std::string line(sentence);
+    std::replace_if(
+        line.begin(), line.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+    std::fprintf(stderr, "%s\n", line.c_str());
 }
 
 Exit carryOut(const CommandLine& line) {
     if (line.command == "analyse")
         return analyseCommand(line);
+    if (line.command == "design")
+        return designCommand(line);
+    if (line.command == "tables")
+        return tablesCommand(line);
     if (line.command == "unpack")
         return unpackCommand(line);
     if (line.command == "pack")

@@ -130,6 +130,10 @@ void Form::SetScaleSize(int width, int height) {
     Resize(ToPixels(width) + border.width(), ToPixels(height) + border.height());
 }
 
+void Form::SetSmallestScaleSize(int width, int height) {
+    body_->setMinimumSize(ToPixels(width), ToPixels(height));
+}
+
 void Form::Resize(int pixelsWide, int pixelsHigh) {
     if (border_ == FormBorder::FixedToolWindow || border_ == FormBorder::FixedDialog)
         Widget()->setFixedSize(pixelsWide, pixelsHigh);
@@ -169,12 +173,15 @@ void Form::Show() {
         return;
     }
     auto* frame = static_cast<ChildFrame*>(Widget());
+    const bool comesUp = !frame->isVisible();
     if (frame->isMinimized())
         frame->showNormal();
     frame->show();
     if (const auto [width, height] = std::exchange(wantedInside_, {}); width > 0)
         SetScaleSize(width, height);
     window_->Area().setActiveSubWindow(frame);
+    if (comesUp && first_)
+        first_->Widget()->setFocus();  // hiding moved the focus on
 }
 
 // The form may be gone when the loop returns: nothing of it is touched from there on.
@@ -217,6 +224,7 @@ void Form::Retire() {
 }
 
 void Form::SetTabOrder(std::initializer_list<const Control*> controls) {
+    first_ = *controls.begin();
     const Control* former = nullptr;
     for (const Control* control : controls) {
         if (former)

@@ -38,6 +38,8 @@ class Form : public Placement, public Container {
     int ScaleWidth() const;
     int ScaleHeight() const;
     void SetScaleSize(int width, int height);
+    // The user cannot make the inside smaller than this.
+    void SetSmallestScaleSize(int width, int height);
 
     // Brings the form to the front. For a dialog it returns when the form is hidden or unloaded.
     void Show();
@@ -56,6 +58,7 @@ class Form : public Placement, public Container {
     // Runs before the form first shows and at each change of its inner size from then on.
     virtual void Form_Resize() {}
 
+    // The first of them has the focus each time the form comes up.
     void SetTabOrder(std::initializer_list<const Control*> controls);
     Menu AddMenu(const std::string& caption);
 
@@ -79,6 +82,7 @@ class Form : public Placement, public Container {
     MdiWindow* window_ = nullptr;
     std::function<void()> endDialog_;
     std::pair<int, int> wantedInside_;  // twips, until the form first shows
+    const Control* first_ = nullptr;
     bool loaded_ = false;
     bool hidden_ = false;
 };

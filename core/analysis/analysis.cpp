@@ -9,15 +9,6 @@
 namespace trabeon {
 namespace {
 
-Failure unfit(const AnalysisSettings& settings) {
-    const auto [Divisions, places] = settings;
-    if (!(Divisions >= 1 && Divisions <= 10'000 && Divisions == std::floor(Divisions)))
-        return Refusal{"The number of sections of a span must be a whole number from 1 to 10,000."};
-    if (!(places >= 0 && places <= 12))
-        return Refusal{"The decimal places of the maximum must be a number from 0 to 12."};
-    return std::nullopt;
-}
-
 bool structureHolds(const BeamRows& rows, const MessageSink& show) {
     bool JointError = false;
     bool MemberError = false;
@@ -28,7 +19,7 @@ bool structureHolds(const BeamRows& rows, const MessageSink& show) {
 
 Failure tooLarge(std::size_t member) {
     return Refusal{"Member " + std::to_string(member) +
-                   ": its loads are too large to be calculated. Use other units."};
+                   ": its moments or shears are too large to be calculated. Use other units."};
 }
 
 Failure unfit(const std::vector<double>& FEM) {
@@ -45,6 +36,13 @@ Failure unfit(const std::vector<Station>& stations, std::size_t perSpan) {
     return std::nullopt;
 }
 
+Failure unfit(const std::vector<SpanMaximum>& maxima) {
+    for (std::size_t k = 0; k < maxima.size(); ++k)
+        if (maxima[k].moment.empty() || maxima[k].shear.empty())
+            return tooLarge(k + 1);
+    return std::nullopt;
+}
+
 /// The calculation from a sound structure on.
 Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
                             const AnalysisOutputs& outputs) {
@@ -54,6 +52,8 @@ Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
     if (!beam)
         return beam.refusal();
     const auto n = beam->members();
+    rows.joints = {};  // their memory serves the loads
+    rows.members = {};
     auto points = normalForm<PointLoad>(std::move(rows.points), n);
     if (!points)
         return points.refusal();
@@ -75,11 +75,27 @@ Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
     });
     if (auto failure = unfit(results.stations(), results.stationsPerSpan()))
         return *failure;
+    if (auto failure = unfit(maxima))
+        return *failure;
     return Analysis{std::move(*beam),  std::move(*points),     std::move(*udls),
                     std::move(*Final), results.takeStations(), std::move(maxima)};
 }
 
 }  // namespace
+
+Failure unfit(const AnalysisSettings& settings) {
+    if (auto failure = unfitDivisions(settings.Divisions))
+        return failure;
+    if (!(settings.places >= 0 && settings.places <= 12))
+        return Refusal{"The decimal places of the maximum must be a number from 0 to 12."};
+    return std::nullopt;
+}
+
+Failure unfitDivisions(double Divisions) {
+    if (!(Divisions >= 1 && Divisions <= 10'000 && Divisions == std::floor(Divisions)))
+        return Refusal{"The number of sections of a span must be a whole number from 1 to 10,000."};
+    return std::nullopt;
+}
 
 BeamRows readBeamRows(const std::filesystem::path& folder) {
     return {readRows<JointRow>(folder), readRows<MemberRow>(folder), readRows<PointRow>(folder),
@@ -94,7 +110,7 @@ std::optional<Analysis> analyse(BeamRows rows, const AnalysisSettings& settings,
     auto analysis = calculate(std::move(rows), settings, outputs);
     if (analysis)
         return std::move(*analysis);
-    outputs.message({analysis.refusal().sentence, 48, "Trabeon"});
+    outputs.refuse(analysis.refusal());
     return std::nullopt;
 }
 

@@ -20,9 +20,17 @@ bool isMeasure(double value) {
 /// A type that was spelled by hand ("fixed", "PIN") passed the rules as no type at all; as the type
 /// that it is taken for it must pass them too.
 Failure unfitSpelling(const std::vector<JointRow>& joints, const std::vector<Joint>& types) {
+    const auto nameOf = [&](std::size_t j) {
+        return jointNames[static_cast<std::size_t>(types[j])];
+    };
+    std::size_t misspelled = 1;
+    while (misspelled <= joints.size() && joints[misspelled - 1].type == nameOf(misspelled))
+        ++misspelled;
+    if (misspelled > joints.size())
+        return std::nullopt;
     auto spelled = joints;
     for (std::size_t j = 1; j <= joints.size(); ++j)
-        spelled[j - 1].type = jointNames[static_cast<std::size_t>(types[j])];
+        spelled[j - 1].type = nameOf(j);
     bool error = false;
     std::string first;
     CheckJoint(spelled, error, [&](const Message& message) {
@@ -31,8 +39,9 @@ Failure unfitSpelling(const std::vector<JointRow>& joints, const std::vector<Joi
     });
     if (!error)
         return std::nullopt;
-    return Refusal{first +
-                   " (Joint types are spelled Cantilever, Pin Jointed, Continuous and Fixed.)"};
+    return Refusal{"Joint " + std::to_string(misspelled) + ", whose type \"" +
+                   joints[misspelled - 1].type + "\" was taken for " +
+                   std::string(nameOf(misspelled)) + ": " + first};
 }
 
 Failure unfitMember(const MemberRow& row, std::size_t number, const Beam& beam) {
@@ -46,7 +55,7 @@ Failure unfitMember(const MemberRow& row, std::size_t number, const Beam& beam) 
         return bad("I", row.I);
     if (!isMeasure(beam.Length[number]))
         return bad("L", row.L);
-    if (!isMeasure(beam.Stiffness[number]))
+    if (!isMeasure(2 * beam.Stiffness[number]))  // two of them are added at a joint
         return Refusal{
             "Member " + std::to_string(number) +
             ": its stiffness E × I / L is too large or too small a number. Use other units."};

@@ -1,5 +1,7 @@
 #include "core/analysis/fixed_end_moments.h"
 
+#include "core/analysis/settled_sum.h"
+
 namespace trabeon {
 namespace {
 
@@ -17,21 +19,25 @@ double aboutLeftEnd(const PointLoad& load) {
     return load.P * load.a;
 }
 
+/// The two end moments of one member while its loads are added.
+struct EndSums {
+    SettledSum left, right;
+};
+
 template <class Load>
-void addMember(std::vector<double>& FEM, const Beam& beam, const MemberLoads<Load>& loads,
-               std::size_t i) {
+void addLoads(EndSums& ends, const Beam& beam, const MemberLoads<Load>& loads, std::size_t i) {
     const double L = beam.Length[i];
     const bool leftCantilever = i == 1 && beam.leftCantilever();
     const bool rightCantilever = i == beam.members() && beam.rightCantilever();
     for (const auto& load : loads.on(i)) {
         if (leftCantilever) {
-            FEM[2 * i] += aboutRightEnd(load, L);
+            ends.right.add(aboutRightEnd(load, L));
         } else if (rightCantilever) {
-            FEM[2 * i - 1] -= aboutLeftEnd(load);
+            ends.left.add(-aboutLeftEnd(load));
         } else {
-            const auto ends = fixedEndMoments(load, L);
-            FEM[2 * i - 1] -= ends.left;
-            FEM[2 * i] += ends.right;
+            const auto fixed = fixedEndMoments(load, L);
+            ends.left.add(-fixed.left);
+            ends.right.add(fixed.right);
         }
     }
 }
@@ -62,8 +68,11 @@ std::vector<double> fixedEndMoments(const Beam& beam, const MemberLoads<UdlLoad>
                                     const MemberLoads<PointLoad>& points) {
     std::vector<double> FEM(beam.EndCount + 2, 0);
     for (std::size_t i = 1; i <= beam.members(); ++i) {
-        addMember(FEM, beam, udls, i);
-        addMember(FEM, beam, points, i);
+        EndSums ends;
+        addLoads(ends, beam, udls, i);
+        addLoads(ends, beam, points, i);
+        FEM[2 * i - 1] = ends.left.value();
+        FEM[2 * i] = ends.right.value();
     }
     return FEM;
 }

@@ -72,7 +72,7 @@ Outcome<MemberLoads<Load>> normalForm(std::vector<typename Load::Row> rows, std:
     first[members + 1] = place;
 
     MemberLoads<Load> normal{{}, {}, std::move(first)};
-    normal.rows.resize(place, Load::zeroRow());
+    normal.rows.resize(place);
     normal.loads.resize(place, Load(Load::zeroRow()));
     auto next = normal.first;
     for (std::size_t k = 0; k < rows.size(); ++k) {
@@ -83,6 +83,8 @@ Outcome<MemberLoads<Load>> normalForm(std::vector<typename Load::Row> rows, std:
         normal.loads[next[member]++] = kept[k].second;
     }
     for (std::size_t i = 1; i <= members; ++i) {
+        if (next[i] == normal.first[i])
+            normal.rows[next[i]] = Load::zeroRow();
         const auto number = generatedText(static_cast<double>(i));
         for (auto k = normal.first[i]; k < normal.first[i + 1]; ++k)
             normal.rows[k].member = number;

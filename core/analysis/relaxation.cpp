@@ -1,5 +1,7 @@
 #include "core/analysis/relaxation.h"
 
+#include "core/analysis/settled_sum.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -19,9 +21,11 @@ bool isPin(Joint joint) {
 void balanceJoints(const Row& from, const DistributionFactors& factors, std::size_t members,
                    Row& to) {
     for (std::size_t i = 1; i < members; ++i) {
-        const double unbalance = from[2 * i] + from[2 * i + 1];
-        to[2 * i] = -unbalance * factors.DFRight[i];
-        to[2 * i + 1] = -unbalance * factors.DFLeft[i + 1];
+        SettledSum unbalance;
+        unbalance.add(from[2 * i]);
+        unbalance.add(from[2 * i + 1]);
+        to[2 * i] = -unbalance.value() * factors.DFRight[i];
+        to[2 * i + 1] = -unbalance.value() * factors.DFLeft[i + 1];
     }
 }
 
@@ -40,6 +44,16 @@ void add(const Row& row, Row& Final) {
 bool negligible(const Row& row, std::size_t ends) {
     return std::all_of(row.begin() + 1, row.begin() + 1 + static_cast<std::ptrdiff_t>(ends),
                        [](double moment) { return std::fabs(moment) <= balanceTolerance; });
+}
+
+bool isFinite(const Row& row) {
+    return std::all_of(row.begin(), row.end(), [](double moment) { return std::isfinite(moment); });
+}
+
+Refusal unsettled() {
+    return {
+        "The moments do not settle: a load or a stiffness is too large a number. Use other "
+        "units."};
 }
 
 void giveHeading(const Beam& beam, const DistributionFactors& factors, const TableSink& row) {
@@ -97,22 +111,26 @@ Outcome<std::vector<double>> relax(const Beam& beam, const std::vector<double>& 
     balanceJoints(FEM, factors, n, BalRow);
     BalRow[1] = isPin(beam.SupportType[1]) ? -FEM[1] : 0;
     BalRow[ends] = isPin(beam.SupportType[beam.Supports]) ? -FEM[ends] : 0;
+    if (!isFinite(BalRow))
+        return unsettled();
     give("Bal..", BalRow);
     add(BalRow, Final);
     for (int cycle = 0; cycle == 0 || !negligible(BalRow, ends); ++cycle) {
         if (cycle == mostCycles)
-            return Refusal{
-                "The moments do not settle: a load or a stiffness is too large a number. Use "
-                "other units."};
+            return unsettled();
         carryOver(BalRow, n, NextRow);
         give("C.Ovr", NextRow);
         add(NextRow, Final);
         balanceJoints(NextRow, factors, n, BalRow);
         BalRow[1] = -NextRow[1] * factors.DFLeft[1];
         BalRow[ends] = -NextRow[ends] * factors.DFRight[n];
+        if (!isFinite(BalRow))
+            return unsettled();
         give("Bal..", BalRow);
         add(BalRow, Final);
     }
+    if (!isFinite(Final))
+        return unsettled();
     settled();
     give("Final", Final);
     return Final;

@@ -44,12 +44,13 @@ void writeRow(ReplacingFile& file, const Station& station) {
     file.advance(put(at, "\r\n"));
 }
 
-/// The load files in normal form, and the scratch twins that the regrouping leaves behind.
+/// The load files in normal form, and the scratch twins that the regrouping leaves behind. A second
+/// analysis finds them so.
 template <class Load>
 void writeLoads(FileSet& files, const MemberLoads<Load>& loads) {
     const auto text = textOf(loads.rows, Description::bare);
-    files.add(Load::Row::scratch).write(text);
-    files.add(Load::Row::file).write(text);
+    files.put(Load::Row::scratch, text);
+    files.put(Load::Row::file, text);
 }
 
 }  // namespace
@@ -99,6 +100,10 @@ std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
             table.emplace(files.add(working_file::balanceTable));
         table->write(row);
     };
+    if (const auto failure = unreadable(folder, inputFiles)) {
+        outputs.refuse(*failure);
+        return std::nullopt;
+    }
     auto analysis = analyse(readBeamRows(folder), settings, outputs);
     if (!analysis)
         return std::nullopt;
@@ -107,7 +112,7 @@ std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
     writeLoads(files, analysis->points);
     writeLoads(files, analysis->udls);
     if (const auto failure = files.commit()) {
-        outputs.message({failure->sentence, 48, "Trabeon"});
+        outputs.refuse(*failure);
         return std::nullopt;
     }
     return analysis;

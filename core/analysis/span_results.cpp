@@ -5,27 +5,11 @@
 #include <cmath>
 #include <span>
 
+#include "core/analysis/settled_sum.h"
 #include "core/text/number_masks.h"
 
 namespace trabeon {
 namespace {
-
-/// A sum below this part of its largest term is rounding dust, and 0 on paper.
-constexpr double dust = 1e-12;
-
-class Sum {
-  public:
-    void add(double term) {
-        value_ += term;
-        largest_ = std::max(largest_, std::fabs(term));
-    }
-    [[nodiscard]] double settled() const {
-        return std::fabs(value_) < dust * largest_ ? 0 : value_;
-    }
-
-  private:
-    double value_ = 0, largest_ = 0;
-};
 
 /// One span on its two joints: the end moments and whatever loads are added. The left reaction
 /// enters as its parts, each end moment's and each load's share.
@@ -59,7 +43,7 @@ class SimpleSpan {
         shear_.add(load.P);
     }
 
-    [[nodiscard]] SectionForces forces() const { return {moment_.settled(), shear_.settled()}; }
+    [[nodiscard]] SectionForces forces() const { return {moment_.value(), shear_.value()}; }
 
   private:
     /// A section this near to where a load starts or ends counts as on it.
@@ -74,10 +58,14 @@ class SimpleSpan {
 
     double L_, x_;
     bool hasReaction_;
-    Sum moment_, shear_;
+    SettledSum moment_, shear_;
 };
 
+/// A value that is not finite has no text.
 void putText(double value, std::string& text) {
+    text.clear();
+    if (!std::isfinite(value))
+        return;
     std::array<char, longestMask> mask;
     text.assign(mask.data(), putThreeFigures(mask.data(), value));
 }

@@ -33,7 +33,8 @@ class SpanResults {
     /// FindMax "N": the stations x(k) = k × Length / Divisions of every span, 0 to Divisions, the
     /// last at the length exactly; they stand in stations() afterwards, one span behind the other.
     /// FindMax "Y": the one section X_Dist of span MemNo, at index 0 of TempMx and TempVx.
-    /// B_Moment and S_Force take the texts, in the mask "0.00E+00", of the last section calculated.
+    /// B_Moment and S_Force take the texts, in the mask "0.00E+00", of the last section calculated;
+    /// a value that is not finite has an empty text.
     /// TempMx and TempVx take moments and shears by station, index 0 to Divisions. XDist1, XDist2
     /// and CorrectTo are the caller's bracket and its width, passed along. Final holds the end
     /// moments by member end (clockwise positive); arrays count from 1.

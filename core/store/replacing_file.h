@@ -11,9 +11,10 @@
 
 namespace trabeon {
 
-/// New content is written to "NAME.new" beside the target and renamed over it by commit(). Until
-/// then, and if anything fails or the process dies, the old file stands as it was. One that is
-/// destroyed before its commit removes what it wrote.
+/// New content is written to "NAME.new" beside the target and renamed over it by commit(); the new
+/// file keeps the old one's permissions, and a link keeps pointing to the file that is replaced.
+/// Until then, and if anything fails or the process dies, the old file stands as it was. One that
+/// is destroyed before its commit removes what it wrote.
 class ReplacingFile {
   public:
     explicit ReplacingFile(std::filesystem::path target);
@@ -38,7 +39,7 @@ class ReplacingFile {
     [[nodiscard]] Failure commit();
 
   private:
-    static constexpr std::size_t capacity = 256 * 1024;
+    static constexpr std::size_t capacity = 128 * 1024;
 
     void flush();
     void noteError();
@@ -61,6 +62,9 @@ class FileSet {
     explicit FileSet(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
     ReplacingFile& add(std::string_view name) { return files_.emplace_back(folder_ / name); }
+
+    /// The whole content of one file. If it stands there already, the file is left alone.
+    void put(std::string_view name, std::string_view text);
 
     /// Every file takes its place, in the order in which they were added.
     [[nodiscard]] Failure commit();

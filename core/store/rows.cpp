@@ -1,9 +1,18 @@
 #include "core/store/rows.h"
 
+#include <algorithm>
+
 namespace trabeon {
+namespace {
+
+bool endsAField(char c) {
+    return c == ',' || c == '\r' || c == '\n';
+}
+
+}  // namespace
 
 void appendField(std::string& text, std::string_view field) {
-    if (field.find_first_of(",\r\n") != std::string_view::npos)
+    if (std::any_of(field.begin(), field.end(), endsAField))
         appendQuoted(text, field);
     else
         text += field;

@@ -1,6 +1,7 @@
 // The rows of the four input files and of the beam dimensions: text as the user typed it.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <string_view>
@@ -102,21 +103,16 @@ void appendRow(std::string& text, const Row& row, Description description) {
     text += "\r\n";
 }
 
-template <class Row>
-[[nodiscard]] Row readRow(FieldReader& reader) {
-    Row row;
-    for (const auto field : Row::fields)
-        row.*field = reader.next();
-    return row;
-}
-
 /// All rows of a file's text. A last row that is short has empty texts for what is missing.
 template <class Row>
 [[nodiscard]] std::vector<Row> rowsOf(std::string_view text) {
     std::vector<Row> rows;
+    const auto lines = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+    rows.reserve(std::min(lines, text.size() / Row::fields.size()) + 1);
     FieldReader reader(text);
     while (!reader.atEnd())
-        rows.push_back(readRow<Row>(reader));
+        for (Row& row = rows.emplace_back(); const auto field : Row::fields)
+            row.*field = reader.next();
     return rows;
 }
 

@@ -6,6 +6,7 @@ namespace trabeon {
 
 std::string_view FieldReader::next() {
     lineEnded_ = false;
+    quoteOpen_ = false;
     passBlanks();
     const bool quoted = at_ < text_.size() && text_[at_] == '"';
     return quoted ? quotedField() : bareField();
@@ -23,6 +24,7 @@ std::string_view FieldReader::nextLine() {
 std::string_view FieldReader::quotedField() {
     const auto start = at_ + 1;
     const auto end = std::min(text_.find('"', start), text_.size());
+    quoteOpen_ = end == text_.size();
     const auto field = text_.substr(start, end - start);
     line_ += static_cast<int>(std::count(field.begin(), field.end(), '\n'));
     at_ = std::min(end + 1, text_.size());
@@ -52,17 +54,13 @@ void FieldReader::passBlanks() {
         ++at_;
 }
 
-bool FieldReader::passLineEnd() {
-    lineEnded_ = true;
-    if (at_ >= text_.size())
-        return true;
-    if (text_[at_] != '\r' && text_[at_] != '\n') {
-        lineEnded_ = false;
-        return false;
-    }
-    at_ += text_[at_] == '\r' && at_ + 1 < text_.size() && text_[at_ + 1] == '\n' ? 2 : 1;
+void FieldReader::passLineEnd() {
+    const bool atEnd = at_ >= text_.size();
+    lineEnded_ = atEnd || text_[at_] == '\r' || text_[at_] == '\n';
+    if (atEnd || !lineEnded_)
+        return;
+    at_ += text_.substr(at_, 2) == "\r\n" ? 2 : 1;
     ++line_;
-    return true;
 }
 
 }  // namespace trabeon

@@ -26,6 +26,9 @@ class FieldReader {
     /// Whether the field read last was the last one of its line.
     [[nodiscard]] bool lineEnded() const { return lineEnded_; }
 
+    /// Whether the field read last began with a double quote that nothing closes.
+    [[nodiscard]] bool quoteOpen() const { return quoteOpen_; }
+
     /// The line, counting from 1, on which the next field or line begins.
     [[nodiscard]] int line() const { return line_; }
 
@@ -33,12 +36,13 @@ class FieldReader {
     std::string_view quotedField();
     std::string_view bareField();
     void passBlanks();
-    bool passLineEnd();
+    void passLineEnd();
 
     std::string_view text_;
     std::size_t at_ = 0;
     int line_ = 1;
     bool lineEnded_ = false;
+    bool quoteOpen_ = false;
 };
 
 }  // namespace trabeon

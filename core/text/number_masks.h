@@ -24,6 +24,9 @@ char* putPercent(char* at, double factor);
 /// "000000000" of a whole number from 0 to 999,999,999; a larger one takes the digits it needs.
 char* putNineDigits(char* at, double whole);
 
+/// "0.000" of a value from 0 up to 10^14: 1.005, 0.141.
+[[nodiscard]] std::string threePlaces(double value);
+
 /// Text of the mask "0.00E+00".
 [[nodiscard]] std::string threeFigures(double value);
 

@@ -1,7 +1,9 @@
 #include "core/text/number_text.h"
 
+#include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <limits>
 
@@ -93,13 +95,26 @@ std::string exponentText(int exponent) {
     return text + std::to_string(size);
 }
 
+/// Member, joint and span numbers: most of the numbers that are put into text here.
+bool isShortWhole(double value) {
+    return value >= 0 && value < 1e15 && value == std::floor(value);
+}
+
+std::string wholeText(double value) {
+    std::array<char, 24> text{' '};
+    const auto end =
+        std::to_chars(text.data() + 1, text.data() + text.size(), static_cast<std::int64_t>(value))
+            .ptr;
+    return {text.data(), end};
+}
+
 }  // namespace
 
 double leadingNumber(std::string_view text) {
     return leading(text).value;
 }
 
-std::optional<double> wholeNumberText(std::string_view text) {
+std::optional<double> numberOfWholeText(std::string_view text) {
     const auto [value, end] = leading(text);
     if (end == 0 || text.find_first_not_of(' ', end) != std::string_view::npos)
         return std::nullopt;
@@ -107,6 +122,8 @@ std::optional<double> wholeNumberText(std::string_view text) {
 }
 
 std::string generatedText(double value) {
+    if (isShortWhole(value))
+        return wholeText(value);
     const Decimal decimal = decimalOf(value);
     const char sign = decimal.negative ? '-' : ' ';
     std::string digits = std::to_string(decimal.digits);

@@ -3,6 +3,11 @@
 #include "core/store/project_file.h"
 #include "core/store/replacing_file.h"
 #include "core/store/working_files.h"
+#include "forms/input/frmDiagram.h"
+#include "forms/input/frmJoints.h"
+#include "forms/input/frmMembers.h"
+#include "forms/input/frmPoint.h"
+#include "forms/input/frmUDL.h"
 #include "forms/main/frmTitle.h"
 #include "forms/main/messages.h"
 #include "forms/results/frmAnalysis.h"
@@ -38,6 +43,11 @@ frmTrabeon::frmTrabeon(const std::filesystem::path& folder)
 
 void frmTrabeon::registerForms() {
     forms_.Register<frmTitle>(context_);
+    forms_.Register<frmJoints>(context_);
+    forms_.Register<frmMembers>(context_);
+    forms_.Register<frmPoint>(context_);
+    forms_.Register<frmUDL>(context_);
+    forms_.Register<frmDiagram>(context_);
     forms_.Register<frmAnalysis>(context_);
     forms_.Register<frmOptions>(context_);
     forms_.Register<frmMoment1>(context_);

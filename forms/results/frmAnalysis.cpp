@@ -4,6 +4,8 @@
 #include <chrono>
 
 #include "core/analysis/result_files.h"
+#include "forms/input/frmPoint.h"
+#include "forms/input/frmUDL.h"
 #include "forms/results/frmOptions.h"
 #include "toolkit/outside.h"
 #include "toolkit/wait_cursor.h"
@@ -70,8 +72,21 @@ void frmAnalysis::cmdAnalyse_Click() {
         Outside::Current().MsgBox(message.text, message.style, message.title);
     };
     outputs.progress = PacedProgress(PBAnalysis);
-    if (analyseFolder(context_.folder, settings, outputs))
-        ShowTable();
+    const auto analysis = analyseFolder(context_.folder, settings, outputs);
+    if (!analysis)
+        return;
+    refillLoads(*analysis);
+    ShowTable();
+}
+
+/// The load editors show the rows in normal form, out of sight until they are opened again.
+void frmAnalysis::refillLoads(const Analysis& analysis) {
+    auto& point = context_.forms.Get<frmPoint>();
+    auto& udl = context_.forms.Get<frmUDL>();
+    point.Refill(analysis.points.rows);
+    udl.Refill(analysis.udls.rows);
+    udl.Hide();
+    point.Hide();
 }
 
 }  // namespace trabeon

@@ -1,6 +1,7 @@
 // Starts the analysis and shows its balance table.
 #pragma once
 
+#include "core/analysis/analysis.h"
 #include "forms/main/context.h"
 #include "toolkit/button.h"
 #include "toolkit/form.h"
@@ -28,6 +29,7 @@ class frmAnalysis : public Form {
 
   private:
     void cmdAnalyse_Click();
+    void refillLoads(const Analysis& analysis);
 
     Context& context_;
 };

@@ -2,15 +2,14 @@
 
 #include <cmath>
 #include <limits>
-#include <string_view>
 
 #include "core/text/number_text.h"
+#include "forms/main/keys.h"
 
 namespace trabeon {
 namespace {
 
 constexpr int leastDivisions = 10;
-constexpr int backspace = 8;
 
 }  // namespace
 
@@ -52,7 +51,7 @@ frmOptions::frmOptions(Context& context) : Form("Plotting Options"), context_(co
 
 AnalysisSettings frmOptions::Settings() const {
     constexpr double none = std::numeric_limits<double>::quiet_NaN();
-    return {leadingNumber(txtDivision.Text()), wholeNumberText(txtPlaces.Text()).value_or(none)};
+    return {leadingNumber(txtDivision.Text()), numberOfWholeText(txtPlaces.Text()).value_or(none)};
 }
 
 void frmOptions::Form_Load() {
@@ -62,12 +61,7 @@ void frmOptions::Form_Load() {
 }
 
 void frmOptions::txtDivision_KeyPress(int& keyAscii) {
-    constexpr std::string_view passing = "0123456789.";
-    const bool passes =
-        keyAscii == backspace || (keyAscii > 0 && keyAscii < 128 &&
-                                  passing.find(static_cast<char>(keyAscii)) != passing.npos);
-    if (!passes)
-        keyAscii = 0;
+    keepKeys(keyAscii, plainNumber);
 }
 
 void frmOptions::cmdChangeM_Click() {

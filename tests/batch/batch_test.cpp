@@ -1,6 +1,5 @@
 // trabeon-batch as a user calls it: words in, exit code, texts and files out.
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -11,48 +10,16 @@
 #include <vector>
 
 #include "core/text/number_text.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/support/batch_program.h"
 
 namespace trabeon {
 namespace {
 
 namespace fs = std::filesystem;
+using test::batch;
+using test::start;
 using test::TemporaryFolder;
 using Contents = std::map<std::string, std::string>;
-
-/// Starts the program with its output in the folder's files "out" and "err".
-pid_t start(const TemporaryFolder& folder, const std::vector<std::string>& words,
-            rlim_t fileLimit = RLIM_INFINITY) {
-    const auto out = (folder / "out").string();
-    const auto err = (folder / "err").string();
-    std::vector<char*> arguments{const_cast<char*>(TRABEON_BATCH)};
-    for (const auto& word : words)
-        arguments.push_back(const_cast<char*>(word.c_str()));
-    arguments.push_back(nullptr);
-    const pid_t child = fork();
-    if (child != 0)
-        return child;
-    if (std::freopen(out.c_str(), "w", stdout) == nullptr ||
-        std::freopen(err.c_str(), "w", stderr) == nullptr)
-        _exit(126);
-    std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{fileLimit, RLIM_INFINITY};
-    setrlimit(RLIMIT_FSIZE, &limit);
-    execv(arguments[0], arguments.data());
-    _exit(127);
-}
-
-struct Answer {
-    int exit;
-    std::string out, err;
-};
-
-Answer batch(const std::vector<std::string>& words, rlim_t fileLimit = RLIM_INFINITY) {
-    const TemporaryFolder folder;
-    int status = 0;
-    waitpid(start(folder, words, fileLimit), &status, 0);
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, folder.read("out"), folder.read("err")};
-}
 
 void copyCase(const fs::path& from, const TemporaryFolder& to) {
     for (const auto& entry : fs::directory_iterator(from))
@@ -127,9 +94,8 @@ TEST(Analyse, RulesAndRefusalsGoToStandardErrorAndChangeNoFile) {
            "Joint 2: its type is \"Hinge\". It must be Cantilever, Pin Jointed, Continuous or "
            "Fixed.\n");
     refuse("Joint.txt", "1,Fixed,a\r\n2,pinned,b\r\n3,Fixed,c\r\n", {},
-           "You can't have a Fix Joint, Cantilever Joint or Pin Joint in a continuous position of "
-           "the beam. (Joint "
-           "types are spelled Cantilever, Pin Jointed, Continuous and Fixed.)\n");
+           "Joint 2, whose type \"pinned\" was taken for Pin Jointed: You can't have a Fix Joint, "
+           "Cantilever Joint or Pin Joint in a continuous position of the beam.\n");
     refuse("Member.txt", "1,200,2,6,a\r\n2,200,2,0.0,b\r\n", {},
            "Member 2: L is \"0.0\". It must be a number above 0; mend the member's row.\n");
     refuse("Member.txt", "1,,2,6,a\r\n2,200,2,6,b\r\n", {},
@@ -144,7 +110,7 @@ TEST(Analyse, RulesAndRefusalsGoToStandardErrorAndChangeNoFile) {
            "Row 1 of the point loads, on member 1: a or P is too large a number. Enter a smaller "
            "one.\n");
     refuse("Point.txt", "2,3,1E308,a\r\n2,3,1E308,b\r\n2,3,1E308,c\r\n", {},
-           "Member 2: its loads are too large to be calculated. Use other units.\n");
+           "Member 2: its moments or shears are too large to be calculated. Use other units.\n");
     const auto* divisions =
         "The number of sections of a span must be a whole number from 1 to 10,000.\n";
     for (const auto* wrong : {"0", "-1", "10.5", "10001", "1E999"})
@@ -234,6 +200,28 @@ TEST(Run, ShowsTheProjectsTablesAndLeavesItsFiles) {
         EXPECT_NE(long_.out.find(text), std::string::npos) << text << '\n' << long_.out;
 }
 
+TEST(Run, LongBeamShowsItsMomentsAndSaysWhereItsTableIs) {
+    const TemporaryFolder folder;
+    writeBeam(folder, 21);
+    const auto project = (folder / "long.TB").string();
+    ASSERT_EQ(batch({"pack", folder.path().string(), project}).exit, 0);
+    const auto answer = batch({"run", project});
+    const auto table = (folder / "long/TB.txt").string();
+    // Many equal spans: wL²/12 = 36 at the supports in the middle.
+    for (const auto& text : {"The balance table of the 21 members stands in \"" + table + "\".",
+                             std::string("\n11               -36         -36"),
+                             std::string("Reactions add up to 1512, loads to 1512: they agree.")})
+        EXPECT_NE(answer.out.find(text), std::string::npos) << text << answer.out;
+}
+
+TEST(Run, RefusedSettingsLeaveTheFolderAsItWas) {
+    const TemporaryFolder folder;
+    const auto answer = batch({"run", EXAMPLES "/two-span-floor-beam.TB", "--out",
+                               (folder / "a/b").string(), "--places", "99"});
+    EXPECT_EQ(answer.exit, 1);
+    EXPECT_FALSE(fs::exists(folder / "a"));
+}
+
 TEST(Run, RefusedProjectLeavesNoFolder) {
     const TemporaryFolder folder;
     folder.write("broken.TB", "not a project\r\n");
@@ -264,8 +252,10 @@ TEST(CommandLine, WrongUsageIsOneLineAndExitCodeTwo) {
         {{}, "trabeon-batch: A command is missing. See trabeon-batch --help.\n"},
         {{"draw"}, "trabeon-batch: There is no command \"draw\". See trabeon-batch --help.\n"},
         {{"analyse"},
-         "trabeon-batch: Usage: trabeon-batch analyse DIR [--divisions N] [--places N]\n"},
-        {{"unpack", "a", "b", "c"}, "trabeon-batch: Usage: trabeon-batch unpack FILE.TB DIR\n"},
+         "trabeon-batch: \"analyse\" takes DIR, not 0 names. Usage: trabeon-batch analyse DIR [--divisions N] [--places N]\n"},
+        {{"unpack", "a", "b", "c"},
+         "trabeon-batch: \"unpack\" takes FILE.TB DIR, not 3 names. Usage: trabeon-batch unpack "
+         "FILE.TB DIR\n"},
         {{"unpack", "a", "b", "--out", "c"},
          "trabeon-batch: \"unpack\" has no option --out. Usage: trabeon-batch unpack FILE.TB "
          "DIR\n"},
@@ -283,7 +273,7 @@ TEST(CommandLine, WrongUsageIsOneLineAndExitCodeTwo) {
     }
     const auto help = batch({"run", "--help"});
     EXPECT_EQ(help.exit, 0);
-    for (const auto* command : {"run", "analyse", "unpack", "pack"})
+    for (const auto* command : {"run", "analyse", "design", "tables", "unpack", "pack"})
         EXPECT_NE(help.out.find(std::string("Example: trabeon-batch ") + command),
                   std::string::npos)
             << command;

@@ -35,6 +35,8 @@ TEST_F(Options, OkWithoutAChangeLeavesTheResults) {
     Click(options.cmdOptionsOK);
     EXPECT_FALSE(options.Visible());
     EXPECT_TRUE(ResultsStand());
+    EXPECT_TRUE(Open().txtDivision.HasFocus());  // again, though hiding moved the focus
+    EXPECT_EQ(options.txtDivision.SelLength(), 2);
 }
 
 TEST_F(Options, EachChangeWithdrawsTheResultsAtOnce) {

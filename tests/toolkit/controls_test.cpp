@@ -36,6 +36,19 @@ TEST_F(ControlsTest, ButtonClicksByMouseSpaceEnterAndCodeWhileEnabled) {
     EXPECT_EQ(clicks, 4);
 }
 
+TEST_F(ControlsTest, AButtonTooNarrowForALetterShowsNoCaption) {
+    Button one(Bench(), "Wide"), other(Bench(), "&Other");
+    const auto faces = [&](int width) {
+        one.Move(0, 0, width, 255);
+        other.Move(0, 0, width, 255);
+        return std::pair(one.Widget()->grab().toImage(), other.Widget()->grab().toImage());
+    };
+    const auto narrow = faces(75);
+    EXPECT_EQ(narrow.first, narrow.second);
+    const auto wide = faces(1215);
+    EXPECT_NE(wide.first, wide.second);
+}
+
 TEST_F(ControlsTest, AButtonIsWideEnoughForItsCaption) {
     const Button shortOne(Bench(), "&Ok"), longOne(Bench(), "Use &Word For Windows To Print");
     EXPECT_EQ(shortOne.Width(), 1215);

@@ -221,6 +221,39 @@ TEST_F(FormsTest, AToolWindowCannotBeSizedAndHasACloseBoxOnly) {
                  (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint));
 }
 
+TEST_F(FormsTest, TheUserCannotMakeAFormSmallerThanItAllows) {
+    auto& form = forms.Get<frmFirst>();
+    form.SetSmallestScaleSize(3000, 1500);
+    Settle();
+    EXPECT_GE(form.Widget()->minimumSizeHint().width(), 200);
+    EXPECT_GE(form.Widget()->minimumSizeHint().height(), 100);
+    form.Move(0, 0, 1500, 900);
+    EXPECT_EQ(form.ScaleWidth(), 3000);  // what stands there is cut off, and keeps its place
+    EXPECT_EQ(form.ScaleHeight(), 1500);
+}
+
+TEST_F(FormsTest, AnAccessKeyGoesToTheFormInFrontBeforeTheMenuBar) {
+    window.AddMenu("&Copy").Add("&Entry", "", [] {});
+    auto& form = forms.Get<frmFirst>();
+    Settle();
+    int clicks = 0;
+    form.cmdClose.Click = [&clicks] { ++clicks; };
+    const auto press = [&form] {
+        QTest::keyClick(form.text.Widget(), Qt::Key_C, Qt::AltModifier);
+        const bool menu = QApplication::activePopupWidget() != nullptr;
+        if (menu)
+            QApplication::activePopupWidget()->close();
+        return menu;
+    };
+    EXPECT_FALSE(press());
+    EXPECT_FALSE(press());
+    EXPECT_EQ(clicks, 2);
+    EXPECT_EQ(form.text.Text(), "default");
+    form.cmdClose.SetEnabled(false);
+    EXPECT_TRUE(press());
+    EXPECT_EQ(clicks, 2);
+}
+
 TEST_F(FormsTest, ADialogHoldsTheCallerUntilItIsUnloaded) {
     QTimer::singleShot(0, [this] {
         run.log.push_back("in dialog");

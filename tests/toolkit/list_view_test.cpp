@@ -2,6 +2,8 @@
 #include "toolkit/list_view.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
+#include <QToolTip>
 #include <QTreeWidget>
 
 #include "tests/support/gui_fixture.h"
@@ -173,6 +175,22 @@ TEST_F(ListViewTest, AnArrowKeyChoosesARowAndCountsAsAClick) {
     QTest::keyClick(list().Widget(), Qt::Key_Down);
     EXPECT_EQ(list().SelectedItem().Index(), 2);
     EXPECT_EQ(form().log, "c");
+}
+
+TEST_F(ListViewTest, ATextThatIsCutShowsWholeUnderThePointer) {
+    Add("short", std::string(200, 'x'));
+    Settle();
+    const auto hover = [this](int column) {
+        QToolTip::hideText();
+        const QModelIndex index = tree().model()->index(0, column);
+        const QPoint at = tree().visualRect(index).center();
+        QHelpEvent event(QEvent::ToolTip, at, tree().viewport()->mapToGlobal(at));
+        QApplication::sendEvent(tree().viewport(), &event);
+        return QToolTip::text();
+    };
+    EXPECT_EQ(hover(0), "");
+    EXPECT_TRUE(hover(1).contains(QString(200, 'x')));
+    QToolTip::hideText();
 }
 
 TEST_F(ListViewTest, CtrlCCopiesTheSelectedRows) {

@@ -1,0 +1,20 @@
+// What `run` shows of a designed beam on a terminal.
+#pragma once
+
+#include <string>
+
+#include "core/design/design.h"
+
+namespace trabeon {
+
+/// A line for each member: the greatest steel in its lower and upper face, where it is required and
+/// its bars, the links of the section that requires most, and what failed in any section.
+[[nodiscard]] std::string designTable(const BeamDesign& design, std::size_t members);
+
+/// One line for a beam with too many members to show.
+[[nodiscard]] std::string designSummary(const BeamDesign& design);
+
+/// What is wrong with sections that have no dimensions of their own; empty if all have.
+[[nodiscard]] std::string missingDimensionsWarning(const DesignData& data);
+
+}  // namespace trabeon

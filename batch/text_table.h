@@ -1,0 +1,23 @@
+// Lines of a table for a terminal: a label at the left, cells to the right of their columns.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace trabeon {
+
+inline constexpr std::size_t columnWidth = 12;
+inline constexpr std::size_t labelWidth = 8;
+
+/// A text that is as wide as its column, or a blank and the text itself.
+[[nodiscard]] std::string padded(std::string_view text, std::size_t width);
+
+/// The text and the blanks up to the first column, at least one.
+[[nodiscard]] std::string labelled(std::string_view text);
+
+[[nodiscard]] std::string tableLine(std::string_view label,
+                                    std::initializer_list<std::string_view> cells,
+                                    std::size_t width = columnWidth);
+
+}  // namespace trabeon

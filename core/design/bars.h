@@ -1,0 +1,37 @@
+// Bars for the two faces of a section: sizes 10, 12, 16, 20 and 25 mm.
+#pragma once
+
+#include <string>
+
+#include "core/design/misc_properties.h"
+
+namespace trabeon {
+
+/// "R" for steel of up to 250 N/mm2, "Y" for stronger steel.
+[[nodiscard]] char gradeLetter(double strength);
+
+/// Equal bars in one face.
+struct Bars {
+    double count = 0, size = 0;
+};
+
+/// The fewest bars of a size, in mm, whose area reaches `area`, in mm2; equal is enough. Never a
+/// single one; none for an area of 0 or less.
+[[nodiscard]] double barsNeeded(double area, double size);
+
+/// The breadth in mm that a row of bars takes, with links and covers. Departs from clause 3.12.11.1
+/// of BS 8110: Part 1: the clear gap is 2 hagg + 5, not hagg + 5.
+[[nodiscard]] double breadthNeeded(const Bars& bars, const MiscProperties& misc);
+
+/// The bars for an area in mm2 in a beam of breadth b in mm. Goes up the sizes, keeps the last one
+/// that fits (strictly narrower than b), and stops at the first that fits with two bars; 25 mm is
+/// taken whether it fits or not.
+[[nodiscard]] Bars barsFor(double area, double b, const MiscProperties& misc);
+
+/// Sets the areas provided for Asreq and Aspreq (mm2, finite), and MomentRein, the bars of both in
+/// this order: " 3Y 25 &   2Y 12". OriginMoment and OriginShear play no part.
+void ProvideReinforcement(double b, double fy, double Asreq, double Aspreq, double& Asprov,
+                          double& Aspprov, std::string& MomentRein, double OriginMoment,
+                          double OriginShear, const MiscProperties& misc);
+
+}  // namespace trabeon

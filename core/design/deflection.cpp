@@ -1,0 +1,80 @@
+#include "core/design/deflection.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/analysis/beam.h"
+#include "core/design/notes.h"
+
+namespace trabeon {
+namespace {
+
+SpanKind memberKind(const std::vector<JointRow>& joints, std::size_t Member) {
+    const auto typeOf = [&](std::size_t joint) {
+        return joint <= joints.size() ? std::string_view(joints[joint - 1].type) : "";
+    };
+    return spanKind(typeOf(Member), typeOf(Member + 1));
+}
+
+}  // namespace
+
+SpanKind spanKind(std::string_view leftType, std::string_view rightType) {
+    const auto left = jointOf(leftType), right = jointOf(rightType);
+    if (left == Joint::cantilever || right == Joint::cantilever)
+        return SpanKind::cantilever;
+    if (left == Joint::pin || right == Joint::pin)
+        return SpanKind::simplySupported;
+    return SpanKind::continuous;
+}
+
+double basicRatio(SpanKind kind, double b) {
+    const double webRatio = 1 / b;
+    if (webRatio > 0.3)
+        return 20.8 + (webRatio - 0.3) * (5.2 / 0.7);
+    if (kind == SpanKind::cantilever)
+        return 5.6;
+    return kind == SpanKind::simplySupported ? 16 : 20.8;
+}
+
+std::optional<double> ratioForLength(SpanKind kind, double b, double L, bool restrictDeflection) {
+    const double ratio = basicRatio(kind, b);
+    if (!(L > 10 && restrictDeflection))
+        return ratio;
+    if (kind == SpanKind::cantilever)
+        return std::nullopt;
+    return ratio * 10 / L;
+}
+
+double serviceStress(double fy, double Asreq, double Asprov) {
+    return 5.0 / 8 * fy * Asreq / Asprov;
+}
+
+double tensionFactor(double Asreq, double Asprov, double b, double d, double fy, double Moment) {
+    if (Asprov == 0)
+        return 1;
+    const double m = std::fabs(Moment) * 1e6 / (b * d * d);
+    return std::min(0.55 + (477 - serviceStress(fy, Asreq, Asprov)) / (120 * (0.9 + m)), 2.0);
+}
+
+double compressionFactor(double Aspprov, double b, double d) {
+    const double p = 100 * Aspprov / (b * d);
+    return std::min(1 + p / (3 + p), 1.5);
+}
+
+void DesignDeflection(std::size_t Member, double L, double Asreq, double Asprov, double b, double d,
+                      double fy, double Moment, double& DefActual, double& DefAllow,
+                      std::string& DefNote, double Aspprov, const std::vector<JointRow>& joints,
+                      bool restrictDeflection) {
+    const auto ratio = ratioForLength(memberKind(joints, Member), b, L, restrictDeflection);
+    if (!ratio) {
+        DefActual = DefAllow = 0;
+        DefNote = note::manualCalculation;
+        return;
+    }
+    DefAllow =
+        *ratio * tensionFactor(Asreq, Asprov, b, d, fy, Moment) * compressionFactor(Aspprov, b, d);
+    DefActual = L * 1e3 / d;
+    DefNote += DefActual > DefAllow ? note::deflectionFailed : note::deflectionOK;
+}
+
+}  // namespace trabeon

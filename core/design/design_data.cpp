@@ -1,0 +1,88 @@
+#include "core/design/design_data.h"
+
+#include <algorithm>
+#include <cmath>
+#include <tuple>
+
+#include "core/text/number_text.h"
+
+namespace trabeon {
+
+DesignData::DesignData(std::vector<JointRow> joints, std::size_t NumofMem,
+                       const std::vector<BeamDimensionRow>& dimensions, std::string_view stations,
+                       std::size_t Divisions)
+    : joints_(std::move(joints)), NumofMem_(NumofMem), sectionsPerMember_(Divisions + 2) {
+    dimensions_.reserve(dimensions.size());
+    for (const auto& row : dimensions)
+        dimensions_.push_back({leadingNumber(row.Member), leadingNumber(row.Section),
+                               leadingNumber(row.b), leadingNumber(row.d), leadingNumber(row.effd),
+                               leadingNumber(row.fcu), leadingNumber(row.fy), leadingNumber(row.YM),
+                               leadingNumber(row.fyv), leadingNumber(row.L)});
+    std::stable_sort(dimensions_.begin(), dimensions_.end(),
+                     [](const Dimensions& left, const Dimensions& right) {
+                         return std::tie(left.Member, left.Section) <
+                                std::tie(right.Member, right.Section);
+                     });
+    readStations(stations);
+}
+
+void DesignData::readStations(std::string_view text) {
+    FieldReader reader(text);
+    const auto number = [&](bool last) {
+        const double value = leadingNumber(reader.next());
+        stationsFit_ = stationsFit_ && reader.lineEnded() == last;
+        return value;
+    };
+    stations_.reserve(NumofMem_ * sectionsPerMember_);
+    for (std::size_t member = 0; member < NumofMem_; ++member) {
+        stationsFit_ = reader.next().starts_with("Span") && reader.lineEnded() && stationsFit_;
+        for (std::size_t section = 0; section < sectionsPerMember_; ++section) {
+            const double dist = number(false), moment = number(false), shear = number(true);
+            stations_.push_back({dist, {moment, shear}});
+        }
+    }
+    stationsFit_ = stationsFit_ && reader.atEnd();
+}
+
+const DesignData::Dimensions* DesignData::find(std::size_t Member, std::size_t Section) const {
+    const std::pair wanted(static_cast<double>(Member), static_cast<double>(Section + 1));
+    const auto numbers = [](const Dimensions& row) { return std::pair(row.Member, row.Section); };
+    const auto first = std::lower_bound(
+        dimensions_.begin(), dimensions_.end(), wanted,
+        [&](const Dimensions& row, const auto& pair) { return numbers(row) < pair; });
+    return first != dimensions_.end() && numbers(*first) == wanted ? &*first : nullptr;
+}
+
+void DesignData::GetData(std::size_t Member, std::size_t Section, double& b, double& d,
+                         double& effd, double& fcu, double& fy, double& YM, double& fyv, double& L,
+                         double& dist, double& Moment, double& Shear, double& OriginMoment,
+                         double& OriginShear) const {
+    const auto* row = find(Member, Section);
+    if (row == nullptr)
+        return;
+    std::tie(b, d, effd, fcu) = std::tie(row->b, row->d, row->effd, row->fcu);
+    std::tie(fy, YM, fyv, L) = std::tie(row->fy, row->YM, row->fyv, row->L);
+    const auto& station = stations_[(Member - 1) * sectionsPerMember_ + Section];
+    dist = station.x;
+    OriginMoment = station.forces.moment;
+    OriginShear = station.forces.shear;
+    Moment = std::fabs(OriginMoment);
+    Shear = std::fabs(OriginShear);
+}
+
+MissingDimensions DesignData::missingDimensions() const {
+    MissingDimensions missing;
+    for (std::size_t Member = 1; Member <= NumofMem_; ++Member)
+        for (std::size_t Section = 0; Section < sectionsPerMember_; ++Section)
+            if (find(Member, Section) == nullptr && missing.count++ == 0)
+                std::tie(missing.Member, missing.Section) = std::pair(Member, Section + 1);
+    return missing;
+}
+
+DesignData readDesignData(const std::filesystem::path& folder, double Divisions) {
+    return {readRows<JointRow>(folder), readRows<MemberRow>(folder).size(),
+            readRows<BeamDimensionRow>(folder), readWhole(folder / working_file::stations),
+            static_cast<std::size_t>(Divisions)};
+}
+
+}  // namespace trabeon

@@ -1,0 +1,64 @@
+// What a design reads: the sections' sizes and the stations of the analysis, each file once a run.
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+#include <vector>
+
+#include "core/analysis/span_results.h"
+#include "core/store/rows.h"
+
+namespace trabeon {
+
+/// The sections that have no row of their own: how many, and the first one.
+struct MissingDimensions {
+    std::size_t count = 0, Member = 0, Section = 0;
+};
+
+/// Members count from 1; the sections of a member are the Divisions + 2 rows of its block in the
+/// station file and count from 0, but from 1 in the dimension rows.
+class DesignData {
+  public:
+    /// The text of "BM.txt" is read by position, a heading and Divisions + 2 rows for each member;
+    /// what is missing reads as 0.
+    DesignData(std::vector<JointRow> joints, std::size_t NumofMem,
+               const std::vector<BeamDimensionRow>& dimensions, std::string_view stations,
+               std::size_t Divisions);
+
+    /// Fills all arguments but the first two: sizes in mm, strengths in N/mm2, L and dist in m,
+    /// OriginMoment in kNm and OriginShear in kN with their signs, Moment and Shear without. Of
+    /// several rows of a section the first counts. A section without a row leaves every argument
+    /// as it was.
+    void GetData(std::size_t Member, std::size_t Section, double& b, double& d, double& effd,
+                 double& fcu, double& fy, double& YM, double& fyv, double& L, double& dist,
+                 double& Moment, double& Shear, double& OriginMoment, double& OriginShear) const;
+
+    [[nodiscard]] const std::vector<JointRow>& joints() const { return joints_; }
+    [[nodiscard]] std::size_t NumofMem() const { return NumofMem_; }
+    [[nodiscard]] std::size_t sectionsPerMember() const { return sectionsPerMember_; }
+
+    /// Whether the station file had just the blocks and rows that were looked for.
+    [[nodiscard]] bool stationsFit() const { return stationsFit_; }
+    [[nodiscard]] MissingDimensions missingDimensions() const;
+
+  private:
+    /// A dimension row as numbers; those of one section stand in file order.
+    struct Dimensions {
+        double Member, Section, b, d, effd, fcu, fy, YM, fyv, L;
+    };
+
+    void readStations(std::string_view text);
+    [[nodiscard]] const Dimensions* find(std::size_t Member, std::size_t Section) const;
+
+    std::vector<JointRow> joints_;
+    std::size_t NumofMem_;
+    std::size_t sectionsPerMember_;
+    std::vector<Dimensions> dimensions_;
+    std::vector<Station> stations_;
+    bool stationsFit_ = true;
+};
+
+/// From the working files of a folder. Divisions is a whole number from 1 to 10,000.
+[[nodiscard]] DesignData readDesignData(const std::filesystem::path& folder, double Divisions);
+
+}  // namespace trabeon

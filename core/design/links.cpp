@@ -1,0 +1,66 @@
+#include "core/design/links.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <optional>
+
+#include "core/design/bars.h"
+#include "core/text/number_text.h"
+
+namespace trabeon {
+namespace {
+
+constexpr double pi = 3.1415936512;
+constexpr std::array<double, 4> sizes{6, 8, 10, 12};
+constexpr double closestSpacing = 100;
+constexpr int mostSets = 20;
+
+struct Links {
+    double sets = 0, size = 0, spacing = 0;
+};
+
+/// Steps down from `widest` without walking: the quotient is at most a step beside the spacing.
+std::optional<double> widestSpacing(double sets, double size, double AsvOsvreq, double widest) {
+    if (!(linksProvided(sets, size, closestSpacing) > AsvOsvreq))
+        return std::nullopt;
+    double spacing = widest;
+    if (AsvOsvreq > 0)
+        spacing = std::min(widest, std::floor(linksProvided(sets, size, 1) / AsvOsvreq) + 1);
+    while (!(linksProvided(sets, size, spacing) > AsvOsvreq))
+        --spacing;
+    return spacing;
+}
+
+std::optional<Links> firstLinks(double widest, double AsvOsvreq) {
+    if (!(widest >= closestSpacing))
+        return std::nullopt;
+    for (int sets = 1; sets <= mostSets; ++sets)
+        for (const double size : sizes)
+            if (const auto spacing = widestSpacing(sets, size, AsvOsvreq, widest))
+                return Links{static_cast<double>(sets), size, *spacing};
+    return std::nullopt;
+}
+
+}  // namespace
+
+double legArea(double size) {
+    return pi * size * size / 4;
+}
+
+double linksProvided(double sets, double size, double spacing) {
+    return sets * 2 * legArea(size) / spacing;
+}
+
+bool ProvideShearLinks(double fyv, double d, double AsvOsvreq, double& AsvOsvprov,
+                       std::string& ShearRein) {
+    const auto links = firstLinks(std::floor(0.75 * d), AsvOsvreq);
+    AsvOsvprov = links ? linksProvided(links->sets, links->size, links->spacing) : 0;
+    ShearRein.clear();
+    if (links)
+        ShearRein = generatedText(links->sets) + gradeLetter(fyv) + generatedText(links->size) +
+                    '-' + generatedText(links->spacing);
+    return links.has_value();
+}
+
+}  // namespace trabeon

@@ -1,0 +1,22 @@
+// Shear links: sets of two legs of 6, 8, 10 or 12 mm at whole spacings from 100 mm up.
+#pragma once
+
+#include <string>
+
+namespace trabeon {
+
+/// The area in mm2 of one leg. Its pi is a little above the true one, as in the reference tables.
+[[nodiscard]] double legArea(double size);
+
+/// Asv / sv in mm2/mm of sets of links with two legs each.
+[[nodiscard]] double linksProvided(double sets, double size, double spacing);
+
+/// The first links whose Asv / sv is above AsvOsvreq (equal is not enough), d in mm: from the
+/// widest spacing, the whole part of 0.75 d (clause 3.4.5.5 of BS 8110: Part 1), down to 100; then
+/// the next size; then one set more. Sets AsvOsvprov and ShearRein, as " 1Y 8- 250". Where 0.75 d
+/// is below 100, or 20 sets are too few, there are no links: 0, an empty text, and the answer
+/// false.
+[[nodiscard]] bool ProvideShearLinks(double fyv, double d, double AsvOsvreq, double& AsvOsvprov,
+                                     std::string& ShearRein);
+
+}  // namespace trabeon

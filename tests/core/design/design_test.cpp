@@ -1,0 +1,231 @@
+// The run: what is read, what carries over, and the lines that come out.
+#include "core/design/design.h"
+
+#include "tests/support/temporary_folder.h"
+
+namespace trabeon {
+namespace {
+
+const std::string usual = "300,450,400,30,460,200000,250,6";  // b, d, d', fcu, fy, E, fyv, L
+
+/// A beam of members between a pin and a continuous joint, in Divisions + 2 sections each.
+struct Beam {
+    std::string joints = "1,Pin Jointed,a\r\n2,Continuous,b\r\n3,Continuous,c\r\n";
+    std::size_t members = 1, Divisions = 2;
+    std::string dimensions, stations;
+
+    Beam& section(int Member, int number, const std::string& sizes) {
+        dimensions += std::to_string(Member) + ',' + std::to_string(number) + ',' + sizes + "\r\n";
+        return *this;
+    }
+    [[nodiscard]] DesignData data() const {
+        return {rowsOf<JointRow>(joints), members, rowsOf<BeamDimensionRow>(dimensions), stations,
+                Divisions};
+    }
+    [[nodiscard]] BeamDesign design(const MiscProperties& misc = {}) const {
+        return designBeam(data(), misc);
+    }
+};
+
+/// One member, the same dimensions in all sections, four stations "x,moment,shear".
+Beam memberOf(const std::string& sizes, const std::vector<std::string>& stations) {
+    Beam beam;
+    beam.Divisions = stations.size() - 2;
+    beam.stations = "Span 1 \r\n";
+    for (std::size_t i = 0; i < stations.size(); ++i) {
+        beam.section(1, static_cast<int>(i + 1), sizes);
+        beam.stations += stations[i] + "\r\n";
+    }
+    return beam;
+}
+
+TEST(DesignRun, WritesTheseLines) {
+    // b 300, d 400, fcu 30, fy 460, fyv 250, L 6, cover 25, link 10, hagg 0. In every section:
+    // Max Rein 0.04 × 300 × 400 = 4800; minimum 0.002 × 120000 = 240 in both faces; L/d = 15;
+    // v is below 0.87 sqrt(30) = 4.765; (30/25)^(1/3) = 1.06266; a pinned end: basic ratio 16.
+    //
+    // Zero moment, V 84.6: both faces 240: 4Y10 (W 125), 3Y12 (W 116) fit, 2Y16 ends: 402.1.
+    //   p = 0.3351, vc = 0.79 × 0.3351^(1/3) / 1.25 × 1.06266 = 0.4665; v = 0.705, below 0.8665:
+    //   0.4 × 300 / 217.5 = 0.5517; 56.549 / 103 = 0.5490 is too little, / 102 = 0.5544.
+    //   fs = 0.625 × 460 × 240 / 402.1 = 171.6; Ft = 0.55 + 305.4 / 108 = 3.4, so 2;
+    //   Fc = 1 + 0.3351 / 3.3351 = 1.1005; 16 × 2 × 1.1005 = 35.2.
+    // Sagging 123: K = 123E6 / (300 × 400² × 30) = 0.08542, z = 357.53 below 360,
+    //   As = 123E6 / (400.2 × 357.53) = 859.6: 11Y10 (W 230), 8Y12, 5Y16, 3Y20 fit, 2Y25 ends:
+    //   981.7. v = 0: links as above. fs = 251.7, m = 2.5625: Ft = 0.55 + 225.3 / 415.5 = 1.0921;
+    //   16 × 1.0921 × 1.1005 = 19.2.
+    // Hogging 98.7, V -120: K = 0.06854, z = 360, 98.7E6 / (400.2 × 360) = 685.1: 2Y25 above.
+    //   vc 0.4665 from the lower bars, v = 1: 0.5335 × 300 / 217.5 = 0.7359; 6 mm reach 0.565;
+    //   8 mm: 100.53 / 137 = 0.7338, / 136 = 0.7392. fs = 171.6, m = 2.05625: Ft = 1.4109;
+    //   Fc = 1 + 0.8181 / 3.8181 = 1.2143; 27.4.
+    // Hogging 260, V 195: K = 0.18056: z = 310.75, d'/d = 0.094, fsc = 400.2. With fcu b d² =
+    //   1.44E9: 0.0245556 × 1.44E9 / (400.2 × 362.5) = 243.7 below: 4Y10, 3Y12 fit, 2Y16 ends;
+    //   0.156 × 1.44E9 / (400.2 × 310.75) + 243.7 = 2050.0 above: 5Y25 (W 215): 2454.4.
+    //   v = 1.625: (1.625 - 0.4665) × 300 / 217.5 = 1.598; 10 mm reach 1.571;
+    //   12 mm: 226.195 / 142 = 1.593, / 141 = 1.604. fs = 174.3, m = 5.4167: Ft = 0.9494;
+    //   p = 2.0453: Fc = 1.4054; 21.3.
+    const auto design =
+        memberOf(usual, {"0.00E+00,0.00E+00,-8.46E+01", "2.10E+00,1.23E+02,0.00E+00",
+                         "3.00E+00,-9.87E+01,-1.20E+02", "6.00E+00,-2.60E+02,1.95E+02"})
+            .design();
+    EXPECT_FALSE(design.ShearFailed);
+    EXPECT_EQ(textOf(design.rows, Description::bare),
+              " 1, 0, 240, 240, 402, 402, 4800, 2Y 16 &   2Y 16, 0.552, 0.554, 1R 6- 102, 15, 35,"
+              "Shear OK Def. OK\r\n"
+              " 1, 2.1, 859, 240, 981, 402, 4800, 2Y 25 &   2Y 16, 0.552, 0.554, 1R 6- 102, 15, 19,"
+              "Shear OK Def. OK\r\n"
+              " 1, 3, 240, 685, 402, 981, 4800, 2Y 16 &   2Y 25, 0.736, 0.739, 1R 8- 136, 15, 27,"
+              "Shear OK Def. OK\r\n"
+              " 1, 6, 243, 2050, 402, 2454, 4800, 2Y 16 &   5Y 25, 1.6, 1.6, 1R 12- 141, 15, 21,"
+              "Shear OK Def. OK\r\n");
+}
+
+TEST(DesignResults, NumbersAreCutAtFifteenDigitsAndRoundedToThree) {
+    EXPECT_EQ(threeFiguresNumber(1.236), 1.24);
+    EXPECT_EQ(threeFiguresNumber(12.345), 12.3);
+    EXPECT_EQ(threeFiguresNumber(2), 2);
+    EXPECT_EQ(wholePart(29.99999999999999), 30);  // sixteen digits: dust
+    EXPECT_EQ(wholePart(29.9999999999999), 29);
+    EXPECT_EQ(wholePart(1472.62), 1472);
+    EXPECT_EQ(wholePart(-0.5), -1);
+}
+
+TEST(GetData, FindsSectionsByNumberAndStationsByPlace) {
+    Beam beam;
+    beam.members = 2;
+    beam.Divisions = 1;
+    beam.stations =
+        "Span 1 \r\n0,1,2\r\n3,-4,-5\r\n6,7,8\r\nSpan 2 \r\n0,10,11\r\n3,12,-13\r\n6,-14,15\r\n";
+    beam.section(2, 2, "1,2,3,4,5,6,7,8").section(1, 2, "9,9,9,9,9,9,9,9");
+    beam.section(2, 2, "0,0,0,0,0,0,0,0");  // the first row of a section counts
+    double b, d, effd, fcu, fy, YM, fyv, L, dist, Moment, Shear, OriginMoment, OriginShear = 77;
+    const auto get = [&](std::size_t Member, std::size_t Section) {
+        beam.data().GetData(Member, Section, b, d, effd, fcu, fy, YM, fyv, L, dist, Moment, Shear,
+                            OriginMoment, OriginShear);
+        return std::vector{b, d,    effd,   fcu,   fy,           YM,         fyv,
+                           L, dist, Moment, Shear, OriginMoment, OriginShear};
+    };
+    const std::vector<double> second{1, 2, 3, 4, 5, 6, 7, 8, 3, 12, 13, 12, -13};
+    EXPECT_EQ(get(2, 1), second);
+    EXPECT_EQ(get(2, 0), second);  // no row of its own: all as before
+    EXPECT_EQ(get(2, 2), second);
+    EXPECT_EQ(get(1, 1), (std::vector<double>{9, 9, 9, 9, 9, 9, 9, 9, 3, 4, 5, -4, -5}));
+    EXPECT_TRUE(beam.data().stationsFit());
+    const auto missing = beam.data().missingDimensions();
+    EXPECT_EQ(missing.count, 4);
+    EXPECT_EQ(missing.Member, 1);
+    EXPECT_EQ(missing.Section, 1);
+    const auto whole = beam.stations;
+    for (const auto& text :
+         {whole + "Span 3 \r\n", "Title\r\n" + whole.substr(9), whole.substr(0, whole.size() - 10),
+          "0,1,2\r\n" + whole, std::string()}) {
+        beam.stations = text;
+        EXPECT_FALSE(beam.data().stationsFit()) << text;
+    }
+}
+
+/// The note, links provided and link text of each section.
+std::vector<std::string> shearOf(const BeamDesign& design) {
+    std::vector<std::string> texts;
+    for (const auto& row : design.rows)
+        texts.push_back(row.DefNote + '|' + row.AsvOsvreq + row.AsvOsvprov + row.ShearRein);
+    return texts;
+}
+
+TEST(DesignRun, ShearFailureMarksEveryLaterSectionAndKeepsTheLastLinks) {
+    // 60 kN want the least links; 600 kN are 5 N/mm2, above 4.765: what was required stays
+    const auto design = memberOf(usual, {"0,0,6.00E+01", "1,0,6.00E+02", "2,0,6.00E+01"}).design();
+    EXPECT_TRUE(design.ShearFailed);
+    EXPECT_EQ(shearOf(design),
+              (std::vector<std::string>{"Shear OK Def. OK| 0.552 0.554 1R 6- 102",
+                                        "Shear Failed! Def. OK| 0.552 0.554 1R 6- 102",
+                                        "Shear Failed! Def. OK| 0.552 0.554 1R 6- 102"}));
+    const auto first = memberOf(usual, {"0,0,6.00E+02", "1,0,6.00E+01", "2,0,0"}).design();
+    EXPECT_EQ(shearOf(first), (std::vector<std::string>{"Shear Failed! Def. OK| 0 0",
+                                                        "Shear Failed! Def. OK| 0.552 0",
+                                                        "Shear Failed! Def. OK| 0.552 0"}));
+    EXPECT_FALSE(memberOf(usual, {"0,0,0", "1,0,0", "2,0,0"}).design().ShearFailed);  // a new run
+}
+
+TEST(DesignRun, ShallowSectionFailsAloneAndLeavesTheFlag) {
+    Beam beam = memberOf(usual, {"0,0,10", "1,0,10", "2,0,10"});
+    beam.dimensions.clear();
+    beam.section(1, 1, usual).section(1, 2, "300,150,133.3,30,460,200000,250,1");
+    beam.section(1, 3, usual);
+    const auto design = beam.design();
+    EXPECT_FALSE(design.ShearFailed);
+    EXPECT_EQ(shearOf(design),
+              (std::vector<std::string>{"Shear OK Def. OK| 0.552 0.554 1R 6- 102",
+                                        "Shear Failed! Def. OK| 0.552 0",
+                                        "Shear OK Def. OK| 0.552 0.554 1R 6- 102"}));
+}
+
+TEST(DesignRun, SectionWithoutDimensionsIsDesignedAsTheOneBefore) {
+    Beam beam = memberOf(usual, {"0,0,0", "1.236,100,50", "2,-200,150", "3,0,0"});
+    beam.dimensions.clear();
+    beam.section(1, 2, usual).section(1, 4, usual);
+    const auto rows = beam.design().rows;
+    EXPECT_EQ(rows[0].DefNote, "No Data");  // before any, all is 0
+    EXPECT_EQ(rows[0].x, " 0");
+    EXPECT_EQ(rows[1].x, " 1.24");
+    EXPECT_EQ(textOf(std::vector{rows[2]}, Description::bare),
+              textOf(std::vector{rows[1]}, Description::bare));
+    EXPECT_NE(rows[3].Asreq, rows[2].Asreq);
+}
+
+TEST(DesignRun, SectionWhoseValuesCannotBeCalculatedSaysNoData) {
+    const std::string none = ", 0, 0, 0, 0, 0,, 0, 0,, 0, 0,No Data\r\n";
+    for (const auto* sizes :
+         {"0,450,400,30,460,200000,250,6", "300,450,,30,460,200000,250,6",
+          "300,450,400,-1,460,200000,250,6", "300,450,400,30,,200000,250,6",
+          "300,450,400,30,460,200000,0,6", "1E999,450,400,30,460,200000,250,6",
+          "300,450,400,30,460,200000,250,1E999", "1E200,450,1E200,30,460,200000,250,6",
+          "300,450,37.5,30,460,200000,250,6", "300,450,150,30,460,0,250,6"}) {
+        const auto beam = memberOf(sizes, {"0,0,0", "1.5,-500,10", "2,0,0"});
+        const auto rows = beam.design().rows;
+        EXPECT_EQ(textOf(std::vector{rows[1]}, Description::bare), " 1, 1.5" + none) << sizes;
+    }
+    // nor does it touch what carries over: the links of section 1 stand in section 3
+    Beam beam = memberOf(usual, {"0,0,10", "1,0,10", "2,0,600"});
+    beam.dimensions.replace(beam.dimensions.find("250,6", 40), 3, "0");
+    EXPECT_EQ(beam.design().rows[1].DefNote, "No Data");
+    EXPECT_EQ(beam.design().rows[2].AsvOsvreq + beam.design().rows[2].ShearRein,
+              " 0.552 1R 6- 102");
+    // no modulus is needed without compression steel; the overall depth never
+    const auto rows =
+        memberOf("300,,400,30,460,,250,6", {"0,0,0", "1,50,9", "2,0,0"}).design().rows;
+    EXPECT_EQ(rows[1].DefNote, "Shear OK Def. OK");
+}
+
+TEST(DesignRun, TakesThePropertiesOfTheBeam) {
+    Beam beam = memberOf("300,450,400,30,460,200000,250,10.1", {"0,0,0", "1,-260,0", "2,0,0"});
+    beam.joints = "1,Fixed,a\r\n2,Cantilever,b\r\n";
+    auto row = beam.design().rows[1];
+    EXPECT_EQ(row.DefNote, "Please Provide Manual Calculation");
+    EXPECT_EQ(row.DefActual + row.DefAllow, " 0 0");
+    EXPECT_EQ(row.Asreq, " 243");
+    row = beam.design({50, 10, 0, false}).rows[1];
+    EXPECT_EQ(row.DefNote, "Shear OK Def. Failed!");
+    EXPECT_EQ(row.Asreq, " 261");  // 35.36E6 / (400.2 × 337.5)
+    EXPECT_EQ(beam.design({25, 10, 40, false}).rows[1].MomentRein, " 2Y 16 &   5Y 25");
+    EXPECT_EQ(beam.design({25, 60, 0, false}).rows[0].MomentRein, " 2Y 16 &   2Y 16");
+}
+
+TEST(DesignFolder, WritesTheFileAndRefusesWhatHasNoMeaning) {
+    const test::TemporaryFolder folder;
+    const auto beam = memberOf(usual, {"0,0,0", "1,100,0", "2,0,0", "3,-50,6"});
+    folder.write("Joint.txt", beam.joints);
+    folder.write("Member.txt", " 1,1,1,6,a\r\n");
+    folder.write("BeamDim.txt", beam.dimensions);
+    folder.write("BM.txt", beam.stations);
+    const auto design = designFolder(folder.path(), 2, {});
+    ASSERT_TRUE(design);
+    EXPECT_EQ(folder.read("DResult.txt"), textOf(beam.design().rows, Description::bare));
+    EXPECT_EQ(readRows<DesignRow>(folder.path())[1].MomentRein, "2Y 25 &   2Y 16");
+    for (const double Divisions : {0.0, 2.5, 10001.0})
+        EXPECT_FALSE(designFolder(folder.path(), Divisions, {}));
+    EXPECT_FALSE(designFolder(folder.path(), 2, {1 / 0.0}));
+    EXPECT_FALSE(designFolder(folder / "none", 2, {}));
+}
+
+}  // namespace
+}  // namespace trabeon
