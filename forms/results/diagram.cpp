@@ -5,6 +5,7 @@
 
 #include "core/store/rows.h"
 #include "core/text/number_text.h"
+#include "forms/main/add_to_report.h"
 
 namespace trabeon {
 namespace {
@@ -45,10 +46,7 @@ Diagram::Diagram(Context& context, const char* caption, const DiagramKind& kind,
     cmdReport.SetWidth(1425);
     cmdPlot.Click = [this] { cmdPlot_Click(); };
     cmdReport.Click = [this] { cmdReport_Click(); };
-    if (context.pasteIntoReport)
-        return;
-    cmdReport.SetEnabled(false);
-    cmdReport.SetToolTipText("The report is not part of this version.");
+    offerReport(context, cmdReport);
 }
 
 std::vector<std::string> Diagram::memberItems(const char* blanks) const {
@@ -98,8 +96,7 @@ std::vector<GraphMark> Diagram::marksOf(const DiagramCurve& curve) const {
 }
 
 void Diagram::cmdReport_Click() {
-    chart.SetDrawAction(DrawActions::CopyToClipboard);
-    context_.pasteIntoReport();
+    addToReport(context_, [this] { chart.SetDrawAction(DrawActions::CopyToClipboard); });
 }
 
 }  // namespace trabeon

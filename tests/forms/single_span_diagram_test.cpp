@@ -38,6 +38,18 @@ TEST_F(SingleSpan, HoldsTheFilesRowsInBothOptions) {
     EXPECT_TRUE(Moment().GraphMoment1.Marks().empty());
 }
 
+TEST_F(SingleSpan, EachDiagramFollowsItsOwnOption) {
+    StartWithResults();
+    forms().Get<frmOptions>().cmdChangeS.Press();
+    forms().Get<frmOptions>().Hide();
+    Settle();
+    Analyse();
+    Moment().cboMember.SetListIndex(1);
+    Shear().cboMember.SetListIndex(1);
+    EXPECT_EQ(Moment().GraphMoment1.Points(), Expected({2}, moment, -1));
+    EXPECT_EQ(Shear().GraphShear1.Points(), Expected({2}, shear, 1));
+}
+
 TEST_F(SingleSpan, OpensFromTheMenuAndPlotsOnAUsersChoice) {
     StartWithResults();
     Choose("&Diagram|&Single Span Diagram|&Bending Moment Diagram...");

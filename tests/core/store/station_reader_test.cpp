@@ -56,6 +56,7 @@ TEST(StationReader, EndsWhereTheFileDoesOrNoLongerFits) {
     EXPECT_EQ(walk(short1, 2).size(), 3);
     const auto short2 = twoMembers.substr(0, twoMembers.rfind("9.00E+00") + 8);
     EXPECT_EQ(walk(short2, 2).size(), 3);
+    EXPECT_EQ(walk("9,1,2,3\r\n", 1).size(), 0);  // no heading, whatever may be read behind it
     EXPECT_EQ(walk("Span 1 \r\n1,2,3,4\r\n1,2,3\r\n", 2).size(), 0);
 }
 
