@@ -4,6 +4,7 @@
 #include <cmath>
 #include <tuple>
 
+#include "core/store/station_reader.h"
 #include "core/text/number_text.h"
 
 namespace trabeon {
@@ -27,21 +28,14 @@ DesignData::DesignData(std::vector<JointRow> joints, std::size_t NumofMem,
 }
 
 void DesignData::readStations(std::string_view text) {
-    FieldReader reader(text);
-    const auto number = [&](bool last) {
-        const double value = leadingNumber(reader.next());
-        stationsFit_ = stationsFit_ && reader.lineEnded() == last;
-        return value;
-    };
+    StationReader reader(text, sectionsPerMember_);
     stations_.reserve(NumofMem_ * sectionsPerMember_);
-    for (std::size_t member = 0; member < NumofMem_; ++member) {
-        stationsFit_ = reader.next().starts_with("Span") && reader.lineEnded() && stationsFit_;
-        for (std::size_t section = 0; section < sectionsPerMember_; ++section) {
-            const double dist = number(false), moment = number(false), shear = number(true);
-            stations_.push_back({dist, {moment, shear}});
-        }
+    while (stations_.size() < NumofMem_ * sectionsPerMember_ && reader.next()) {
+        const auto& [x, moment, shear] = reader.row();
+        stations_.push_back({leadingNumber(x), {leadingNumber(moment), leadingNumber(shear)}});
     }
-    stationsFit_ = stationsFit_ && reader.atEnd();
+    stationsFit_ = stations_.size() == NumofMem_ * sectionsPerMember_ && reader.atEnd();
+    stations_.resize(NumofMem_ * sectionsPerMember_);
 }
 
 const DesignData::Dimensions* DesignData::find(std::size_t Member, std::size_t Section) const {

@@ -55,7 +55,7 @@ class DesignData {
     std::size_t sectionsPerMember_;
     std::vector<Dimensions> dimensions_;
     std::vector<Station> stations_;
-    bool stationsFit_ = true;
+    bool stationsFit_ = false;
 };
 
 /// From the working files of a folder. Divisions is a whole number from 1 to 10,000.

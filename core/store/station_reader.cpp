@@ -22,10 +22,10 @@ bool StationReader::next() {
 bool StationReader::passHeading() {
     if (reader_.atEnd())
         return false;
-    reader_.next();
+    const bool heading = reader_.next().starts_with("Span");
     ++member_;
     section_ = 0;
-    return reader_.lineEnded();
+    return heading && reader_.lineEnded();
 }
 
 bool StationReader::passRow() {

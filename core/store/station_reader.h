@@ -31,6 +31,9 @@ class StationReader {
     /// Steps to the next row. False: there is none.
     [[nodiscard]] bool next();
 
+    /// Whether the text ends behind the row.
+    [[nodiscard]] bool atEnd() const { return reader_.atEnd(); }
+
     [[nodiscard]] const StationRow& row() const { return row_; }
     /// The member of the row, from 1, by the place of its block.
     [[nodiscard]] std::size_t member() const { return member_; }
