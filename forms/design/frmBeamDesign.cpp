@@ -7,7 +7,6 @@
 namespace trabeon {
 namespace {
 
-constexpr int margin = 60;
 constexpr Colour darkRed = 0xA61B1B;
 
 bool hasFailed(const DesignRow& row) {
@@ -18,7 +17,7 @@ bool hasFailed(const DesignRow& row) {
 }  // namespace
 
 frmBeamDesign::frmBeamDesign(Context& context) : Form("Beam Design"), context_(context) {
-    ListView1.SetFont("Arial", 8.25, false);
+    ListView1.SetFont("Arial Narrow", 8.25, false);
     ListView1.SetWrapsTitles(true);
     ListView1.SetMultiSelect(true);
     ListView1.SetAccessibleName("Design of the sections");
@@ -30,7 +29,7 @@ void frmBeamDesign::Form_Load() {
 }
 
 void frmBeamDesign::Form_Resize() {
-    ListView1.Move(margin, margin, ScaleWidth() - 2 * margin, ScaleHeight() - 2 * margin);
+    ListView1.Move(0, 0, ScaleWidth(), ScaleHeight());
 }
 
 void frmBeamDesign::AddtoListbox() {

@@ -17,20 +17,20 @@ class frmBeamDesign : public Form {
     void AddtoListbox();
 
     ListView ListView1{*this,
-                       {{"Member", 765},
-                        {"x", 525},
-                        {"As req", 495},
-                        {"As'req", 495},
-                        {"As prov", 525},
-                        {"As'prov", 570},
-                        {"Max Rein", 555},
-                        {"Reinf", 1245},
-                        {"As/sv req", 615},
-                        {"As/sv prov", 615},
-                        {"Reinf", 840},
-                        {"Def Actual", 600},
-                        {"Def Allow", 540},
-                        {"Def Note", 1800}}};
+                       {{"Member", 690},
+                        {"x", 465},
+                        {"As req", 435},
+                        {"As'req", 570},
+                        {"As prov", 450},
+                        {"As'prov", 600},
+                        {"Max Rein", 450},
+                        {"Reinf", 1215},
+                        {"As/sv req", 495},
+                        {"As/sv prov", 495},
+                        {"Reinf", 900},
+                        {"Def Actual", 510},
+                        {"Def Allow", 480},
+                        {"Def Note", 1500}}};
 
   protected:
     void Form_Load() override;

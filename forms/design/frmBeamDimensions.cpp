@@ -65,10 +65,10 @@ void frmBeamDimensions::placeControls() {
                 {{lblfy, txtfy, 1320}, {lblYM, txtYM, 1320}, {lblfyv, txtfyv, 1320}});
     int left = margin;
     for (Button* button : {&cmdAdd, &cmdRemove, &Command1, &cmdDesign}) {
-        button->Move(left, 1920, 1080, 375);
-        left += 1170;
+        button->Move(left, 1920, 1065, 375);
+        left += 1110;
     }
-    Label1.Move(left + 30, 1980, 2850, 255);
+    Label1.Move(left + 15, 1980, 3150, 255);
     SetSmallestScaleSize(7560, listTop + 1200);
 }
 
