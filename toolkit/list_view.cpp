@@ -49,6 +49,8 @@ class ListView::Tree : public QTreeWidget {
         header()->setSectionsClickable(true);
         header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         setTextElideMode(Qt::ElideRight);
+        const int lineHigh = fontMetrics().height();
+        setIconSize({lineHigh, lineHigh});  // a row with a sign is as high as the others
     }
 
     ListView& owner;
