@@ -62,13 +62,14 @@ void frmBeamDimensions::placeControls() {
                                         {lbleffectivedepth, txtEffDepth, 1320},
                                         {lblfcu, txtfcu, 1320}});
     placeInputs({5460, 120, 540, 420},
-                {{lblfy, txtfy, 1320}, {lblYM, txtYM, 1320}, {lblfyv, txtfyv, 1320}});
+                {{lblfy, txtfy, 1620}, {lblYM, txtYM, 1620}, {lblfyv, txtfyv, 1620}});
     int left = margin;
-    for (Button* button : {&cmdAdd, &cmdRemove, &Command1, &cmdDesign}) {
-        button->Move(left, 1920, 1065, 375);
-        left += 1110;
+    for (auto [button, width] :
+         {std::pair{&cmdAdd, 900}, {&cmdRemove, 960}, {&Command1, 1095}, {&cmdDesign, 900}}) {
+        button->Move(left, 1920, width, 375);
+        left += width + 60;
     }
-    Label1.Move(left + 15, 1980, 3150, 255);
+    Label1.Move(left + 30, 1980, 3375, 255);
     SetSmallestScaleSize(7560, listTop + 1200);
 }
 
