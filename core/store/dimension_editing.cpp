@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 #include <vector>
 
 #include "core/store/row_editing.h"
@@ -27,7 +28,6 @@ std::size_t numberUpTo(std::size_t most, const std::string& field) {
 Rows inOrder(const Rows& rows, const BeamExtent& extent) {
     struct Place {
         std::size_t Member, Section, row;
-        auto operator<=>(const Place&) const = default;
     };
     std::vector<Place> places;
     places.reserve(rows.size());
@@ -37,7 +37,9 @@ Rows inOrder(const Rows& rows, const BeamExtent& extent) {
         if (place.Member > 0 && place.Section > 0)
             places.push_back(place);
     }
-    std::sort(places.begin(), places.end());
+    std::sort(places.begin(), places.end(), [](const Place& a, const Place& b) {
+        return std::tie(a.Member, a.Section, a.row) < std::tie(b.Member, b.Section, b.row);
+    });
     Rows ordered;
     ordered.reserve(places.size());
     for (const auto& place : places)

@@ -104,9 +104,10 @@ void frmBeamDimensions::Form_Load() {
     const auto members = readRows<MemberRow>(context_.folder).size();
     for (std::size_t k = 1; k <= members; ++k)
         cboMember.AddItem("Member" + generatedText(static_cast<double>(k)));
-    if (unfitDivisions(divisions()))
+    const double Divisions = divisions();
+    if (unfitDivisions(Divisions))
         return;
-    for (std::size_t section = 1; section <= sectionsOf(divisions()); ++section)
+    for (std::size_t section = 1; section <= sectionsOf(Divisions); ++section)
         cboSection.AddItem(std::to_string(section));
 }
 
@@ -125,16 +126,22 @@ void frmBeamDimensions::sortList() {
 }
 
 void frmBeamDimensions::cmdAdd_Click() {
-    const auto member = static_cast<std::size_t>(cboMember.ListIndex() + 1);
-    const double length = memberLength(context_.folder, member);
-    if (optVary.Value()) {
-        const auto section = static_cast<std::size_t>(cboSection.ListIndex() + 1);
-        Adding({section, section}, length);
-    } else if (const auto failure = unfitDivisions(divisions())) {
+    const double Divisions = divisions();
+    if (const auto failure = unfitDivisions(Divisions)) {
         warn(failure->sentence);
-    } else {
-        Adding({1, sectionsOf(divisions())}, length);
+        return;
     }
+    if (optVary.Value() && cboSection.ListCount() == 0) {  // they were unfit at the load
+        cboSection.SetFocus();
+        return;
+    }
+    const double length =
+        memberLength(context_.folder, static_cast<std::size_t>(cboMember.ListIndex() + 1));
+    const auto section = static_cast<std::size_t>(cboSection.ListIndex() + 1);
+    if (optVary.Value())
+        Adding({section, section}, length);
+    else
+        Adding({1, sectionsOf(Divisions)}, length);
 }
 
 /// Adds the sections behind the selected row, and then selects the one that was added last.

@@ -199,6 +199,15 @@ TEST_F(BeamDimensions, SectionsFollowThePlottingOptionsAndUnfitOnesAreRefused) {
     outside.ExpectMsgBox(unfitDivisions(1e9)->sentence);
     Click(form.cmdAdd);
     EXPECT_EQ(form.ListView1.ListItems.Count(), 27);
+    form.Unload();
+    Settle();
+    auto& unfit = Open();
+    EXPECT_EQ(unfit.cboSection.ListCount(), 0);
+    options.txtDivision.SetText("25");
+    unfit.optVary.Choose();
+    Click(unfit.cmdAdd);  // without sections to put them in order every row would be lost
+    EXPECT_EQ(unfit.ListView1.ListItems.Count(), 27);
+    EXPECT_TRUE(unfit.cboSection.HasFocus());
 }
 
 TEST_F(BeamDimensions, AFailedWriteIsToldAndLosesNothing) {
