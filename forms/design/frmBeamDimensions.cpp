@@ -5,7 +5,6 @@
 #include "core/store/member_length.h"
 #include "forms/design/frmBeamDesign.h"
 #include "forms/design/frmMisc.h"
-#include "forms/design/settings_form.h"
 #include "forms/main/keys.h"
 #include "forms/results/frmOptions.h"
 #include "toolkit/wait_cursor.h"
@@ -116,7 +115,7 @@ void frmBeamDimensions::Form_Resize() {
 }
 
 double frmBeamDimensions::divisions() const {
-    return settingsForm<frmOptions>(context_.forms).Settings().Divisions;
+    return optionsInTheBackground(context_).Settings().Divisions;
 }
 
 void frmBeamDimensions::sortList() {
@@ -185,7 +184,7 @@ void frmBeamDimensions::Command1_Click() {
 }
 
 void frmBeamDimensions::cmdDesign_Click() {
-    const auto properties = settingsForm<frmMisc>(context_.forms).Properties();
+    const auto properties = miscInTheBackground(context_).Properties();
     const double Divisions = divisions();
     context_.forms.Unload(frmBeamDesign::Name);
     auto& results = context_.forms.Get<frmBeamDesign>();

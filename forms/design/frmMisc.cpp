@@ -43,4 +43,12 @@ void frmMisc::cmdOK_Click() {
     Hide();
 }
 
+frmMisc& miscInTheBackground(Context& context) {
+    const bool wasLoaded = context.forms.IsLoaded(frmMisc::Name);
+    auto& misc = context.forms.Get<frmMisc>();
+    if (!wasLoaded)
+        misc.Hide();
+    return misc;
+}
+
 }  // namespace trabeon

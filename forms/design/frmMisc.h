@@ -39,4 +39,8 @@ class frmMisc : public Form {
     void placeControls();
 };
 
+/// The properties for whoever reads them at work: the form is loaded if it is not, which must not
+/// bring its window up.
+[[nodiscard]] frmMisc& miscInTheBackground(Context& context);
+
 }  // namespace trabeon
