@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 #include <QTreeWidget>
@@ -60,6 +61,8 @@ class ListView::Tree : public QTreeWidget {
         header()->setSectionsClickable(true);
         header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         setTextElideMode(Qt::ElideRight);
+        const int lineHigh = fontMetrics().height();
+        setIconSize({lineHigh, lineHigh});  // a row with a sign is as high as the others
     }
 
     ListView& owner;
@@ -102,6 +105,16 @@ std::string ListItem::SubItems(int n) const {
 void ListItem::SetSubItems(int n, const std::string& text) {
     row_->setText(n, QString::fromStdString(text));
     static_cast<ListView::Tree*>(row_->treeWidget())->owner.Unsettle();
+}
+
+void ListItem::SetForeColor(Colour colour) {
+    for (int column = 0; column < row_->treeWidget()->columnCount(); ++column)
+        row_->setForeground(column, QColor(colour));
+}
+
+void ListItem::SetWarningSign(bool shown) {
+    const QStyle& style = *row_->treeWidget()->style();
+    row_->setIcon(0, shown ? style.standardIcon(QStyle::SP_MessageBoxWarning) : QIcon());
 }
 
 int ListItemsOf::Count() const {
@@ -211,6 +224,13 @@ void ListView::SetMultiSelect(bool multi) {
 
 void ListView::SetGridLines(bool shown) {
     Inner().gridLines = shown;
+}
+
+void ListView::SetWrapsTitles(bool wraps) {
+    constexpr Qt::Alignment place = Qt::AlignLeft | Qt::AlignVCenter;
+    QHeaderView& header = *Inner().header();
+    header.setDefaultAlignment(wraps ? place | Qt::Alignment(int(Qt::TextWordWrap)) : place);
+    header.setMinimumHeight(wraps ? 2 * header.fontMetrics().lineSpacing() + 8 : 0);
 }
 
 void ListView::Copy() const {

@@ -27,6 +27,9 @@ class ListItem {
     // The text of column n + 1.
     std::string SubItems(int n) const;
     void SetSubItems(int n, const std::string& text);
+    // How the row looks; neither changes its texts.
+    void SetForeColor(Colour colour);
+    void SetWarningSign(bool shown);  // in front of the first text
 
   private:
     friend class ListView;
@@ -85,6 +88,8 @@ class ListView : public Control {
     // Several rows can be selected, to be copied with Ctrl+C as lines of tab-separated text.
     void SetMultiSelect(bool multi);
     void SetGridLines(bool shown);
+    // A title wider than its column goes on in a second line.
+    void SetWrapsTitles(bool wraps);
 
   protected:
     bool OnEvent(QEvent& event) override;

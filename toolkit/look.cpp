@@ -15,9 +15,10 @@ struct Substitute {
     const char* family;
 };
 
-constexpr std::array<Substitute, 6> Substitutes{{{"Times New Roman", "Liberation Serif"},
+constexpr std::array<Substitute, 7> Substitutes{{{"Times New Roman", "Liberation Serif"},
                                                  {"Arial", "Liberation Sans"},
                                                  {"Arial Black", "Liberation Sans"},
+                                                 {"Arial Narrow", "Liberation Sans Narrow"},
                                                  {"Courier", "Liberation Mono"},
                                                  {"Courier New", "Liberation Mono"},
                                                  {"Terminal", "Liberation Mono"}}};

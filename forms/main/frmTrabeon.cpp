@@ -3,6 +3,11 @@
 #include "core/store/project_file.h"
 #include "core/store/replacing_file.h"
 #include "core/store/working_files.h"
+#include "forms/design/frmBeamDesign.h"
+#include "forms/design/frmBeamDimensions.h"
+#include "forms/design/frmMisc.h"
+#include "forms/design/frmShearResistance.h"
+#include "forms/design/frmSteelArea.h"
 #include "forms/input/frmDiagram.h"
 #include "forms/input/frmJoints.h"
 #include "forms/input/frmMembers.h"
@@ -56,6 +61,11 @@ void frmTrabeon::registerForms() {
     forms_.Register<frmContinuousS>(context_);
     forms_.Register<frmBMData>(context_);
     forms_.Register<frmSData>(context_);
+    forms_.Register<frmBeamDimensions>(context_);
+    forms_.Register<frmMisc>(context_);
+    forms_.Register<frmBeamDesign>(context_);
+    forms_.Register<frmSteelArea>(context_);
+    forms_.Register<frmShearResistance>(context_);
 }
 
 bool frmTrabeon::Start() {

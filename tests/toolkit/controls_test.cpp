@@ -216,6 +216,8 @@ TEST_F(ControlsTest, ALabelsAccessKeyLeadsToItsBuddyAndNamesIt) {
     EXPECT_TRUE(combo.HasFocus());
     EXPECT_EQ(combo.Widget()->accessibleName(), "Member");
     EXPECT_EQ(label.Caption(), "&Member");
+    Label plain(Bench(), "members & &sects");
+    EXPECT_EQ(plain.Widget()->property("text").toString(), "members & sects");
 }
 
 TEST_F(ControlsTest, AClickIntoThePictureViewTakesTheFocus) {

@@ -202,6 +202,34 @@ TEST_F(ListViewTest, CtrlCCopiesTheSelectedRows) {
     EXPECT_EQ(outside.clipboardText, "Member  10\t10\nMember  1\tb\n");
 }
 
+TEST_F(ListViewTest, AColouredRowWithASignKeepsItsTextsAndItsHeight) {
+    AddThree();
+    Settle();
+    const int high = tree().visualItemRect(tree().topLevelItem(1)).height();
+    list().ListItems(2).SetForeColor(0xA61B1B);
+    list().ListItems(2).SetWarningSign(true);
+    Settle();
+    const QTreeWidgetItem& row = *tree().topLevelItem(1);
+    EXPECT_EQ(row.foreground(0).color(), QColor(0xA61B1B));
+    EXPECT_EQ(row.foreground(1).color(), QColor(0xA61B1B));
+    EXPECT_FALSE(row.icon(0).isNull());
+    EXPECT_EQ(list().ListItems(2).Text(), "Member  10");
+    EXPECT_EQ(tree().visualItemRect(&row).height(), high);
+    EXPECT_LE(tree().iconSize().height(), high);
+    EXPECT_TRUE(tree().topLevelItem(0)->icon(0).isNull());
+    list().ListItems(2).SetWarningSign(false);
+    EXPECT_TRUE(row.icon(0).isNull());
+}
+
+TEST_F(ListViewTest, WrappedTitlesHaveRoomForTwoLines) {
+    const int high = tree().header()->height();
+    list().SetWrapsTitles(true);
+    Settle();
+    EXPECT_GE(tree().header()->height(), 2 * tree().header()->fontMetrics().lineSpacing());
+    EXPECT_GT(tree().header()->height(), high);
+    EXPECT_EQ(tree().headerItem()->text(0), "Member");
+}
+
 TEST_F(ListViewTest, BlanksAroundANumberStayOutOfTheCopy) {
     Add(" 0.6", "1.40E+01 ");
     list().SetSelectedItem(list().ListItems(1));

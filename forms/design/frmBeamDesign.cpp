@@ -1,0 +1,48 @@
+#include "forms/design/frmBeamDesign.h"
+
+#include "core/design/design_results.h"
+#include "core/design/notes.h"
+#include "core/text/number_text.h"
+
+namespace trabeon {
+namespace {
+
+constexpr Colour darkRed = 0xA61B1B;
+
+bool hasFailed(const DesignRow& row) {
+    return note::holds(row.DefNote, note::shearFailed) ||
+           note::holds(row.DefNote, note::deflectionFailed);
+}
+
+}  // namespace
+
+frmBeamDesign::frmBeamDesign(Context& context) : Form("Beam Design"), context_(context) {
+    ListView1.SetFont("Arial Narrow", 8.25, false);
+    ListView1.SetWrapsTitles(true);
+    ListView1.SetMultiSelect(true);
+    ListView1.SetAccessibleName("Design of the sections");
+    SetTabOrder({&ListView1});
+}
+
+void frmBeamDesign::Form_Load() {
+    Move(0, 300, 9630, 5040);
+}
+
+void frmBeamDesign::Form_Resize() {
+    ListView1.Move(0, 0, ScaleWidth(), ScaleHeight());
+}
+
+void frmBeamDesign::AddtoListbox() {
+    ListView1.ListItems.Clear();
+    for (const auto& row : readRows<DesignRow>(context_.folder)) {
+        auto item = ListView1.ListItems.Add(generatedText(leadingNumber(row.Member)));
+        for (std::size_t n = 1; n < DesignRow::fields.size(); ++n)
+            item.SetSubItems(static_cast<int>(n), row.*DesignRow::fields[n]);
+        if (hasFailed(row)) {
+            item.SetForeColor(darkRed);
+            item.SetWarningSign(true);
+        }
+    }
+}
+
+}  // namespace trabeon

@@ -1,0 +1,217 @@
+#include "forms/design/frmBeamDimensions.h"
+
+#include "core/design/design.h"
+#include "core/design/shear.h"
+#include "core/store/member_length.h"
+#include "forms/design/frmBeamDesign.h"
+#include "forms/design/frmMisc.h"
+#include "forms/main/keys.h"
+#include "forms/results/frmOptions.h"
+#include "toolkit/wait_cursor.h"
+
+namespace trabeon {
+namespace {
+
+constexpr int margin = 120;
+constexpr int listTop = 2400;
+constexpr double mostLinkStrength = 460;
+
+std::size_t sectionsOf(double divisions) {
+    return static_cast<std::size_t>(divisions) + 2;
+}
+
+/// A number as a field of its own, without the blank in front.
+std::string lengthText(double value) {
+    const auto text = std::isfinite(value) ? generatedText(value) : " 0";
+    return text.front() == ' ' ? text.substr(1) : text;
+}
+
+}  // namespace
+
+frmBeamDimensions::frmBeamDimensions(Context& context)
+    : Form("Beam Dimensions"),
+      context_(context),
+      rows_(context, ListView1, cmdRemove, nullptr, {"Member ", Numbering::asRead}) {
+    placeControls();
+    wireBoxes();
+    ListView1.SetAccessibleName("Sections");
+    ListView1.ColumnClick = nullptr;  // the list always stands in order of the members
+    cmdRemove.SetEnabled(false);
+    optUniform_Click();
+
+    optUniform.Click = [this] { optUniform_Click(); };
+    optVary.Click = [this] { optVary_Click(); };
+    cmdAdd.Click = [this] { cmdAdd_Click(); };
+    cmdRemove.Click = [this] { cmdRemove_Click(); };
+    Command1.Click = [this] { Command1_Click(); };
+    cmdDesign.Click = [this] { cmdDesign_Click(); };
+    SetTabOrder({&cboMember, &optUniform, &optVary, &cboSection, &txtBreadth, &txtDepth,
+                 &txtEffDepth, &txtfcu, &txtfy, &txtYM, &txtfyv, &cmdAdd, &cmdRemove, &Command1,
+                 &cmdDesign, &ListView1});
+}
+
+void frmBeamDimensions::placeControls() {
+    placeInputs({margin, 120, 840, 405}, {{lblMember, cboMember, 1800}});
+    Frame1.Move(margin, 555, 2640, 1245);
+    optUniform.Move(120, 90, 2400, 300);
+    optVary.Move(120, 420, 2400, 300);
+    placeInputs({120, 795, 840, 405}, {{lblSection, cboSection, 1560}});
+    placeInputs({3000, 120, 900, 420}, {{lblbreadth, txtBreadth, 1320},
+                                        {lbldepth, txtDepth, 1320},
+                                        {lbleffectivedepth, txtEffDepth, 1320},
+                                        {lblfcu, txtfcu, 1320}});
+    placeInputs({5460, 120, 540, 420},
+                {{lblfy, txtfy, 1620}, {lblYM, txtYM, 1620}, {lblfyv, txtfyv, 1620}});
+    int left = margin;
+    for (auto [button, width] :
+         {std::pair{&cmdAdd, 900}, {&cmdRemove, 960}, {&Command1, 1095}, {&cmdDesign, 900}}) {
+        button->Move(left, 1920, width, 375);
+        left += width + 60;
+    }
+    Label1.Move(left + 30, 1980, 3375, 255);
+    SetSmallestScaleSize(7560, listTop + 1200);
+}
+
+void frmBeamDimensions::wireBoxes() {
+    const std::array<std::pair<TextBox*, const char*>, 7> boxes{
+        {{&txtBreadth, "Breadth b, mm"},
+         {&txtDepth, "Overall depth d, mm"},
+         {&txtEffDepth, "Effective depth d', mm"},
+         {&txtfcu, "Concrete strength fcu, N/mm2"},
+         {&txtfy, "Strength of the main steel fy, N/mm2"},
+         {&txtYM, "Modulus of the steel E, N/mm2"},
+         {&txtfyv, "Strength of the links fyv, N/mm2"}}};
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        const auto [box, meaning] = boxes[i];
+        Control* next = i + 1 < boxes.size() ? static_cast<Control*>(boxes[i + 1].first) : &cmdAdd;
+        box->SetKeepsToField(true);
+        box->SetAccessibleName(meaning);
+        box->SetToolTipText(meaning);
+        box->GotFocus = [box = box] { box->SelectAll(); };
+        box->KeyPress = [next](int& keyAscii) {
+            if (keyAscii == enterKey)
+                next->SetFocus();
+        };
+    }
+    txtfyv.Change = [this] { txtfyv_Change(); };
+}
+
+void frmBeamDimensions::Form_Load() {
+    Move(0, 0, 8000, 5000);
+    rows_.Fill();
+    sortList();
+    const auto members = readRows<MemberRow>(context_.folder).size();
+    for (std::size_t k = 1; k <= members; ++k)
+        cboMember.AddItem("Member" + generatedText(static_cast<double>(k)));
+    const double Divisions = divisions();
+    if (unfitDivisions(Divisions))
+        return;
+    for (std::size_t section = 1; section <= sectionsOf(Divisions); ++section)
+        cboSection.AddItem(std::to_string(section));
+}
+
+void frmBeamDimensions::Form_Resize() {
+    ListView1.Move(margin, listTop, ScaleWidth() - 2 * margin, ScaleHeight() - listTop - margin);
+}
+
+double frmBeamDimensions::divisions() const {
+    return optionsInTheBackground(context_).Settings().Divisions;
+}
+
+void frmBeamDimensions::sortList() {
+    ListView1.SetSortKey(0);
+    ListView1.SetSortOrder(ListSortOrder::Rising);
+    ListView1.SetSorted(true);
+}
+
+void frmBeamDimensions::cmdAdd_Click() {
+    const double Divisions = divisions();
+    if (const auto failure = unfitDivisions(Divisions)) {
+        warn(failure->sentence);
+        return;
+    }
+    if (optVary.Value() && cboSection.ListCount() == 0) {  // they were unfit at the load
+        cboSection.SetFocus();
+        return;
+    }
+    const double length =
+        memberLength(context_.folder, static_cast<std::size_t>(cboMember.ListIndex() + 1));
+    const auto section = static_cast<std::size_t>(cboSection.ListIndex() + 1);
+    if (optVary.Value())
+        Adding({section, section}, length);
+    else
+        Adding({1, sectionsOf(Divisions)}, length);
+}
+
+/// Adds the sections behind the selected row, and then selects the one that was added last.
+void frmBeamDimensions::Adding(const SectionRange& SelectedSection, double MemLen) {
+    cmdRemove.SetEnabled(false);
+    const auto position = static_cast<std::size_t>(ListView1.SelectedItem().FilePosition());
+    std::optional<BeamExtent> order;
+    if (optVary.Value())
+        order = BeamExtent{static_cast<std::size_t>(cboMember.ListCount()),
+                           static_cast<std::size_t>(cboSection.ListCount())};
+    const BeamDimensionRow row{generatedText(cboMember.ListIndex() + 1),
+                               "",
+                               txtBreadth.Text(),
+                               txtDepth.Text(),
+                               txtEffDepth.Text(),
+                               txtfcu.Text(),
+                               txtfy.Text(),
+                               txtYM.Text(),
+                               txtfyv.Text(),
+                               lengthText(MemLen)};
+    if (const auto failure = addDimensions(context_.folder, position, row, SelectedSection, order))
+        warn(failure->sentence);
+    ListView1.SetSorted(false);  // the last row of the file is looked for, not of the order shown
+    rows_.Fill();
+    rows_.SelectLast();
+    sortList();
+    ListView1.SetSelectedItem(ListView1.SelectedItem());  // in sight where it stands now
+}
+
+void frmBeamDimensions::cmdRemove_Click() {
+    rows_.Remove();
+}
+
+void frmBeamDimensions::Command1_Click() {
+    MurderFile(context_.folder / BeamDimensionRow::file);
+    MurderFile(context_.folder / BeamDimensionRow::scratch);
+    ListView1.ListItems.Clear();
+    cmdRemove.SetEnabled(false);
+    if (const auto failure = replaceFile(context_.folder / BeamDimensionRow::file, {}))
+        warn(failure->sentence);
+}
+
+void frmBeamDimensions::cmdDesign_Click() {
+    const auto properties = miscInTheBackground(context_).Properties();
+    const double Divisions = divisions();
+    context_.forms.Unload(frmBeamDesign::Name);
+    auto& results = context_.forms.Get<frmBeamDesign>();
+    const WaitCursor wait;
+    const auto design = designFolder(context_.folder, Divisions, properties);
+    if (!design) {
+        warn(design.refusal().sentence);
+        return;
+    }
+    if (design->ShearFailed)
+        results.SetCaption(std::string(shearFailureSentence));
+    results.AddtoListbox();
+}
+
+void frmBeamDimensions::optUniform_Click() {
+    lblSection.SetEnabled(false);
+    cboSection.SetEnabled(false);
+}
+
+void frmBeamDimensions::optVary_Click() {
+    lblSection.SetEnabled(true);
+    cboSection.SetEnabled(true);
+}
+
+void frmBeamDimensions::txtfyv_Change() {
+    if (numberIn(txtfyv) > mostLinkStrength)
+        txtfyv.SetText("460");
+}
+
+}  // namespace trabeon

@@ -1,0 +1,54 @@
+#include "forms/design/frmMisc.h"
+
+#include "forms/input/boxes.h"
+#include "forms/main/keys.h"
+
+namespace trabeon {
+
+frmMisc::frmMisc(Context&) : Form("Miscellaneous Properties") {
+    placeControls();
+    for (auto [box, next] : {std::pair<TextBox*, Control*>{&txtCover, &txtLinks},
+                             {&txtLinks, &txthagg},
+                             {&txthagg, &chkrestrict}}) {
+        box->GotFocus = [box = box] { box->SelectAll(); };
+        box->KeyPress = [next = next](int& keyAscii) { keepKeys(keyAscii, plainNumber, *next); };
+    }
+    cmdOK.Click = [this] { cmdOK_Click(); };
+    SetTabOrder({&txtCover, &txtLinks, &txthagg, &chkrestrict, &cmdOK});
+}
+
+void frmMisc::placeControls() {
+    placeInputs({240, 240, 2100, 450},
+                {{lblCover, txtCover, 1200}, {Label3, txtLinks, 1200}, {Label1, txthagg, 1200}});
+    // "agg" stands as the index of "h", lower and smaller.
+    Label1.Move(Label1.Left(), Label1.Top(), 105, Label1.Height());
+    Label2.SetFont("Arial", 7.5, false);
+    Label2.Move(Label1.Left() + Label1.Width(), Label1.Top() + 60, 600, Label1.Height());
+    txtCover.SetAccessibleName("Cover, mm");
+    txtLinks.SetAccessibleName("Assumed link size, mm");
+    txthagg.SetAccessibleName("Size of the aggregate, mm");
+    chkrestrict.Move(240, 1620, 5400, 315);
+    cmdOK.Move(4425, 2100, 1215, 375);
+}
+
+MiscProperties frmMisc::Properties() const {
+    return {numberIn(txtCover), numberIn(txtLinks), numberIn(txthagg), chkrestrict.Value()};
+}
+
+void frmMisc::Form_Load() {
+    SetScaleSize(5880, 2595);
+}
+
+void frmMisc::cmdOK_Click() {
+    Hide();
+}
+
+frmMisc& miscInTheBackground(Context& context) {
+    const bool wasLoaded = context.forms.IsLoaded(frmMisc::Name);
+    auto& misc = context.forms.Get<frmMisc>();
+    if (!wasLoaded)
+        misc.Hide();
+    return misc;
+}
+
+}  // namespace trabeon

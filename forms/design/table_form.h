@@ -1,0 +1,36 @@
+// What the two reference tables share: a list that shows a file which is written anew at each load.
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+#include <vector>
+
+#include "core/outcome.h"
+#include "forms/main/context.h"
+#include "toolkit/form.h"
+#include "toolkit/list_view.h"
+
+namespace trabeon {
+
+class TableForm : public Form {
+  public:
+    ListView ListView1;
+
+  protected:
+    TableForm(Context& context, const char* caption, const std::vector<ListColumn>& columns,
+              int listTop);
+
+    void Form_Resize() override;
+
+    /// Writes the file, then shows it line by line.
+    void BuildTable(Failure (*write)(const std::filesystem::path& folder), std::string_view file);
+
+    static constexpr int margin = 120;
+
+  private:
+    Context& context_;
+    std::size_t columns_;
+    int listTop_;
+};
+
+}  // namespace trabeon
