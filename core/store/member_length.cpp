@@ -6,14 +6,8 @@
 namespace trabeon {
 
 double memberLength(const std::filesystem::path& folder, std::size_t member) {
-    const auto text = readWhole(folder / MemberRow::file);
-    FieldReader reader(text);
-    for (std::size_t k = 1; !reader.atEnd(); ++k) {
-        const auto row = readRow<MemberRow>(reader);
-        if (k == member)
-            return leadingNumber(row.L);
-    }
-    return 0;
+    const auto members = readRows<MemberRow>(folder);
+    return member >= 1 && member <= members.size() ? leadingNumber(members[member - 1].L) : 0;
 }
 
 }  // namespace trabeon
