@@ -121,6 +121,9 @@ TEST_F(Pages, APrinterThatCannotBeOpenedIsAFailure) {
     Add(100, 100);
     outside.ExpectPrinter("Trabeon Report", (folder / "missing" / "out.pdf").string());
     EXPECT_EQ(PrintReport(RTB(), 1440, 1440, 1440, 1440), Printed::failed);
+    folder.write("out.pdf", "old");
+    std::filesystem::create_symlink("/dev/full", folder / "out.pdf.new");
+    EXPECT_EQ(Print(Printed::failed), "old") << "the disk is full";
     outside.ExpectPrinter("Trabeon Report", "");
     EXPECT_EQ(PrintReport(RTB(), 1440, 1440, 1440, 1440), Printed::userDrewBack);
 }
