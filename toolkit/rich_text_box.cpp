@@ -56,6 +56,20 @@ class RichTextBox::Edit : public QTextEdit {
             box_.Paste();
     }
 
+    // What is copied is the first picture of the selection: no other program can take the text.
+    QMimeData* createMimeDataFromSelection() const override {
+        const QTextCursor cursor = textCursor();
+        for (const PictureInText& picture : PicturesOf(*document())) {
+            if (picture.position < cursor.selectionStart() ||
+                picture.position >= cursor.selectionEnd())
+                continue;
+            auto* copied = new QMimeData;
+            copied->setImageData(picture.image);
+            return copied;
+        }
+        return QTextEdit::createMimeDataFromSelection();
+    }
+
   private:
     RichTextBox& box_;
 };

@@ -93,6 +93,15 @@ TEST_F(ReportEditor, CutRemovesTheSelectionAndLeavesTheClipboardAlone) {
     EXPECT_EQ(RTB().TextLength(), 0);
 }
 
+TEST_F(ReportEditor, CopyTakesTheSelectedPicture) {
+    Add(100, 50);
+    Add(200, 50);
+    RTB().SetSelection(2, 1);
+    RTB().SetFocus();
+    QTest::keyClick(RTB().Widget(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->image().size(), QSize(400, 100));
+}
+
 TEST_F(ReportEditor, CloseHidesAndKeepsAndNewLoses) {
     Add(100, 50);
     Report().mnufileexit.Choose();
