@@ -67,6 +67,12 @@ TEST_F(Pages, APageTakesThePicturesThatFit) {
     EXPECT_EQ(RTB().FormatRange(nullptr, {sheetText, sheetText, {}, 12}), 13);
 }
 
+TEST_F(Pages, APageIsFilledToItsLastDot) {
+    AddPictures(3, 500, 310);
+    EXPECT_EQ(Starts({0, 0, 9020, 930 * 15}), (std::vector<int>{0}));
+    EXPECT_EQ(Starts({0, 0, 9020, 929 * 15}), (std::vector<int>{0, 4}));
+}
+
 TEST_F(Pages, APictureThatIsLargerThanThePageIsMadeToFit) {
     Add(2400, 600);
     Add(300, 3000);
