@@ -31,6 +31,10 @@ void Application::Yield() {
     QApplication::processEvents();
 }
 
+void Application::YieldToPainting() {
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
 std::string Application::Folder() {
     return QCoreApplication::applicationDirPath().toStdString();
 }

@@ -24,6 +24,8 @@ class Application {
     int Run();
     // Lets the windows repaint and answer in the middle of a long handler.
     static void Yield();
+    // Lets the windows repaint; keys and clicks wait until the handler has ended.
+    static void YieldToPainting();
 
   private:
     std::unique_ptr<QApplication> application_;

@@ -15,6 +15,8 @@
 #include <QTextBrowser>
 #include <QUrl>
 
+#include "toolkit/page_printer.h"
+
 namespace trabeon {
 
 namespace {
@@ -90,6 +92,16 @@ QString DialogFilter(const std::string& filter) {
     return text + " (" + parts.at(1).trimmed() + ");;All files (*)";
 }
 
+// The system's default printer; where there is none, A4 sheets of a PDF file that has no name yet.
+std::unique_ptr<QPrinter> DefaultPrinter() {
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    if (!QPrinterInfo::defaultPrinter().isNull())
+        return printer;
+    printer->setOutputFormat(QPrinter::PdfFormat);
+    printer->setPageSize(QPageSize(QPageSize::A4));
+    return printer;
+}
+
 void ShowPage(const QString& path) {
     auto* page = new QTextBrowser;
     page->setAttribute(Qt::WA_DeleteOnClose);
@@ -153,18 +165,20 @@ bool Desktop::OpenDocument(const std::string& path) {
 }
 
 std::unique_ptr<QPrinter> Desktop::OpenPrinter(const std::string& documentName) {
-    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    auto printer = DefaultPrinter();
     printer->setDocName(QString::fromStdString(documentName));
-    if (!QPrinterInfo::defaultPrinter().isNull())
+    if (printer->outputFormat() == QPrinter::NativeFormat)
         return printer;
     FileQuestion question{true, true, "Print to a PDF File", "PDF File (*.pdf) |*.pdf", ""};
     const std::string path = AskFile(question);
     if (path.empty())
         return nullptr;
-    printer->setOutputFormat(QPrinter::PdfFormat);
-    printer->setPageSize(QPageSize(QPageSize::A4));
     printer->setOutputFileName(QString::fromStdString(path));
     return printer;
+}
+
+Paper Desktop::DefaultPaper() const {
+    return PaperOf(*DefaultPrinter());
 }
 
 bool Desktop::AnotherCopyRuns(const std::string& folder) {

@@ -22,6 +22,7 @@ class Desktop : public Outside {
     // A page (.htm) comes up in a window of the program where the desktop has no browser.
     bool OpenDocument(const std::string& path) override;
     std::unique_ptr<QPrinter> OpenPrinter(const std::string& documentName) override;
+    Paper DefaultPaper() const override;
     bool AnotherCopyRuns(const std::string& folder) override;
     void End() override;
 

@@ -43,7 +43,10 @@ class Form::ChildFrame : public QMdiSubWindow {
 
 class Form::DialogFrame : public QDialog {
   public:
-    explicit DialogFrame(Form& form) : form_(form) {}
+    explicit DialogFrame(Form& form)
+        : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                               Qt::WindowCloseButtonHint),
+          form_(form) {}
 
     void reject() override { form_.Unload(); }
 

@@ -28,7 +28,7 @@ QPalette ProgramPalette() {
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::AlternateBase, QColor(0xf4f7fa));
     palette.setColor(QPalette::Dark, QColor(0x8a97a6));  // the desktop behind the forms
-    palette.setColor(QPalette::Highlight, QColor(0x0a64ad));
+    palette.setColor(QPalette::Highlight, QColor(HighlightColour));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(role, QColor(0x1a1a1a));

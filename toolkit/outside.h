@@ -6,6 +6,8 @@
 #include <memory>
 #include <string>
 
+#include "toolkit/paper.h"
+
 class QImage;
 class QPrinter;
 
@@ -46,6 +48,8 @@ class Outside {
     // The default printer; where there is none, an A4 PDF file whose name is asked for. Null if
     // the user drew back.
     virtual std::unique_ptr<QPrinter> OpenPrinter(const std::string& documentName) = 0;
+    // What OpenPrinter would print on.
+    virtual Paper DefaultPaper() const = 0;
     // Whether a copy runs already from this folder. While it answers no, this one is that copy.
     virtual bool AnotherCopyRuns(const std::string& folder) = 0;
     // Ends the run once the handler that is under way returns.

@@ -33,6 +33,12 @@ void PaintStroke(QPainter& painter, const Stroke& stroke) {
     }
 }
 
+QImage Scaled(const QImage& picture, const QSize& size) {
+    if (picture.size() == size)
+        return picture;
+    return picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 }  // namespace
 
 Colour QBColor(int number) {
@@ -129,9 +135,7 @@ void PictureBox::Paint(QPainter& painter, double pixelRatio) const {
     const QRect inside(QPoint(0, 0), Widget()->contentsRect().size());
     painter.fillRect(inside, QColor(backColour_));
     if (!picture_.isNull()) {
-        QImage scaled = picture_.scaled(inside.size() * pixelRatio, Qt::IgnoreAspectRatio,
-                                        Qt::SmoothTransformation);
-        painter.drawImage(inside, scaled);
+        painter.drawImage(inside, Scaled(picture_, inside.size() * pixelRatio));
     }
     painter.setRenderHint(QPainter::Antialiasing);
     for (const Stroke& stroke : drawn_)
@@ -158,6 +162,12 @@ void PictureBox::CopyToClipboard() const {
 void PictureBox::SetPicture(const QImage& picture) {
     picture_ = picture;
     Widget()->update();
+}
+
+bool PictureBox::StretchFrom(const PictureBox& source) {
+    const QSize size = Widget()->contentsRect().size() * Widget()->devicePixelRatioF();
+    SetPicture(source.picture_.isNull() ? QImage() : Scaled(source.picture_, size));
+    return !picture_.isNull();
 }
 
 }  // namespace trabeon

@@ -52,6 +52,9 @@ class PictureBox : public Control, public Container {
     void CopyToClipboard() const;
     // Shows a picture, scaled to the whole box, below what is drawn; a null one shows none.
     void SetPicture(const QImage& picture);
+    // Shows the whole picture of another box, scaled once to the whole of this one. False: there is
+    // none, or no room for it.
+    [[nodiscard]] bool StretchFrom(const PictureBox& source);
 
     QWidget* Canvas() const override;
 

@@ -48,6 +48,8 @@ class ScriptedOutside : public Outside {
     int lastStyle = 0;            // of the last message box
     std::string lastTitle;        // of the last message box
     FileQuestion lastQuestion{};  // of the last file dialog
+    // A4, and 3.5 mm at each edge that a printer cannot reach.
+    Paper paper{11900, 16840, 11500, 16440, 200, 200};
 
     Answer MsgBox(const std::string& asked, int style, const std::string& title) override {
         lastStyle = style;
@@ -79,6 +81,7 @@ class ScriptedOutside : public Outside {
         printer->setOutputFileName(QString::fromStdString(pdf));
         return printer;
     }
+    Paper DefaultPaper() const override { return paper; }
     bool AnotherCopyRuns(const std::string&) override {
         return Next("copy check", "").answer == Answer::Yes;
     }

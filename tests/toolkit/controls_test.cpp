@@ -15,6 +15,7 @@
 #include "toolkit/scroll_bar.h"
 #include "toolkit/text_box.h"
 #include "toolkit/text_view.h"
+#include "toolkit/vertical_button.h"
 #include "toolkit/web_browser.h"
 
 namespace trabeon {
@@ -53,6 +54,26 @@ TEST_F(ControlsTest, AButtonIsWideEnoughForItsCaption) {
     const Button shortOne(Bench(), "&Ok"), longOne(Bench(), "Use &Word For Windows To Print");
     EXPECT_EQ(shortOne.Width(), 1215);
     EXPECT_GE(longOne.Widget()->width(), longOne.Widget()->sizeHint().width());
+}
+
+TEST_F(ControlsTest, AVerticalButtonIsNarrowAndShowsItsWholeCaption) {
+    VerticalButton button(Bench(), "Send To WordPad");
+    int clicks = 0;
+    button.Click = Count(clicks);
+    Click(button);
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(button.Width(), 345);
+    const QWidget& widget = *button.Widget();
+    EXPECT_GT(widget.height(), widget.fontMetrics().horizontalAdvance("Send To WordPad"));
+    const QImage face = button.Widget()->grab().toImage();
+    std::vector<int> inked;  // rows that the caption's dark characters reach
+    for (int y = 4; y < face.height() - 4; ++y)
+        for (int x = 4; x < face.width() - 4; ++x)
+            if (face.pixelColor(x, y).lightness() < 100 && (inked.empty() || inked.back() != y))
+                inked.push_back(y);
+    ASSERT_FALSE(inked.empty());
+    EXPECT_NEAR(inked.back() - inked.front(),
+                widget.fontMetrics().horizontalAdvance("Send To WordPad"), 6);
 }
 
 TEST_F(ControlsTest, OptionButtonClicksWhenItBecomesTheChosenOne) {

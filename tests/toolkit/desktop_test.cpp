@@ -5,6 +5,7 @@
 
 #include <QClipboard>
 #include <QImage>
+#include <QPrinterInfo>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -39,6 +40,16 @@ TEST_F(GuiTest, TheClipboardTakesTextAndPictures) {
     desktop.PutPicture(picture);
     EXPECT_EQ(desktop.Picture().size(), QSize(8, 4));
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "");
+}
+
+TEST_F(GuiTest, WithoutAPrinterThePaperIsA4) {
+    if (!QPrinterInfo::defaultPrinter().isNull())
+        GTEST_SKIP() << "there is a printer";
+    const Paper paper = Desktop().DefaultPaper();
+    EXPECT_NEAR(paper.Width, 210 / 25.4 * 1440, 20);
+    EXPECT_NEAR(paper.Height, 297 / 25.4 * 1440, 20);
+    EXPECT_NEAR(paper.ScaleWidth, paper.Width - 2 * paper.OffsetX, 20);
+    EXPECT_GT(paper.OffsetY, 0);
 }
 
 TEST_F(GuiTest, ASecondCopyInTheSameFolderIsFound) {

@@ -257,6 +257,8 @@ TEST_F(FormsTest, AnAccessKeyGoesToTheFormInFrontBeforeTheMenuBar) {
 TEST_F(FormsTest, ADialogHoldsTheCallerUntilItIsUnloaded) {
     QTimer::singleShot(0, [this] {
         run.log.push_back("in dialog");
+        const auto buttons = Qt::CustomizeWindowHint | Qt::WindowMinMaxButtonsHint;
+        EXPECT_EQ(forms.Get<frmAsk>().Widget()->windowFlags() & buttons, Qt::CustomizeWindowHint);
         QTest::mouseClick(forms.Get<frmAsk>().cmdClose.Widget(), Qt::LeftButton);
     });
     forms.Show("frmAsk");

@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 #include <QImage>
+#include <QPainter>
 #include <cmath>
 
 #include "tests/support/gui_fixture.h"
@@ -282,6 +283,24 @@ TEST_F(DrawTest, TabsLeadToTheNextStop) {
     ASSERT_EQ(box.Drawn().size(), 2u);
     EXPECT_EQ(box.Drawn()[0].x1, 1000);
     EXPECT_EQ(box.Drawn()[1].x1, 3000);
+}
+
+TEST_F(DrawTest, ABoxTakesThePictureOfAnotherScaledToItself) {
+    Form& form = forms.Get<frmDraw>();
+    PictureBox page(form), small(form);
+    small.Move(0, 0, 1500, 3000);
+    small.SetBorder(false);
+    EXPECT_FALSE(small.StretchFrom(page)) << "there is no picture";
+    QImage halves(400, 800, QImage::Format_RGB32);
+    halves.fill(Qt::white);
+    QPainter(&halves).fillRect(0, 0, 400, 400, Qt::black);
+    page.SetPicture(halves);
+    EXPECT_TRUE(small.StretchFrom(page));
+    const QImage shown = small.Picture();
+    EXPECT_EQ(shown.pixelColor(shown.width() / 2, shown.height() / 2 - 4), QColor(Qt::black));
+    EXPECT_EQ(shown.pixelColor(shown.width() / 2, shown.height() / 2 + 4), QColor(Qt::white));
+    small.SetWidth(0);
+    EXPECT_FALSE(small.StretchFrom(page)) << "there is no room";
 }
 
 TEST_F(DrawTest, ThePictureOfTheBoxIsTwiceAsSharpAndWithoutItsBorder) {

@@ -1,0 +1,42 @@
+// The report: a scrapbook of the pictures that forms add, in a box that is locked in between.
+#pragma once
+
+#include "forms/main/context.h"
+#include "toolkit/form.h"
+#include "toolkit/rich_text_box.h"
+#include "toolkit/vertical_button.h"
+
+namespace trabeon {
+
+class frmReport : public Form {
+  public:
+    static constexpr const char* Name = "frmReport";
+
+    explicit frmReport(Context& context);
+
+    RichTextBox RTB{*this};
+    VerticalButton cmdCut{*this, "&Cut"};
+    VerticalButton cmdWP{*this, "Send To WordPad"};
+    MenuEntry mnufilepreview, mnuSave, mnufileexit;
+
+    /// Pastes the clipboard's picture at the caret; the box is unlocked for that long.
+    void Add();
+
+  protected:
+    void Form_Load() override;
+    void Form_Resize() override;
+
+  private:
+    void cmdCut_Click();
+    void cmdWP_Click();
+    void mnufilepreview_Click();
+    void mnuSave_Click();
+    void mnufileexit_Click();
+    void SaveReport();
+    [[nodiscard]] std::filesystem::path freePicturePath() const;
+
+    Context& context_;
+    std::string path_;  // of the last save
+};
+
+}  // namespace trabeon

@@ -1,0 +1,12 @@
+// How the report becomes a part of the program.
+#pragma once
+
+namespace trabeon {
+
+struct Context;
+
+/// Registers the report's forms and takes up the report's place for pictures. It comes before the
+/// first form is loaded: a button made earlier stays disabled.
+void takeUpReport(Context& context);
+
+}  // namespace trabeon

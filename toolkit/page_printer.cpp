@@ -1,0 +1,92 @@
+#include "toolkit/page_printer.h"
+
+#include <QFile>
+#include <QPageLayout>
+#include <QPainter>
+#include <QPrinter>
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+
+#include "toolkit/outside.h"
+
+namespace trabeon {
+
+namespace {
+
+constexpr double TwipsPerInch = 1440;
+constexpr double TwipsPerPoint = 20;
+constexpr const char* Unfinished = ".new";  // behind the name of a file that is being printed
+constexpr qint64 EndRoom = 32;              // characters
+
+int Twips(double points) {
+    return static_cast<int>(std::lround(points * TwipsPerPoint));
+}
+
+}  // namespace
+
+Paper PaperOf(const QPrinter& printer) {
+    const QRectF sheet = printer.pageLayout().fullRect(QPageLayout::Point);
+    const QRectF inside = printer.pageLayout().paintRect(QPageLayout::Point);
+    return {Twips(sheet.width()),   Twips(sheet.height()), Twips(inside.width()),
+            Twips(inside.height()), Twips(inside.left()),  Twips(inside.top())};
+}
+
+std::unique_ptr<PagePrinter> PagePrinter::Open(const std::string& documentName) {
+    std::unique_ptr<QPrinter> printer = Outside::Current().OpenPrinter(documentName);
+    if (!printer)
+        return nullptr;
+    return std::unique_ptr<PagePrinter>(new PagePrinter(std::move(printer)));
+}
+
+PagePrinter::PagePrinter(std::unique_ptr<QPrinter> printer)
+    : printer_(std::move(printer)), sheet_(PaperOf(*printer_)) {
+    file_ = printer_->outputFileName();
+    if (!file_.isEmpty())
+        printer_->setOutputFileName(file_ + Unfinished);
+    auto painter = std::make_unique<QPainter>();
+    if (!painter->begin(printer_.get()))
+        return;
+    painter_ = std::move(painter);
+    const double unit = printer_->resolution() / TwipsPerInch;
+    painter_->scale(unit, unit);
+    // Else pictures would go out as JPEG.
+    painter_->setRenderHint(QPainter::LosslessImageRendering);
+    painter_->setRenderHint(QPainter::SmoothPixmapTransform);
+}
+
+PagePrinter::~PagePrinter() {
+    painter_.reset();
+    if (!file_.isEmpty())
+        QFile::remove(file_ + Unfinished);
+}
+
+QPainter* PagePrinter::Painter() {
+    return painter_.get();
+}
+
+bool PagePrinter::NewPage() {
+    return painter_ && printer_->newPage();
+}
+
+bool PagePrinter::EndDoc() {
+    const bool drawn = painter_ && painter_->end();
+    painter_.reset();
+    return drawn && printer_->printerState() != QPrinter::Error && (file_.isEmpty() || TakePlace());
+}
+
+// The engine is silent about a disk that fills up, but then the end is missing.
+bool PagePrinter::TakePlace() const {
+    QFile fresh(file_ + Unfinished);
+    if (!fresh.open(QIODevice::ReadOnly))
+        return false;
+    fresh.seek(std::max<qint64>(0, fresh.size() - EndRoom));
+    const bool whole = fresh.read(EndRoom).contains("%%EOF");
+    fresh.close();
+    std::error_code error;
+    if (whole)
+        std::filesystem::rename(fresh.fileName().toStdString(), file_.toStdString(), error);
+    return whole && !error;
+}
+
+}  // namespace trabeon
