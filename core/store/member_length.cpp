@@ -8,11 +8,12 @@ namespace trabeon {
 double memberLength(const std::filesystem::path& folder, std::size_t member) {
     const auto text = readWhole(folder / MemberRow::file);
     FieldReader reader(text);
-    for (std::size_t k = 1; !reader.atEnd(); ++k) {
-        const auto row = readRow<MemberRow>(reader);
-        if (k == member)
-            return leadingNumber(row.L);
-    }
+    for (std::size_t k = 1; !reader.atEnd(); ++k)
+        for (const auto field : MemberRow::fields) {
+            const auto read = reader.next();
+            if (k == member && field == &MemberRow::L)
+                return leadingNumber(read);
+        }
     return 0;
 }
 
