@@ -7,6 +7,7 @@
 #include <numeric>
 
 #include "batch/text_table.h"
+#include "core/analysis/settled_sum.h"
 
 namespace trabeon {
 namespace {
@@ -57,10 +58,10 @@ double rightReaction(const Analysis& analysis, std::size_t member) {
         loads += load.P * load.a;
     for (const auto& load : analysis.udls.on(member))
         loads -= load.momentAbout(-load.a, load.b);
-    const double moment = left - right + loads;
-    const bool dust =
-        std::fabs(moment) < 1e-12 * (std::fabs(left) + std::fabs(right) + std::fabs(loads));
-    return dust ? 0 : moment / analysis.beam.Length[member];
+    SettledSum moment;
+    for (const double part : {left, -right, loads})
+        moment.add(part);
+    return moment.value() / analysis.beam.Length[member];
 }
 
 }  // namespace

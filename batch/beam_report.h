@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/analysis/analysis.h"
 #include "core/store/project_file.h"

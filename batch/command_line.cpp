@@ -109,7 +109,7 @@ Failure CommandLine::readNumber(std::string_view name, double& value) const {
     const auto text = option(name);
     if (!text)
         return std::nullopt;
-    const auto number = wholeNumberText(*text);
+    const auto number = numberOfWholeText(*text);
     if (!number)
         return Refusal{std::string(name) + " takes a number, not \"" + *text + "\"."};
     value = *number;
@@ -149,8 +149,9 @@ Outcome<CommandLine> readCommandLine(const std::vector<std::string>& words) {
         line.options.emplace_back(name,
                                   sign == std::string::npos ? words[++i] : word.substr(sign + 1));
     }
-    if (line.operands.size() != operandCount(*form))
-        return Refusal{"Usage: " + usageOf(*form)};
+    if (const auto wanted = operandCount(*form); line.operands.size() != wanted)
+        return Refusal{"\"" + words[0] + "\" takes " + std::string(form->operands) + ", not " +
+                       std::to_string(line.operands.size()) + " names. Usage: " + usageOf(*form)};
     return line;
 }
 

@@ -3,6 +3,7 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 
@@ -18,8 +19,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// From this many members on an analysis shows its progress, and its table stays in its file.
+/// From this many members on an analysis shows its progress.
 constexpr std::size_t manyMembers = 1000;
+/// The balance table of more members than this stays in its file.
 constexpr std::size_t mostMembersShown = 20;
 
 Exit refused(const Refusal& refusal) {
@@ -68,6 +70,8 @@ Outcome<MiscProperties> propertiesOf(const CommandLine& line) {
     return misc;
 }
 
+constexpr auto clearedLine = "\r                \r";
+
 /// A percentage on standard error, for a person who waits at a terminal.
 std::function<void(double)> progressLine(std::size_t members) {
     if (members < manyMembers || isatty(STDERR_FILENO) == 0)
@@ -76,14 +80,18 @@ std::function<void(double)> progressLine(std::size_t members) {
         if (static_cast<int>(percent) == shown)
             return;
         shown = static_cast<int>(percent);
-        std::fprintf(stderr, shown < 100 ? "\rAnalysing: %d %%" : "\r                \r", shown);
+        std::fprintf(stderr, shown < 100 ? "\rAnalysing: %d %%" : clearedLine, shown);
     };
 }
 
 std::optional<Analysis> analysed(const fs::path& folder, const AnalysisSettings& settings,
                                  std::function<void(double)> progress) {
     AnalysisOutputs outputs;
-    outputs.message = [](const Message& message) { complain(message.text); };
+    outputs.message = [](const Message& message) {
+        if (isatty(STDERR_FILENO) != 0)
+            std::fputs(clearedLine, stderr);
+        complain(message.text);
+    };
     outputs.progress = std::move(progress);
     return analyseFolder(folder, settings, std::move(outputs));
 }
@@ -145,27 +153,31 @@ Exit tablesCommand(const CommandLine& line) {
     return failure ? refused(*failure) : Exit::done;
 }
 
-/// Makes the folder where there is none; a project that is refused leaves none behind.
-Outcome<ProjectTitle> unpackInto(const std::string& file, const fs::path& folder) {
+/// Reads and checks the project before it makes the folder.
+Outcome<Project> unpackInto(const std::string& file, const fs::path& folder) {
+    auto project = readProject(file);
+    if (!project)
+        return project;
     std::error_code error;
-    const bool made = fs::create_directories(folder, error);
+    fs::create_directories(folder, error);
     if (!fs::is_directory(folder, error))
         return Refusal{"The folder \"" + folder.string() + "\" cannot be made. Name another one."};
-    auto title = unpackProject(file, folder);
-    if (!title && made)
-        fs::remove(folder, error);
-    return title;
+    if (auto failure = writeWorkingFiles(*project, folder))
+        return *failure;
+    return project;
 }
 
 Exit unpackCommand(const CommandLine& line) {
-    const auto title = unpackInto(line.operands[0], line.operands[1]);
-    return title ? Exit::done : refused(title.refusal());
+    const auto project = unpackInto(line.operands[0], line.operands[1]);
+    return project ? Exit::done : refused(project.refusal());
 }
 
 Exit packCommand(const CommandLine& line) {
     const auto& folder = line.operands[0];
     if (auto failure = unfitFolder(folder))
         return refused(*failure);
+    if (!fs::exists(fs::path(folder) / working_file::joint))
+        return refused({"\"" + folder + "\" holds no beam: there is no Joint.txt in it."});
     const ProjectTitle untitled;
     const ProjectTitle title{line.option("--title").value_or(untitled.project),
                              line.option("--designer").value_or(untitled.designer),
@@ -177,14 +189,14 @@ Exit packCommand(const CommandLine& line) {
 void show(const ProjectTitle& title, const Analysis& analysis, const fs::path& folder) {
     std::printf("%s: %s, by %s\n\n", title.project.c_str(), title.beamName.c_str(),
                 title.designer.c_str());
-    if (analysis.beam.members() <= mostMembersShown) {
-        const auto table = readWhole(folder / working_file::balanceTable);
+    const auto file = folder / working_file::balanceTable;
+    if (analysis.beam.members() <= mostMembersShown)
         std::printf("Balance table (clockwise positive)\n%s\n",
-                    balanceTableStrips(table, terminalWidth()).c_str());
-        std::fputs(resultTables(analysis).c_str(), stdout);
-    } else {
-        std::printf("%zu members.\n%s", analysis.beam.members(), reactionCheck(analysis).c_str());
-    }
+                    balanceTableStrips(readWhole(file), terminalWidth()).c_str());
+    else
+        std::printf("The balance table of the %zu members stands in \"%s\".\n\n",
+                    analysis.beam.members(), file.string().c_str());
+    std::fputs(resultTables(analysis).c_str(), stdout);
 }
 
 /// A project that has no dimensions is not designed.
@@ -206,17 +218,19 @@ Exit runCommand(const CommandLine& line) {
     const auto settings = settingsOf(line);
     if (!settings)
         return wrongUsage(settings.refusal());
+    if (auto failure = unfit(*settings))
+        return refused(*failure);
     const auto& file = line.operands[0];
     const fs::path folder =
         line.option("--out").value_or(fs::path(file).replace_extension().string());
-    const auto title = unpackInto(file, folder);
-    if (!title)
-        return refused(title.refusal());
+    const auto project = unpackInto(file, folder);
+    if (!project)
+        return refused(project.refusal());
     const auto members = readRows<MemberRow>(folder).size();
     const auto analysis = analysed(folder, *settings, progressLine(members));
     if (!analysis)
         return Exit::refused;
-    show(*title, *analysis, folder);
+    show(project->title, *analysis, folder);
     if (auto failure = showDesign(folder, *settings))
         return refused(*failure);
     std::printf("Result files: %s\n", folder.string().c_str());
@@ -226,7 +240,10 @@ Exit runCommand(const CommandLine& line) {
 }  // namespace
 
 void complain(std::string_view sentence) {
-    std::fprintf(stderr, "%.*s\n", static_cast<int>(sentence.size()), sentence.data());
+    std::string line(sentence);
+    std::replace_if(
+        line.begin(), line.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+    std::fprintf(stderr, "%s\n", line.c_str());
 }
 
 Exit carryOut(const CommandLine& line) {

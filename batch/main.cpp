@@ -1,11 +1,34 @@
-// trabeon-batch: the analysis without a window, for scripts and machines with no display.
+// trabeon-batch: the analysis and the design without a window, for scripts and machines with no
+// display.
+#include <cstdio>
+#include <exception>
+
 #include "batch/commands.h"
 
-int main(int count, char** words) {
-    using namespace trabeon;
-    const auto line = readCommandLine({words + 1, words + count});
+namespace {
+
+using namespace trabeon;
+
+Exit run(const std::vector<std::string>& words) {
+    const auto line = readCommandLine(words);
     if (line)
-        return static_cast<int>(carryOut(*line));
+        return carryOut(*line);
     complain("trabeon-batch: " + line.refusal().sentence);
-    return static_cast<int>(Exit::usage);
+    return Exit::usage;
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+    auto end = Exit::refused;
+    try {
+        end = run({words + 1, words + count});
+    } catch (const std::exception& error) {  // above all: not enough memory
+        complain(std::string("The job is too large for this machine (") + error.what() + ").");
+    }
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+        complain("The output could not be written.");
+        end = Exit::refused;
+    }
+    return static_cast<int>(end);
 }

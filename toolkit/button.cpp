@@ -2,11 +2,31 @@
 
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 #include <algorithm>
 
 namespace trabeon {
 
 namespace {
+
+// A button too narrow for a letter shows none, instead of slivers of some.
+class Face : public QPushButton {
+  public:
+    using QPushButton::QPushButton;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override {
+        if (width() >= fontMetrics().height()) {
+            QPushButton::paintEvent(event);
+            return;
+        }
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        option.text.clear();
+        QStylePainter(this).drawControl(QStyle::CE_PushButton, option);
+    }
+};
 
 QPushButton& Inner(const Control& control) {
     return *static_cast<QPushButton*>(control.Widget());
@@ -15,7 +35,7 @@ QPushButton& Inner(const Control& control) {
 }  // namespace
 
 Button::Button(Container& parent, const std::string& caption)
-    : Control(new QPushButton(QString::fromStdString(caption), parent.Canvas())) {
+    : Control(new Face(QString::fromStdString(caption), parent.Canvas())) {
     QPushButton& button = Inner(*this);
     const int captionWide = button.fontMetrics().horizontalAdvance(button.text());
     Control::Resize(std::max(ToPixels(1215), captionWide + ToPixels(270)), ToPixels(375));

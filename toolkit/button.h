@@ -1,4 +1,4 @@
-// A push button. Space and Enter press it.
+// A push button. Space and Enter press it. One too narrow for a letter shows no caption.
 #pragma once
 
 #include <functional>

@@ -65,6 +65,10 @@ bool Forms::IsLoaded(const std::string& name) const {
     return Find(name) != nullptr;
 }
 
+const Placement* Forms::PlaceOf(const std::string& name) const {
+    return Find(name);
+}
+
 void Forms::Unload(const std::string& name) {
     const auto entry = std::find_if(open_.begin(), open_.end(),
                                     [&](const Entry& each) { return each.name == name; });

@@ -12,6 +12,7 @@ namespace trabeon {
 
 class Form;
 class MdiWindow;
+class Placement;
 
 // A form class F tells its name as `static constexpr const char* Name = "frmTitle";`.
 class Forms {
@@ -44,6 +45,8 @@ class Forms {
     void Show(const std::string& name);
     void Unload(const std::string& name);
     bool IsLoaded(const std::string& name) const;
+    // Where it stands; null if it is not loaded.
+    const Placement* PlaceOf(const std::string& name) const;
 
     // The last loaded first, also those that are hidden.
     void UnloadAll();

@@ -29,13 +29,17 @@ void Graph::SetAutoAdvance(bool advances) {
     autoAdvance_ = advances;
 }
 
+// Room is made as points are written: a count may be far beyond what ever comes.
 void Graph::SetPointCount(int count) {
-    Inner().points.resize(static_cast<std::size_t>(std::max(0, count)));
-    Inner().shown = std::min(Inner().shown, PointCount());
+    Plot& plot = Inner();
+    plot.count = std::max(0, count);
+    if (plot.points.size() > static_cast<std::size_t>(plot.count))
+        plot.points.resize(static_cast<std::size_t>(plot.count));
+    plot.shown = std::min(plot.shown, plot.count);
 }
 
 int Graph::PointCount() const {
-    return static_cast<int>(Inner().points.size());
+    return Inner().count;
 }
 
 void Graph::SetPointIndex(int index) {
@@ -44,17 +48,26 @@ void Graph::SetPointIndex(int index) {
         Inner().shown = 0;
 }
 
+GraphPoint* Graph::Addressed() {
+    Plot& plot = Inner();
+    if (plot.count == 0)
+        return nullptr;
+    if (plot.points.size() < static_cast<std::size_t>(index_))
+        plot.points.resize(static_cast<std::size_t>(index_));
+    return &plot.points[static_cast<std::size_t>(index_ - 1)];
+}
+
 void Graph::SetPointValue(double y) {
-    if (PointCount() > 0)
-        Inner().points[static_cast<std::size_t>(index_ - 1)].y = y;
+    if (GraphPoint* point = Addressed())
+        point->y = y;
 }
 
 void Graph::SetPointX(double x) {
-    Plot& plot = Inner();
-    if (PointCount() == 0)
+    GraphPoint* point = Addressed();
+    if (!point)
         return;
-    plot.points[static_cast<std::size_t>(index_ - 1)].x = x;
-    plot.shown = std::max(plot.shown, index_);
+    point->x = x;
+    Inner().shown = std::max(Inner().shown, index_);
     if (autoAdvance_)
         index_ = std::min(index_ + 1, PointCount());
 }
@@ -79,6 +92,23 @@ void Graph::SetMarks(std::vector<GraphMark> marks) {
 void Graph::SetNote(const std::string& note) {
     Inner().note->setText(QString::fromStdString(note));
     Inner().Refresh();
+}
+
+std::vector<GraphPoint> Graph::Points() const {
+    const auto& points = Inner().points;
+    return {points.begin(), points.begin() + Inner().shown};
+}
+
+double Graph::ValueFactor() const {
+    return Inner().factor;
+}
+
+const std::vector<GraphMark>& Graph::Marks() const {
+    return Inner().marks;
+}
+
+std::string Graph::Note() const {
+    return Inner().note->text().toStdString();
 }
 
 QImage Graph::Picture() const {

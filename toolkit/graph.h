@@ -23,6 +23,11 @@ struct GraphMark {
     std::string label;
 };
 
+struct GraphPoint {
+    double x = 0;
+    double y = 0;
+};
+
 enum class DrawActions { Redraw = 3, CopyToClipboard = 4 };
 
 class Graph : public Control {
@@ -35,7 +40,8 @@ class Graph : public Control {
     void SetPointCount(int count);
     int PointCount() const;
     // 42: the point that is written next, from 1. Point 1 begins a plot: what shows from then on
-    // are the points written since, up to the highest. The x of a plot must not fall.
+    // are the points written since, up to the highest. The x of a plot rises or
+    // stands; where it falls the line joins the points from left to right.
     void SetPointIndex(int index);
     void SetPointValue(double y);  // 16
     void SetPointX(double x);      // 46
@@ -48,6 +54,12 @@ class Graph : public Control {
     void SetMarks(std::vector<GraphMark> marks);
     void SetNote(const std::string& note);
 
+    // What shows: the points of the plot that runs, with the values that were written.
+    std::vector<GraphPoint> Points() const;
+    double ValueFactor() const;
+    const std::vector<GraphMark>& Marks() const;
+    std::string Note() const;
+
     // The chart as it stands, two pixels to each of the screen's at least.
     QImage Picture() const;
     // What the label of the greatest or the least value reads; empty while there is none.
@@ -57,6 +69,7 @@ class Graph : public Control {
   private:
     class Plot;
     Plot& Inner() const;
+    GraphPoint* Addressed();  // null while there are no points
 
     bool autoAdvance_ = false;
     int index_ = 1;

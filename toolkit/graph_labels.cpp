@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "toolkit/graph_plot.h"
+#include "toolkit/look.h"
 
 namespace trabeon {
 
@@ -48,21 +49,46 @@ void Graph::Plot::FindExtremes() {
     extremes_->addData(bottom_.x, bottom_.y);
 }
 
-// Leaves out labels that would stand on one another.
+// Gives the height that the two take. In a small chart they share a line, if it is long enough.
+int Graph::Plot::FitTitles() {
+    const bool roomy = IsRoomy();
+    const bool titled = viewport().height() >= 70;
+    title_->setFont(FontNamed("Arial", roomy ? 10 : 8, true));
+    const double titleWide = QFontMetricsF(title_->font()).horizontalAdvance(title_->text());
+    const double noteWide = QFontMetricsF(note->font()).horizontalAdvance(note->text()) + 12;
+    const bool inOneLine = !roomy && titleWide + noteWide <= viewport().width();
+    title_->setVisible(titled);
+    note->setVisible(titled && !note->text().isEmpty() && (roomy || inOneLine));
+    const double middle = viewport().width() / 2.0;
+    const double aside = note->visible() && inOneLine ? 0.5 : 0;
+    SetPixel(*title_, {middle - aside * noteWide, roomy ? 6.0 : 2.0});
+    SetPixel(*note, {middle + aside * titleWide, roomy ? 23.0 : 2.0});
+    if (!titled)
+        return 6;
+    return roomy ? (note->visible() ? 40 : 26) : 21;
+}
+
+// Leaves out labels that would stand on one another, and lines that would become a grey area.
 void Graph::Plot::FitMarks() {
+    constexpr double LeastApart = 8;
     xAxis2->setVisible(!marks.empty());
     xAxis2->setTickLabels(!marks.empty());
     QMap<double, QString> ticks;
     const double pixelsPerX = (viewport().width() - 80) / xAxis->range().size();
     const QFontMetricsF metrics(xAxis2->tickLabelFont());
+    double former = -1e300;
     double free = -1e300;
     for (const GraphMark& mark : marks) {
         const QString label = QString::fromStdString(mark.label);
+        const double at = mark.x * pixelsPerX;
         const double half = metrics.horizontalAdvance(label) / 2 + 3;
-        const bool fits = mark.x * pixelsPerX - half >= free;
+        const bool fits = at - half >= free;
+        if (!fits && at - former < LeastApart)
+            continue;
         ticks.insert(mark.x, fits ? label : QString());
+        former = at;
         if (fits)
-            free = mark.x * pixelsPerX + half;
+            free = at + half;
     }
     markTicks_->setTicks(ticks);
 }
@@ -75,7 +101,7 @@ QRectF Graph::Plot::PlaceLabel(QCPItemText& label, const Point& at, bool above) 
     const double wide = metrics.horizontalAdvance(label.text()) + 4;
     const double high = metrics.height();
     const double left =
-        std::max(area.left() + 2, std::min(point.x() - wide / 2, area.right() - wide - 2));
+        std::max(area.left() + 5, std::min(point.x() - wide / 2, area.right() - wide - 2));
     const double top = above ? point.y() - high - 4 : point.y() + 4;
     label.setPositionAlignment(Qt::AlignTop | Qt::AlignLeft);
     const QRectF box(left, std::clamp(top, area.top(), std::max(area.top(), area.bottom() - high)),

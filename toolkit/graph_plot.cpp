@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "toolkit/look.h"
 
@@ -10,7 +11,6 @@ namespace trabeon {
 namespace {
 
 constexpr qint64 FrameMs = 33;
-constexpr int LabelHigh = 20;  // pixels that a label of an extreme takes above or below it
 const QColor Ink(0x1a1a1a);
 const QColor Faint(0x6b7580);
 const QColor Curve(0x0a64ad);
@@ -22,6 +22,7 @@ Graph::Plot::Plot(const GraphTitles& titles, QWidget* parent)
       xTitle_(QString::fromStdString(titles.x)),
       valueTitle_(QString::fromStdString(titles.value)) {
     setMinimumSize(0, 0);
+    setFocusPolicy(Qt::NoFocus);  // it has no use for keys, and would be the form's first stop
     setBackground(Qt::white);
     MakeCurve();
     MakeItems(titles);
@@ -33,8 +34,6 @@ Graph::Plot::Plot(const GraphTitles& titles, QWidget* parent)
 
 void Graph::Plot::MakeCurve() {
     addGraph();
-    graph(0)->setPen(QPen(Curve, 1.6));
-    graph(0)->setBrush(QColor(Curve.red(), Curve.green(), Curve.blue(), 38));
     extremes_ = addGraph();
     extremes_->setLineStyle(QCPGraph::lsNone);
     extremes_->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssDisc, Curve, Curve, 6));
@@ -87,6 +86,8 @@ void Graph::Plot::MakeItems(const GraphTitles& titles) {
     note->setPositionAlignment(Qt::AlignTop | Qt::AlignHCenter);
     greatest = MakeText(Ink, 8, true);
     least = MakeText(Ink, 8, true);
+    for (QCPItemText* label : {greatest, least})
+        label->setBrush(QColor(255, 255, 255, 190));  // grid and joints shine through, faintly
     dot_ = new QCPItemTracer(this);
     dot_->setInterpolating(true);
     dot_->setStyle(QCPItemTracer::tsCircle);
@@ -124,14 +125,26 @@ void Graph::Plot::Redraw() {
         Refresh();
         return;
     }
+    stale_ = false;
     replot(rpImmediateRefresh);
     sinceRedraw_.start();
 }
 
-// A chart of no size has nothing to paint on.
+// One call waits at most. The chart's own queue takes another one after each immediate replot, and
+// a long handler would leave hundreds.
 void Graph::Plot::Refresh() {
-    if (!size().isEmpty())
-        replot(rpQueuedReplot);
+    stale_ = true;
+    if (std::exchange(waiting_, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            waiting_ = false;
+            if (stale_ && !size().isEmpty())  // a chart of no size has nothing to paint on
+                replot(rpRefreshHint);
+            stale_ = false;
+        },
+        Qt::QueuedConnection);
 }
 
 void Graph::Plot::resizeEvent(QResizeEvent* event) {
@@ -143,9 +156,10 @@ void Graph::Plot::Prepare() {
     TakeData();
     FindExtremes();
     FitToSize();
-    FitMarks();
     if (!zoomed_)
         Rescale();
+    FitCurve();
+    FitMarks();
 }
 
 void Graph::Plot::TakeData() {
@@ -156,8 +170,11 @@ void Graph::Plot::TakeData() {
         if (std::isfinite(point.x) && std::isfinite(point.y))
             curve.append({point.x, point.y});
     }
-    // Told to be sorted, so that points at one x stay in the order they came in.
-    graph(0)->data()->set(curve, true);
+    // Sorting would not keep points at one x in the order they came in.
+    const bool isSorted =
+        std::is_sorted(curve.constBegin(), curve.constEnd(),
+                       [](const auto& a, const auto& b) { return a.key < b.key; });
+    graph(0)->data()->set(curve, isSorted);
     values_->factor = factor;
 }
 
@@ -168,19 +185,25 @@ bool Graph::Plot::IsRoomy() const {
 // A small chart gives up what it can do without, first its axis titles.
 void Graph::Plot::FitToSize() {
     const bool roomy = IsRoomy();
-    const bool titled = viewport().height() >= 90;
-    const bool noted = roomy && !note->text().isEmpty();
-    title_->setVisible(titled);
-    note->setVisible(noted);
     xAxis->setLabel(roomy ? xTitle_ : QString());
     yAxis->setLabel(roomy ? valueTitle_ : QString());
-    const int top = (titled ? 26 : 6) + (noted ? 14 : 0) + (marks.empty() ? 0 : 16);
-    axisRect()->setMinimumMargins(QMargins(8, top, 18, 4));
+    topMargin_ = FitTitles() + (marks.empty() ? 0 : 18);
+    axisRect()->setMinimumMargins(QMargins(8, topMargin_, 18, 4));
     xAxis->ticker()->setTickCount(std::clamp(viewport().width() / 80, 2, 10));
-    yAxis->ticker()->setTickCount(std::clamp(viewport().height() / 40, 2, 8));
-    const double middle = viewport().width() / 2.0;
-    title_->position->setPixelPosition({middle, 6});
-    note->position->setPixelPosition({middle, 23});
+    yAxis->ticker()->setTickCount(std::clamp(viewport().height() / 36, 3, 8));
+}
+
+// Many points to a pixel make a block of colour anyway: there a hair line without a fill looks the
+// same and costs a fiftieth.
+void Graph::Plot::FitCurve() {
+    constexpr double ManyPerPixel = 6;
+    const auto& curve = *graph(0)->data();
+    const double whole =
+        curve.isEmpty() ? 0 : (curve.constEnd() - 1)->key - curve.constBegin()->key;
+    const double inSight = whole > 0 ? std::min(1.0, xAxis->range().size() / whole) : 1;
+    const bool dense = shown * inSight > ManyPerPixel * viewport().width();
+    graph(0)->setPen(QPen(Curve, dense ? 1 : 1.6));
+    graph(0)->setBrush(dense ? QBrush() : QColor(Curve.red(), Curve.green(), Curve.blue(), 38));
 }
 
 void Graph::Plot::Rescale() {
@@ -195,9 +218,11 @@ void Graph::Plot::Rescale() {
         x.upper = x.lower + 1;
     if (!(y.size() > 0))
         y = {-1, 1};
-    const int around = IsRoomy() ? 90 : 46;  // title, tick labels and axis titles
-    const double room = std::max(LabelHigh, viewport().height() - around - 2 * LabelHigh);
-    const double margin = y.size() * LabelHigh / room;
+    const int below = IsRoomy() ? 42 : 20;  // the axis, its numbers and its title
+    const int labelHigh = IsRoomy() ? 20 : 15;
+    const double room =
+        std::max(labelHigh, viewport().height() - topMargin_ - below - 2 * labelHigh);
+    const double margin = y.size() * labelHigh / room;
     xAxis->setRange(x);
     yAxis->setRange(y.lower - margin, y.upper + margin);
 }

@@ -14,12 +14,10 @@ class Graph::Plot : public QCustomPlot {
   public:
     Plot(const GraphTitles& titles, QWidget* parent);
 
-    struct Point {
-        double x = 0;
-        double y = 0;
-    };
-    std::vector<Point> points;
-    int shown = 0;  // of the points, those of the plot that runs
+    using Point = GraphPoint;
+    int count = 0;              // of the points that were told of
+    std::vector<Point> points;  // those that were written
+    int shown = 0;              // of the points, those of the plot that runs
     double factor = 1;
     std::vector<GraphMark> marks;
     QCPItemText* note;
@@ -48,6 +46,8 @@ class Graph::Plot : public QCustomPlot {
     void TakeData();
     void FindExtremes();
     void FitToSize();
+    int FitTitles();
+    void FitCurve();
     void FitMarks();
     void Rescale();
     void PlaceLabels();
@@ -66,7 +66,10 @@ class Graph::Plot : public QCustomPlot {
     QString xTitle_;
     QString valueTitle_;
     Point top_, bottom_;  // the highest and the lowest as drawn
+    int topMargin_ = 0;   // pixels above the axes
     bool zoomed_ = false;
+    bool stale_ = false;    // the screen is behind the data
+    bool waiting_ = false;  // for the handlers to come to their end
     QElapsedTimer sinceRedraw_;
 };
 

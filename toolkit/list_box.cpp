@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QListWidget>
+#include <QStyledItemDelegate>
 
 namespace trabeon {
 
@@ -11,12 +12,26 @@ QListWidget& Inner(const Control& control) {
     return *static_cast<QListWidget*>(control.Widget());
 }
 
+// As wide as the list, whatever the text: what does not fit is left out in front, since entries
+// differ at their end.
+class EntryDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return {0, QStyledItemDelegate::sizeHint(option, index).height()};
+    }
+};
+
 }  // namespace
 
 ListBox::ListBox(Container& parent) : Control(new QListWidget(parent.Canvas())) {
     QListWidget& list = Inner(*this);
     list.setSelectionMode(QAbstractItemView::ExtendedSelection);
     list.setUniformItemSizes(true);
+    list.setItemDelegate(new EntryDelegate(&list));
+    list.setTextElideMode(Qt::ElideLeft);
+    list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     Watch(list.viewport());
     QObject::connect(&list, &QListWidget::itemSelectionChanged, [this] { OnSelection(); });
     QObject::connect(&list, &QListWidget::itemClicked, [this] {

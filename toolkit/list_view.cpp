@@ -1,10 +1,12 @@
 #include "toolkit/list_view.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <QTreeWidget>
 
 #include "toolkit/outside.h"
@@ -25,13 +27,23 @@ class Row : public QTreeWidgetItem {
 
 namespace {
 
-// A little air above and below the text.
+// A little air above and below the text; one that is cut shows whole under the pointer.
 class RowDelegate : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 4);
+    }
+
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override {
+        const QString text = index.data().toString();
+        const bool cut = sizeHint(option, index).width() > view->visualRect(index).width();
+        if (event->type() != QEvent::ToolTip || !cut)
+            return QStyledItemDelegate::helpEvent(event, view, option, index);
+        QToolTip::showText(event->globalPos(), "<qt>" + text.toHtmlEscaped() + "</qt>", view);
+        return true;
     }
 };
 
@@ -210,7 +222,7 @@ void ListView::Copy() const {
             continue;
         QStringList texts;
         for (int column = 0; column < tree.columnCount(); ++column)
-            texts << row.text(column);
+            texts << row.text(column).trimmed();  // a blank in front is for the eye
         lines << texts.join('\t') + '\n';
     }
     if (!lines.isEmpty())

@@ -2,12 +2,15 @@
 
 #include <QProgressBar>
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace trabeon {
 
 namespace {
 
 constexpr int StepsPerCent = 10;
+constexpr std::chrono::milliseconds Frame(33);
 
 }  // namespace
 
@@ -25,8 +28,26 @@ double ProgressBar::Value() const {
 
 void ProgressBar::SetValue(double value) {
     value_ = std::clamp(value, 0.0, 100.0);
-    // Repaints at once, and only when the bar grows by a pixel.
-    static_cast<QProgressBar*>(Widget())->setValue(static_cast<int>(value_ * StepsPerCent));
+    const bool isMark = value_ == 0 || value_ == 100;
+    const auto now = std::chrono::steady_clock::now();
+    if (isMark || now - shownAt_ >= Frame) {
+        shownAt_ = now;
+        ShowValue();
+    } else if (!std::exchange(waiting_, true)) {
+        QMetaObject::invokeMethod(
+            Widget(),
+            [this] {
+                waiting_ = false;
+                ShowValue();
+            },
+            Qt::QueuedConnection);
+    }
+}
+
+// The widget repaints at once, whenever the bar grows by a pixel.
+void ProgressBar::ShowValue() {
+    static_cast<QProgressBar*>(Widget())->setValue(
+        static_cast<int>(std::lround(value_ * StepsPerCent)));
 }
 
 }  // namespace trabeon

@@ -9,14 +9,6 @@
 namespace trabeon {
 namespace {
 
-Failure unfit(const AnalysisSettings& settings) {
-    if (auto failure = unfitDivisions(settings.Divisions))
-        return failure;
-    if (!(settings.places >= 0 && settings.places <= 12))
-        return Refusal{"The decimal places of the maximum must be a number from 0 to 12."};
-    return std::nullopt;
-}
-
 bool structureHolds(const BeamRows& rows, const MessageSink& show) {
     bool JointError = false;
     bool MemberError = false;
@@ -27,7 +19,7 @@ bool structureHolds(const BeamRows& rows, const MessageSink& show) {
 
 Failure tooLarge(std::size_t member) {
     return Refusal{"Member " + std::to_string(member) +
-                   ": its loads are too large to be calculated. Use other units."};
+                   ": its moments or shears are too large to be calculated. Use other units."};
 }
 
 Failure unfit(const std::vector<double>& FEM) {
@@ -91,6 +83,14 @@ Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
 
 }  // namespace
 
+Failure unfit(const AnalysisSettings& settings) {
+    if (auto failure = unfitDivisions(settings.Divisions))
+        return failure;
+    if (!(settings.places >= 0 && settings.places <= 12))
+        return Refusal{"The decimal places of the maximum must be a number from 0 to 12."};
+    return std::nullopt;
+}
+
 Failure unfitDivisions(double Divisions) {
     if (!(Divisions >= 1 && Divisions <= 10'000 && Divisions == std::floor(Divisions)))
         return Refusal{"The number of sections of a span must be a whole number from 1 to 10,000."};
@@ -110,7 +110,7 @@ std::optional<Analysis> analyse(BeamRows rows, const AnalysisSettings& settings,
     auto analysis = calculate(std::move(rows), settings, outputs);
     if (analysis)
         return std::move(*analysis);
-    outputs.message({analysis.refusal().sentence, 48, "Trabeon"});
+    outputs.refuse(analysis.refusal());
     return std::nullopt;
 }
 

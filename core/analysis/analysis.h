@@ -34,12 +34,17 @@ struct AnalysisSettings {
 /// Refuses Divisions that are not a whole number from 1 to 10,000.
 [[nodiscard]] Failure unfitDivisions(double Divisions);
 
+/// Refuses settings outside their limits.
+[[nodiscard]] Failure unfit(const AnalysisSettings& settings);
+
 /// What an analysis tells while it runs. `progress` gets 0, then 50 when the moments have settled,
 /// then 50 + 50 i / n when span i of n is searched.
 struct AnalysisOutputs {
     MessageSink message;
     TableSink tableRow = [](const TableRow&) {};
     std::function<void(double)> progress = [](double) {};
+
+    void refuse(const Refusal& why) const { message({why.sentence, 48, "Trabeon"}); }
 };
 
 /// The loads in normal form, the end moments, the stations and the maxima. The table's rows went

@@ -23,10 +23,10 @@ Failure unfitSpelling(const std::vector<JointRow>& joints, const std::vector<Joi
     const auto nameOf = [&](std::size_t j) {
         return jointNames[static_cast<std::size_t>(types[j])];
     };
-    bool asNamed = true;
-    for (std::size_t j = 1; j <= joints.size(); ++j)
-        asNamed = asNamed && joints[j - 1].type == nameOf(j);
-    if (asNamed)
+    std::size_t misspelled = 1;
+    while (misspelled <= joints.size() && joints[misspelled - 1].type == nameOf(misspelled))
+        ++misspelled;
+    if (misspelled > joints.size())
         return std::nullopt;
     auto spelled = joints;
     for (std::size_t j = 1; j <= joints.size(); ++j)
@@ -39,8 +39,9 @@ Failure unfitSpelling(const std::vector<JointRow>& joints, const std::vector<Joi
     });
     if (!error)
         return std::nullopt;
-    return Refusal{first +
-                   " (Joint types are spelled Cantilever, Pin Jointed, Continuous and Fixed.)"};
+    return Refusal{"Joint " + std::to_string(misspelled) + ", whose type \"" +
+                   joints[misspelled - 1].type + "\" was taken for " +
+                   std::string(nameOf(misspelled)) + ": " + first};
 }
 
 Failure unfitMember(const MemberRow& row, std::size_t number, const Beam& beam) {

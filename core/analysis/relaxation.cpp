@@ -1,5 +1,7 @@
 #include "core/analysis/relaxation.h"
 
+#include "core/analysis/settled_sum.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -19,9 +21,11 @@ bool isPin(Joint joint) {
 void balanceJoints(const Row& from, const DistributionFactors& factors, std::size_t members,
                    Row& to) {
     for (std::size_t i = 1; i < members; ++i) {
-        const double unbalance = from[2 * i] + from[2 * i + 1];
-        to[2 * i] = -unbalance * factors.DFRight[i];
-        to[2 * i + 1] = -unbalance * factors.DFLeft[i + 1];
+        SettledSum unbalance;
+        unbalance.add(from[2 * i]);
+        unbalance.add(from[2 * i + 1]);
+        to[2 * i] = -unbalance.value() * factors.DFRight[i];
+        to[2 * i + 1] = -unbalance.value() * factors.DFLeft[i + 1];
     }
 }
 

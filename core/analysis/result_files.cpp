@@ -100,6 +100,10 @@ std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
             table.emplace(files.add(working_file::balanceTable));
         table->write(row);
     };
+    if (const auto failure = unreadable(folder, inputFiles)) {
+        outputs.refuse(*failure);
+        return std::nullopt;
+    }
     auto analysis = analyse(readBeamRows(folder), settings, outputs);
     if (!analysis)
         return std::nullopt;
@@ -108,7 +112,7 @@ std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
     writeLoads(files, analysis->points);
     writeLoads(files, analysis->udls);
     if (const auto failure = files.commit()) {
-        outputs.message({failure->sentence, 48, "Trabeon"});
+        outputs.refuse(*failure);
         return std::nullopt;
     }
     return analysis;

@@ -45,9 +45,7 @@ void checkLine(const std::vector<JointRow>& joints, const Report& report) {
         const bool inner = i >= 2 && i < total;
         if (inner && (type == "Fixed" || type == "Cantilever" || type == "Pin Jointed")) {
             report(
-                "You can't have a Fix Joint, Cantilever Joint or Pin Joint in a continuous "
-                "position of "
-                "the beam.");
+                "You can't have a Fix Joint, Cantilever Joint or Pin Joint in a continuous position of the beam.");
             return;
         }
         if (i == total && type == "Continuous")

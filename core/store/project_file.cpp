@@ -10,9 +10,8 @@ namespace trabeon {
 namespace {
 
 constexpr std::string_view warning =
-    "WARNNING! DO NOT CHANGE CAPITALISED TEXT. JUST CHANGE NUMBERS AS TEXT SERVES AS INDICATORS "
-    "FOR "
-    "THIS DATA FILE";
+    "WARNNING! DO NOT CHANGE CAPITALISED TEXT. "
+    "JUST CHANGE NUMBERS AS TEXT SERVES AS INDICATORS FOR THIS DATA FILE";
 constexpr std::string_view titleHeading = "TITLE";
 constexpr std::string_view jointsHeading = "JOINTS - Joint No_ Joint Type And Description";
 constexpr std::string_view membersHeading = "MEMBERS - Member No_ E_ I_ L And Description";
@@ -174,6 +173,16 @@ class Unpacker {
     Failure wrong_;
 };
 
+/// The working files that a project holds, and where their texts stand in it.
+constexpr std::array<std::pair<std::string_view, std::string Project::*>, 6> packedFiles{{
+    {working_file::joint, &Project::joints},
+    {working_file::member, &Project::members},
+    {working_file::point, &Project::points},
+    {working_file::udl, &Project::udls},
+    {working_file::balanceTable, &Project::balanceTable},
+    {working_file::beamDimensions, &Project::beamDimensions},
+}};
+
 bool breaksAField(std::string_view title) {
     return title.find_first_of("\"\r\n") != title.npos;
 }
@@ -206,43 +215,32 @@ Outcome<Project> unpackedProject(std::string_view text) {
     return Unpacker(text).project();
 }
 
-Failure packProject(const std::filesystem::path& folder, const ProjectTitle& title,
-                    const std::filesystem::path& file) {
-    for (const auto& text : {title.project, title.designer, title.beamName})
-        if (breaksAField(text))
-            return Refusal{"The title text " + text +
-                           " holds a double quote or a line end. Take it out, then save again."};
-    const auto content = [&](std::string_view name) { return readWhole(folder / name); };
-    return replaceFile(
-        file,
-        packedText({title, content(working_file::joint), content(working_file::member),
-                    content(working_file::point), content(working_file::udl),
-                    content(working_file::balanceTable), content(working_file::beamDimensions)}));
+Outcome<Project> readProject(const std::filesystem::path& file) {
+    std::error_code missing;
+    if (!std::filesystem::exists(file, missing))
+        return Refusal{"\"" + file.string() + "\" is not there. Choose a project file (*.TB)."};
+    if (auto failure = unreadable(file))
+        return *failure;
+    auto project = unpackedProject(readWhole(file));
+    if (!project)
+        return Refusal{"\"" + file.string() + "\" is not a whole project file: " +
+                       project.refusal().sentence + ". Mend that line; nothing was changed."};
+    return project;
+}
+
+Failure writeWorkingFiles(const Project& project, const std::filesystem::path& folder) {
+    FileSet files(folder);
+    for (const auto& [name, text] : packedFiles)
+        files.add(name).write(project.*text);
+    return files.commit();
 }
 
 Outcome<ProjectTitle> unpackProject(const std::filesystem::path& file,
                                     const std::filesystem::path& folder) {
-    std::error_code missing;
-    if (!std::filesystem::is_regular_file(file, missing))
-        return Refusal{"\"" + file.string() +
-                       "\" is not there, or is not a file. Choose a project file (*.TB)."};
-    const auto project = unpackedProject(readWhole(file));
+    const auto project = readProject(file);
     if (!project)
-        return Refusal{"\"" + file.string() +
-                       "\" is not a whole project file: " + project.refusal().sentence +
-                       ". Mend that line; the open project is unchanged."};
-    const std::array<std::pair<std::string_view, std::string_view>, 6> contents{{
-        {working_file::joint, project->joints},
-        {working_file::member, project->members},
-        {working_file::point, project->points},
-        {working_file::udl, project->udls},
-        {working_file::balanceTable, project->balanceTable},
-        {working_file::beamDimensions, project->beamDimensions},
-    }};
-    FileSet files(folder);
-    for (const auto& [name, text] : contents)
-        files.add(name).write(text);
-    if (auto failure = files.commit())
+        return project.refusal();
+    if (auto failure = writeWorkingFiles(*project, folder))
         return *failure;
     return project->title;
 }
@@ -250,6 +248,27 @@ Outcome<ProjectTitle> unpackProject(const std::filesystem::path& file,
 std::string captionName(std::string_view fullPath) {
     const auto first = fullPath.find_first_of("\\/");
     return std::string(first == fullPath.npos ? fullPath : fullPath.substr(first + 1));
+}
+
+Failure packProject(const std::filesystem::path& folder, const ProjectTitle& title,
+                    const std::filesystem::path& file) {
+    Project project{title, {}, {}, {}, {}, {}, {}};
+    for (const auto& text : {title.project, title.designer, title.beamName})
+        if (breaksAField(text))
+            return Refusal{"The title text " + text +
+                           " holds a double quote or a line end. Take it out, then save again."};
+    for (const auto& [name, text] : packedFiles) {
+        if (auto failure = unreadable(folder / name))
+            return failure;
+        project.*text = readWhole(folder / name);
+    }
+    const auto packed = packedText(project);
+    if (const auto again = unpackedProject(packed); !again)
+        return Refusal{
+            "The project was not saved, for it could not be opened again: of what would "
+            "be written, " +
+            again.refusal().sentence + ". Mend that row, then save again."};
+    return replaceFile(file, packed);
 }
 
 }  // namespace trabeon

@@ -29,13 +29,22 @@ struct Project {
 /// letters alone, and numbers are taken as they stand. LF line ends are read as well.
 [[nodiscard]] Outcome<Project> unpackedProject(std::string_view text);
 
+/// Reads and checks a project file whole. Refuses one that cannot be read.
+[[nodiscard]] Outcome<Project> readProject(const std::filesystem::path& file);
+
+/// Puts a project's texts into the six working files of a folder, all of them or none; "BM.txt"
+/// stays as it was.
+[[nodiscard]] Failure writeWorkingFiles(const Project& project,
+                                        const std::filesystem::path& folder);
+
 /// Packs the working files of a folder. Refuses a title text that holds a double quote or a line
-/// end, and a file that cannot be written; the old file then stays as it was.
+/// end, working files that cannot be read or would make a project that cannot be opened again, and
+/// a file that cannot be written; the old file then stays as it was.
 [[nodiscard]] Failure packProject(const std::filesystem::path& folder, const ProjectTitle& title,
                                   const std::filesystem::path& file);
 
-/// Unpacks a project file into the six working files of a folder; "BM.txt" stays as it was. The
-/// file is read and checked whole first: if it is refused, no working file changes.
+/// Unpacks a project file into a folder: reads it, then writes the working files. If it is refused
+/// no working file changes.
 [[nodiscard]] Outcome<ProjectTitle> unpackProject(const std::filesystem::path& file,
                                                   const std::filesystem::path& folder);
 

@@ -12,10 +12,26 @@ std::filesystem::path besides(std::filesystem::path target) {
     return target += ".new";
 }
 
+/// The file that a link points to, or the path itself.
+std::filesystem::path resolved(std::filesystem::path target) {
+    std::error_code error;
+    if (!std::filesystem::is_symlink(target, error))
+        return target;
+    auto file = std::filesystem::canonical(target, error);
+    return error ? target : file;
+}
+
+void keepPermissions(const std::filesystem::path& from, const std::filesystem::path& to) {
+    std::error_code missing;
+    const auto old = std::filesystem::status(from, missing);
+    if (std::filesystem::is_regular_file(old))
+        std::filesystem::permissions(to, old.permissions(), missing);
+}
+
 }  // namespace
 
 ReplacingFile::ReplacingFile(std::filesystem::path target)
-    : target_(std::move(target)),
+    : target_(resolved(std::move(target))),
       fresh_(besides(target_)),
       buffer_(std::make_unique_for_overwrite<char[]>(capacity)) {
     file_ = std::fopen(fresh_.string().c_str(), "wb");
@@ -57,6 +73,9 @@ void ReplacingFile::flush() {
 
 Failure ReplacingFile::finish() {
     flush();
+    std::error_code missing;
+    if (error_ == 0 && std::filesystem::is_directory(target_, missing))
+        error_ = EISDIR;  // a rename over it would fail, and too late for a set of files
     if (file_ != nullptr && std::fclose(std::exchange(file_, nullptr)) != 0)
         noteError();
     if (error_ != 0)
@@ -68,6 +87,7 @@ Failure ReplacingFile::commit() {
     if (auto failure = finish())
         return failure;
     std::error_code error;
+    keepPermissions(target_, fresh_);
     std::filesystem::rename(fresh_, target_, error);
     if (error) {
         error_ = error.value();
@@ -90,7 +110,7 @@ Refusal ReplacingFile::refusal() const {
 }
 
 void FileSet::put(std::string_view name, std::string_view text) {
-    if (text.empty() || readWhole(folder_ / name) != text)
+    if (readWhole(folder_ / name) != text)
         add(name).write(text);
 }
 

@@ -11,9 +11,10 @@
 
 namespace trabeon {
 
-/// New content is written to "NAME.new" beside the target and renamed over it by commit(). Until
-/// then, and if anything fails or the process dies, the old file stands as it was. One that is
-/// destroyed before its commit removes what it wrote.
+/// New content is written to "NAME.new" beside the target and renamed over it by commit(); the new
+/// file keeps the old one's permissions, and a link keeps pointing to the file that is replaced.
+/// Until then, and if anything fails or the process dies, the old file stands as it was. One that
+/// is destroyed before its commit removes what it wrote.
 class ReplacingFile {
   public:
     explicit ReplacingFile(std::filesystem::path target);

@@ -17,6 +17,8 @@ namespace trabeon {
 template <class Row>
 [[nodiscard]] Failure rewriteRows(const std::filesystem::path& folder,
                                   const std::vector<Row>& rows) {
+    if (auto failure = unreadable(folder / Row::file))
+        return failure;
     const auto scratch = folder / Row::scratch;
     if (auto failure = replaceFile(scratch, textOf(rows, Description::quoted)))
         return failure;

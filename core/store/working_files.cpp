@@ -7,9 +7,21 @@
 
 namespace trabeon {
 
+namespace {
+
+using OpenedFile = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+
+/// Only a regular file: reading a pipe would wait for ever.
+OpenedFile openToRead(const std::filesystem::path& file) {
+    std::error_code missing;
+    const bool regular = std::filesystem::is_regular_file(file, missing);
+    return {regular ? std::fopen(file.string().c_str(), "rb") : nullptr, &std::fclose};
+}
+
+}  // namespace
+
 std::string readWhole(const std::filesystem::path& file) {
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> opened(
-        std::fopen(file.string().c_str(), "rb"), &std::fclose);
+    const auto opened = openToRead(file);
     std::string text;
     if (!opened)
         return text;
@@ -27,6 +39,22 @@ std::string readWhole(const std::filesystem::path& file) {
             return text;
         expected = text.size();
     }
+}
+
+Failure unreadable(const std::filesystem::path& file) {
+    std::error_code missing;
+    if (!std::filesystem::exists(std::filesystem::symlink_status(file, missing)) ||
+        openToRead(file))
+        return std::nullopt;
+    return Refusal{"\"" + file.string() +
+                   "\" cannot be read. Make it a file that you may read; nothing was changed."};
+}
+
+Failure unreadable(const std::filesystem::path& folder, std::span<const std::string_view> names) {
+    for (const auto name : names)
+        if (auto failure = unreadable(folder / name))
+            return failure;
+    return std::nullopt;
 }
 
 void DuplicateFile(const std::filesystem::path& Source, const std::filesystem::path& Target) {

@@ -3,8 +3,11 @@
 
 #include <array>
 #include <filesystem>
+#include <span>
 #include <string>
 #include <string_view>
+
+#include "core/outcome.h"
 
 namespace trabeon {
 
@@ -33,6 +36,10 @@ inline constexpr std::string_view udlScratch = "Udl.tmp";
 inline constexpr std::string_view beamDimensionsScratch = "BeamDim.tmp";
 }  // namespace working_file
 
+/// The files that the user's rows stand in.
+inline constexpr std::array inputFiles{working_file::joint, working_file::member,
+                                       working_file::point, working_file::udl};
+
 /// The seven files that CreateNFile empties, in its order.
 inline constexpr std::array projectFiles{working_file::joint,         working_file::member,
                                          working_file::point,         working_file::udl,
@@ -47,8 +54,15 @@ inline constexpr std::array filesDeletedAtExit{
     working_file::memberScratch, working_file::pointScratch, working_file::udlScratch,
     working_file::maxima,        working_file::pointMaxima,  working_file::udlMaxima};
 
-/// The whole content of a file; a missing one reads as empty.
+/// The whole content of a file; a missing one reads as empty, and so does one that unreadable()
+/// tells.
 [[nodiscard]] std::string readWhole(const std::filesystem::path& file);
+
+/// Why a file that is there cannot be read: it is a folder or a device, or the user may not. To be
+/// asked before content that was read replaces a file; a missing file is no failure.
+[[nodiscard]] Failure unreadable(const std::filesystem::path& file);
+[[nodiscard]] Failure unreadable(const std::filesystem::path& folder,
+                                 std::span<const std::string_view> names);
 
 /// Copies Source over Target, whole or not at all. Silent: a copy that fails leaves Target as it
 /// was.

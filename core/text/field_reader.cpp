@@ -54,17 +54,13 @@ void FieldReader::passBlanks() {
         ++at_;
 }
 
-bool FieldReader::passLineEnd() {
-    lineEnded_ = true;
-    if (at_ >= text_.size())
-        return true;
-    if (text_[at_] != '\r' && text_[at_] != '\n') {
-        lineEnded_ = false;
-        return false;
-    }
-    at_ += text_[at_] == '\r' && at_ + 1 < text_.size() && text_[at_ + 1] == '\n' ? 2 : 1;
+void FieldReader::passLineEnd() {
+    const bool atEnd = at_ >= text_.size();
+    lineEnded_ = atEnd || text_[at_] == '\r' || text_[at_] == '\n';
+    if (atEnd || !lineEnded_)
+        return;
+    at_ += text_.substr(at_, 2) == "\r\n" ? 2 : 1;
     ++line_;
-    return true;
 }
 
 }  // namespace trabeon

@@ -36,7 +36,7 @@ class FieldReader {
     std::string_view quotedField();
     std::string_view bareField();
     void passBlanks();
-    bool passLineEnd();
+    void passLineEnd();
 
     std::string_view text_;
     std::size_t at_ = 0;

@@ -114,7 +114,7 @@ double leadingNumber(std::string_view text) {
     return leading(text).value;
 }
 
-std::optional<double> wholeNumberText(std::string_view text) {
+std::optional<double> numberOfWholeText(std::string_view text) {
     const auto [value, end] = leading(text);
     if (end == 0 || text.find_first_not_of(' ', end) != std::string_view::npos)
         return std::nullopt;

@@ -13,7 +13,7 @@ namespace trabeon {
 [[nodiscard]] double leadingNumber(std::string_view text);
 
 /// The number that a whole text stands for, blanks around it allowed; nothing if it is no number.
-[[nodiscard]] std::optional<double> wholeNumberText(std::string_view text);
+[[nodiscard]] std::optional<double> numberOfWholeText(std::string_view text);
 
 /// Plain decimal text of at most 15 significant digits, one blank in front of a value of 0 or more:
 /// " 3", " 0.386", "-1.5", " 1E+15", " 1E-05". The value must be finite.

@@ -11,7 +11,13 @@
 #include "forms/main/frmTitle.h"
 #include "forms/main/messages.h"
 #include "forms/results/frmAnalysis.h"
+#include "forms/results/frmBMData.h"
+#include "forms/results/frmContinuousS.h"
+#include "forms/results/frmContinuousTB.h"
+#include "forms/results/frmMoment1.h"
 #include "forms/results/frmOptions.h"
+#include "forms/results/frmSData.h"
+#include "forms/results/frmShear1.h"
 #include "toolkit/outside.h"
 
 namespace trabeon {
@@ -44,6 +50,12 @@ void frmTrabeon::registerForms() {
     forms_.Register<frmDiagram>(context_);
     forms_.Register<frmAnalysis>(context_);
     forms_.Register<frmOptions>(context_);
+    forms_.Register<frmMoment1>(context_);
+    forms_.Register<frmShear1>(context_);
+    forms_.Register<frmContinuousTB>(context_);
+    forms_.Register<frmContinuousS>(context_);
+    forms_.Register<frmBMData>(context_);
+    forms_.Register<frmSData>(context_);
 }
 
 bool frmTrabeon::Start() {

@@ -51,7 +51,7 @@ frmOptions::frmOptions(Context& context) : Form("Plotting Options"), context_(co
 
 AnalysisSettings frmOptions::Settings() const {
     constexpr double none = std::numeric_limits<double>::quiet_NaN();
-    return {leadingNumber(txtDivision.Text()), wholeNumberText(txtPlaces.Text()).value_or(none)};
+    return {leadingNumber(txtDivision.Text()), numberOfWholeText(txtPlaces.Text()).value_or(none)};
 }
 
 void frmOptions::Form_Load() {
@@ -91,6 +91,14 @@ void frmOptions::cmdOptionsOK_Click() {
 
 void frmOptions::show(WebBrowser& picture, const char* file) {
     picture.Navigate((context_.folder / file).string());
+}
+
+frmOptions& optionsInTheBackground(Context& context) {
+    const bool wasLoaded = context.forms.IsLoaded(frmOptions::Name);
+    auto& options = context.forms.Get<frmOptions>();
+    if (!wasLoaded)
+        options.Hide();
+    return options;
 }
 
 void DisablePlot(Context& context) {

@@ -52,6 +52,10 @@ class frmOptions : public Form {
     Context& context_;
 };
 
+/// The options for whoever reads them at work: they are loaded if they are not, which must not
+/// bring their window up.
+[[nodiscard]] frmOptions& optionsInTheBackground(Context& context);
+
 /// Withdraws all results after a change of an option: the two diagram menus go off, and the forms
 /// that show results are unloaded. The result files stay.
 void DisablePlot(Context& context);

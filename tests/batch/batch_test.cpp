@@ -94,9 +94,8 @@ TEST(Analyse, RulesAndRefusalsGoToStandardErrorAndChangeNoFile) {
            "Joint 2: its type is \"Hinge\". It must be Cantilever, Pin Jointed, Continuous or "
            "Fixed.\n");
     refuse("Joint.txt", "1,Fixed,a\r\n2,pinned,b\r\n3,Fixed,c\r\n", {},
-           "You can't have a Fix Joint, Cantilever Joint or Pin Joint in a continuous position of "
-           "the beam. (Joint "
-           "types are spelled Cantilever, Pin Jointed, Continuous and Fixed.)\n");
+           "Joint 2, whose type \"pinned\" was taken for Pin Jointed: You can't have a Fix Joint, "
+           "Cantilever Joint or Pin Joint in a continuous position of the beam.\n");
     refuse("Member.txt", "1,200,2,6,a\r\n2,200,2,0.0,b\r\n", {},
            "Member 2: L is \"0.0\". It must be a number above 0; mend the member's row.\n");
     refuse("Member.txt", "1,,2,6,a\r\n2,200,2,6,b\r\n", {},
@@ -111,7 +110,7 @@ TEST(Analyse, RulesAndRefusalsGoToStandardErrorAndChangeNoFile) {
            "Row 1 of the point loads, on member 1: a or P is too large a number. Enter a smaller "
            "one.\n");
     refuse("Point.txt", "2,3,1E308,a\r\n2,3,1E308,b\r\n2,3,1E308,c\r\n", {},
-           "Member 2: its loads are too large to be calculated. Use other units.\n");
+           "Member 2: its moments or shears are too large to be calculated. Use other units.\n");
     const auto* divisions =
         "The number of sections of a span must be a whole number from 1 to 10,000.\n";
     for (const auto* wrong : {"0", "-1", "10.5", "10001", "1E999"})
@@ -201,6 +200,28 @@ TEST(Run, ShowsTheProjectsTablesAndLeavesItsFiles) {
         EXPECT_NE(long_.out.find(text), std::string::npos) << text << '\n' << long_.out;
 }
 
+TEST(Run, LongBeamShowsItsMomentsAndSaysWhereItsTableIs) {
+    const TemporaryFolder folder;
+    writeBeam(folder, 21);
+    const auto project = (folder / "long.TB").string();
+    ASSERT_EQ(batch({"pack", folder.path().string(), project}).exit, 0);
+    const auto answer = batch({"run", project});
+    const auto table = (folder / "long/TB.txt").string();
+    // Many equal spans: wL²/12 = 36 at the supports in the middle.
+    for (const auto& text : {"The balance table of the 21 members stands in \"" + table + "\".",
+                             std::string("\n11               -36         -36"),
+                             std::string("Reactions add up to 1512, loads to 1512: they agree.")})
+        EXPECT_NE(answer.out.find(text), std::string::npos) << text << answer.out;
+}
+
+TEST(Run, RefusedSettingsLeaveTheFolderAsItWas) {
+    const TemporaryFolder folder;
+    const auto answer = batch({"run", EXAMPLES "/two-span-floor-beam.TB", "--out",
+                               (folder / "a/b").string(), "--places", "99"});
+    EXPECT_EQ(answer.exit, 1);
+    EXPECT_FALSE(fs::exists(folder / "a"));
+}
+
 TEST(Run, RefusedProjectLeavesNoFolder) {
     const TemporaryFolder folder;
     folder.write("broken.TB", "not a project\r\n");
@@ -231,8 +252,10 @@ TEST(CommandLine, WrongUsageIsOneLineAndExitCodeTwo) {
         {{}, "trabeon-batch: A command is missing. See trabeon-batch --help.\n"},
         {{"draw"}, "trabeon-batch: There is no command \"draw\". See trabeon-batch --help.\n"},
         {{"analyse"},
-         "trabeon-batch: Usage: trabeon-batch analyse DIR [--divisions N] [--places N]\n"},
-        {{"unpack", "a", "b", "c"}, "trabeon-batch: Usage: trabeon-batch unpack FILE.TB DIR\n"},
+         "trabeon-batch: \"analyse\" takes DIR, not 0 names. Usage: trabeon-batch analyse DIR [--divisions N] [--places N]\n"},
+        {{"unpack", "a", "b", "c"},
+         "trabeon-batch: \"unpack\" takes FILE.TB DIR, not 3 names. Usage: trabeon-batch unpack "
+         "FILE.TB DIR\n"},
         {{"unpack", "a", "b", "--out", "c"},
          "trabeon-batch: \"unpack\" has no option --out. Usage: trabeon-batch unpack FILE.TB "
          "DIR\n"},

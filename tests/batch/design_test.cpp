@@ -96,7 +96,7 @@ TEST(DesignCommand, WrongUsage) {
         "Usage: trabeon-batch design DIR [--divisions N] [--cover MM] [--link MM] "
         "[--aggregate MM] [--no-restrict]\n";
     const std::pair<std::vector<std::string>, std::string> rows[] = {
-        {{"design"}, usage},
+        {{"design"}, "\"design\" takes DIR, not 0 names. " + usage},
         {{"design", ".", "--no-restrict=1"}, "--no-restrict takes no value. " + usage},
         {{"design", ".", "--cover", "-5"}, "--cover takes a size of 0 mm or more.\n"},
         {{"design", ".", "--link", "thick"}, "--link takes a number, not \"thick\".\n"},

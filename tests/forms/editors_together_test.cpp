@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <QLineEdit>
+#include <ctime>
 
 #include "core/analysis/result_files.h"
 #include "forms/input/frmDiagram.h"
@@ -178,6 +179,46 @@ TEST_F(EditorsTogether, AnAnalysisLoadsTheListsAndARefusedOneTouchesNothing) {
     EXPECT_EQ(Shown(forms().Get<frmUDL>().ListView1, 6), (Texts{"Zero Load"}));
     EXPECT_TRUE(analysis.cmdAnalyse.HasFocus());
     EXPECT_EQ(context().dataChanged, 0);
+}
+
+/// Milliseconds of this process, whatever else the machine does.
+template <class Work>
+double Cost(Work work) {
+    const auto begin = std::clock();
+    work();
+    return 1000.0 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
+}
+
+TEST_F(EditorsTogether, AnAnalysisOfAHundredSpansIsNotHeldUpByTheLists) {
+    std::string jointRows = "1,Fixed,a\r\n", memberRows, pointRows, udlRows;
+    for (int i = 1; i <= 100; ++i) {
+        const auto number = std::to_string(i);
+        jointRows += std::to_string(i + 1) + (i < 100 ? ",Continuous,a\r\n" : ",Fixed,a\r\n");
+        memberRows += number + ",200,2,6,a\r\n";
+        for (int k = 1; k <= 5; ++k) {
+            pointRows += number + "," + std::to_string(k) + ",20,hoist\r\n";
+            udlRows += number + "," + std::to_string(k) + ",1,12,6,snow\r\n";
+        }
+    }
+    const TemporaryFolder other;
+    for (const auto* place : {&other, &std::as_const(folder)}) {
+        place->write("Joint.txt", jointRows);
+        place->write("Member.txt", memberRows);
+        place->write("Point.txt", pointRows);
+        place->write("Udl.txt", udlRows);
+    }
+    const auto run = [&] {
+        ASSERT_TRUE(analyseFolder(other.path(), {10, 3}, {[](const Message&) {}}));
+    };
+    run();
+    const double plain = Cost(run);
+    Open<frmAnalysis>(analyse);
+    const double first = Cost([] { Keys(" "); });
+    const double again = Cost([] { Keys(" "); });
+    std::printf("100 spans: without windows %.1f ms, first %.1f ms, again %.1f ms\n", plain, first,
+                again);
+    EXPECT_EQ(forms().Get<frmPoint>().ListView1.ListItems.Count(), 500);
+    EXPECT_LT(again, 2 * plain + 20);
 }
 
 }  // namespace

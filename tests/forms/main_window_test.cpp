@@ -222,8 +222,7 @@ TEST_F(MainWindow, CancelledOrRefusedOpenLeavesTheProjectAsItWas) {
     outside.ExpectOpen(openDialog, (folder / "bad.TB").string());
     outside.ExpectMsgBox("\"" + (folder / "bad.TB").string() +
                          "\" is not a whole project file: line 4: the file ends where the designer "
-                         "was expected. Mend "
-                         "that line; the open project is unchanged.");
+                         "was expected. Mend that line; nothing was changed.");
     Choose("&File|&Open");
     EXPECT_EQ(folder.contents(), before);
     EXPECT_EQ(caption(), name);

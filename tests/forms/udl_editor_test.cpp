@@ -133,7 +133,10 @@ TEST_F(UdlEditor, SignsThatDifferAreRefusedWithTheMessage) {
     EXPECT_EQ(File(), "");
     EXPECT_EQ(udl.txtUDLw1.Text(), "-5");
     EXPECT_FALSE(udl.picUDL.Drawn().empty());
-    udl.txtUDLw2.SetText("-5");
+    Fill(udl, "1", "2", "5", "-5");
+    outside.ExpectMsgBox("w1 and w2 should be of same sign. (+w1 +w2 or -w1 -w2 only)");
+    Click(udl.cmdAdd);
+    Fill(udl, "1", "2", "-5", "-5");
     Click(udl.cmdAdd);
     EXPECT_EQ(File(), " 1,1,2,-5,-5,\"None\"\r\n");
     EXPECT_TRUE(udl.picUDL.Drawn().empty());

@@ -226,7 +226,7 @@ def fixed_end_moments_of_udl(load, length):
 def fixed_end_moments(beam):
     """By member end; index 0 is unused. Clockwise is positive."""
     n = len(beam.lengths)
-    fem = [0.0] * (2 * n + 2)
+    terms = [[0.0] for _ in range(2 * n + 2)]
     for m in range(1, n + 1):
         L = beam.lengths[m - 1]
         free_left = m == 1 and beam.joints[0] == "can"
@@ -236,13 +236,13 @@ def fixed_end_moments(beam):
             small, third = (w1, 2 * b / 3) if w1 <= w2 else (w2, b / 3)
             triangle = abs(w2 - w1) * b / 2
             if free_left:
-                fem[2 * m] += small * b * (L - a - b / 2) + triangle * (L - a - third)
+                terms[2 * m].append(small * b * (L - a - b / 2) + triangle * (L - a - third))
             elif free_right:
-                fem[2 * m - 1] -= small * b * (a + b / 2) + triangle * (a + third)
+                terms[2 * m - 1].append(-(small * b * (a + b / 2) + triangle * (a + third)))
             else:
                 left, right = fixed_end_moments_of_udl(load, L)
-                fem[2 * m - 1] -= left
-                fem[2 * m] += right
+                terms[2 * m - 1].append(-left)
+                terms[2 * m].append(right)
     for m in range(1, n + 1):
         L = beam.lengths[m - 1]
         free_left = m == 1 and beam.joints[0] == "can"
@@ -250,13 +250,13 @@ def fixed_end_moments(beam):
         for a, P in beam.points[m - 1]:
             c = L - a
             if free_left:
-                fem[2 * m] += P * (L - a)
+                terms[2 * m].append(P * (L - a))
             elif free_right:
-                fem[2 * m - 1] -= P * a
+                terms[2 * m - 1].append(-(P * a))
             else:
-                fem[2 * m - 1] -= P * a * c * c / (L * L)
-                fem[2 * m] += P * a * a * c / (L * L)
-    return fem
+                terms[2 * m - 1].append(-(P * a * c * c / (L * L)))
+                terms[2 * m].append(P * a * a * c / (L * L))
+    return [total(sum(end), end) for end in terms]
 
 
 def distribution_factors(beam):
@@ -297,7 +297,7 @@ def relax(beam):
     def balance(row, first_factor, last_factor):
         new = [0.0] * (end_count + 2)
         for i in range(1, n):
-            unbalance = row[2 * i] + row[2 * i + 1]
+            unbalance = total(row[2 * i] + row[2 * i + 1], (row[2 * i], row[2 * i + 1]))
             new[2 * i] = -unbalance * right[i]
             new[2 * i + 1] = -unbalance * left[i + 1]
         new[1] = -row[1] * first_factor

@@ -2,6 +2,7 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QListWidget>
+#include <QProgressBar>
 
 #include "tests/toolkit/controls_fixture.h"
 #include "toolkit/button.h"
@@ -33,6 +34,19 @@ TEST_F(ControlsTest, ButtonClicksByMouseSpaceEnterAndCodeWhileEnabled) {
     QTest::keyClick(button.Widget(), Qt::Key_Return);
     button.Press();
     EXPECT_EQ(clicks, 4);
+}
+
+TEST_F(ControlsTest, AButtonTooNarrowForALetterShowsNoCaption) {
+    Button one(Bench(), "Wide"), other(Bench(), "&Other");
+    const auto faces = [&](int width) {
+        one.Move(0, 0, width, 255);
+        other.Move(0, 0, width, 255);
+        return std::pair(one.Widget()->grab().toImage(), other.Widget()->grab().toImage());
+    };
+    const auto narrow = faces(75);
+    EXPECT_EQ(narrow.first, narrow.second);
+    const auto wide = faces(1215);
+    EXPECT_NE(wide.first, wide.second);
 }
 
 TEST_F(ControlsTest, AButtonIsWideEnoughForItsCaption) {
@@ -156,6 +170,39 @@ TEST_F(ControlsTest, ProgressBarShowsItsValueWhileAHandlerRuns) {
     bar.SetValue(100.00001);
     EXPECT_EQ(bar.Value(), 100);
     EXPECT_EQ(counter.paints, 2);
+}
+
+TEST_F(ControlsTest, ProgressBarKeepsTheScreensPace) {
+    ProgressBar bar(Bench());
+    Settle();
+    const PaintCounter counter(bar);
+    bar.SetValue(10);
+    for (int i = 0; i < 800; ++i)
+        bar.SetValue(10 + i * 0.1);
+    EXPECT_LE(counter.paints, 3);
+    EXPECT_NEAR(bar.Value(), 89.9, 1e-9);
+    const auto shown = [&] { return static_cast<QProgressBar*>(bar.Widget())->value(); };
+    Settle();
+    EXPECT_EQ(shown(), 899);  // of a thousand
+    bar.SetValue(0);
+    EXPECT_EQ(shown(), 0);
+}
+
+TEST_F(ControlsTest, AListBoxTooNarrowShowsTheEndsOfItsEntries) {
+    ListBox list(Bench());
+    list.Move(0, 0, 900, 1500);
+    list.AddItem("Member  998");
+    list.AddItem("Another  998");
+    list.AddItem("Member  999");
+    Settle();
+    auto* widget = static_cast<QListWidget*>(list.Widget());
+    const auto picture = [&](int row) {
+        const QRect all = widget->visualItemRect(widget->item(row));
+        return widget->viewport()->grab(QRect(all.center(), all.bottomRight())).toImage();
+    };
+    EXPECT_EQ(widget->visualItemRect(widget->item(0)).width(), widget->viewport()->width());
+    EXPECT_EQ(picture(0), picture(1));
+    EXPECT_NE(picture(0), picture(2));
 }
 
 TEST_F(ControlsTest, ALabelsAccessKeyLeadsToItsBuddyAndNamesIt) {

@@ -105,6 +105,8 @@ TEST_F(FormsTest, TheFirstTouchLoadsAndBringsUp) {
     frmFirst& first = forms.Get<frmFirst>();
     EXPECT_TRUE(first.Visible());
     EXPECT_EQ(&forms.Get<frmFirst>(), &first);
+    EXPECT_EQ(forms.PlaceOf("frmFirst"), &first);
+    EXPECT_EQ(forms.PlaceOf("frmSecond"), nullptr);
     forms.Show("frmFirst");
     EXPECT_EQ(run.log, Log{"first loads"});
 }

@@ -88,6 +88,37 @@ TEST_F(DrawTest, TheSameCountKeepsThePointsAndAnotherPlotBeginsAnew) {
     EXPECT_EQ(graph().LeastLabel(), "4 at 0");
 }
 
+TEST_F(DrawTest, WhatShowsCanBeReadBack) {
+    Plot({{0, 5}, {1, 9}, {2, 1}});
+    ASSERT_EQ(graph().Points().size(), 3u);
+    EXPECT_EQ(graph().Points()[1].x, 1);
+    EXPECT_EQ(graph().Points()[1].y, 9);
+    graph().SetPointIndex(1);
+    EXPECT_TRUE(graph().Points().empty());
+    graph().SetValueFactor(-1);
+    graph().SetNote("Sagging");
+    graph().SetMarks({{6, "2"}});
+    EXPECT_EQ(graph().ValueFactor(), -1);
+    EXPECT_EQ(graph().Note(), "Sagging");
+    ASSERT_EQ(graph().Marks().size(), 1u);
+    EXPECT_EQ(graph().Marks()[0].label, "2");
+}
+
+TEST_F(DrawTest, ACountBeyondWhatEverComesTakesNoRoom) {
+    Feed(1, 2'000'000'000, 0, 4);
+    Feed(2, 2'000'000'000, 3, 6);
+    EXPECT_EQ(graph().PointCount(), 2'000'000'000);
+    EXPECT_EQ(graph().Points().size(), 2u);
+    graph().SetPointCount(1);
+    EXPECT_EQ(graph().Points().size(), 1u);
+}
+
+TEST_F(DrawTest, PointsThatRunBackAreDrawnAllTheSame) {
+    Plot({{6, 1}, {3, 10}, {0, 0}});
+    EXPECT_GT(CurvePixels(graph().Picture()), 500);
+    EXPECT_EQ(graph().GreatestLabel(), "10 at 3");
+}
+
 TEST_F(DrawTest, AutoAdvanceMovesToTheNextPoint) {
     graph().SetPointCount(2);
     graph().SetPointIndex(1);
@@ -123,6 +154,45 @@ TEST_F(DrawTest, AFeedWithARedrawAfterEachPointCostsMilliseconds) {
     feed(100);
     EXPECT_LT(feed(12000), 500);  // milliseconds as a rule; a redraw for each takes 13 seconds
     EXPECT_LT(feed(24000), 1000);
+}
+
+TEST_F(DrawTest, ManyJointsAndPointsToAPixelArePaintedInMilliseconds) {
+    std::vector<GraphMark> joints;
+    for (int k = 0; k <= 1000; ++k)
+        joints.push_back({12.0 * k, std::to_string(k + 1)});
+    graph().SetMarks(joints);
+    for (int i = 1; i <= 12000; ++i)
+        Feed(i, 12000, i, i % 12);
+    QElapsedTimer timer;
+    timer.start();
+    Settle();
+    EXPECT_LT(timer.elapsed(), 100);  // a line for each joint and a fill take half a second
+}
+
+TEST_F(DrawTest, ALongHandlerLeavesOneRedrawBehind) {
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < 200)
+        Plot({{0, 0}, {3, 10}, {6, 0}});
+    const PaintCounter counter(graph());
+    Settle();
+    EXPECT_LE(counter.paints, 2);
+}
+
+TEST_F(DrawTest, NoteAndTitleShareALineInASmallChart) {
+    const auto noteShows = [&](int width, int height) {
+        graph().SetNote("");
+        graph().Move(0, 0, width, height);
+        Settle();
+        const QImage without = graph().Widget()->grab().toImage();
+        graph().SetNote("Upward reactions step up");
+        Settle();
+        return graph().Widget()->grab().toImage() != without;
+    };
+    EXPECT_TRUE(noteShows(4500, 3000));
+    EXPECT_TRUE(noteShows(4180, 1580));
+    EXPECT_FALSE(noteShows(2500, 1580));  // too short a line
+    EXPECT_FALSE(noteShows(4180, 900));
 }
 
 TEST_F(DrawTest, TheCurveGrowsWhileAHandlerRunsAtTheScreensPace) {

@@ -2,6 +2,8 @@
 #include "toolkit/list_view.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
+#include <QToolTip>
 #include <QTreeWidget>
 
 #include "tests/support/gui_fixture.h"
@@ -175,6 +177,22 @@ TEST_F(ListViewTest, AnArrowKeyChoosesARowAndCountsAsAClick) {
     EXPECT_EQ(form().log, "c");
 }
 
+TEST_F(ListViewTest, ATextThatIsCutShowsWholeUnderThePointer) {
+    Add("short", std::string(200, 'x'));
+    Settle();
+    const auto hover = [this](int column) {
+        QToolTip::hideText();
+        const QModelIndex index = tree().model()->index(0, column);
+        const QPoint at = tree().visualRect(index).center();
+        QHelpEvent event(QEvent::ToolTip, at, tree().viewport()->mapToGlobal(at));
+        QApplication::sendEvent(tree().viewport(), &event);
+        return QToolTip::text();
+    };
+    EXPECT_EQ(hover(0), "");
+    EXPECT_TRUE(hover(1).contains(QString(200, 'x')));
+    QToolTip::hideText();
+}
+
 TEST_F(ListViewTest, CtrlCCopiesTheSelectedRows) {
     AddThree();
     list().SetMultiSelect(true);
@@ -182,6 +200,13 @@ TEST_F(ListViewTest, CtrlCCopiesTheSelectedRows) {
     QTest::keyClick(list().Widget(), Qt::Key_Down, Qt::ShiftModifier);
     QTest::keyClick(list().Widget(), Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(outside.clipboardText, "Member  10\t10\nMember  1\tb\n");
+}
+
+TEST_F(ListViewTest, BlanksAroundANumberStayOutOfTheCopy) {
+    Add(" 0.6", "1.40E+01 ");
+    list().SetSelectedItem(list().ListItems(1));
+    QTest::keyClick(list().Widget(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(outside.clipboardText, "0.6\t1.40E+01\n");
 }
 
 }  // namespace

@@ -172,6 +172,35 @@ TEST(Beams, SettleWhenTheLastBalanceIsAHundredthOrLess) {
     EXPECT_EQ(analysed(balanced).progress, (std::vector<double>{0, 50, 75, 100}));
 }
 
+TEST(Beams, LoadCutInTwoIsTheSameLoad) {
+    const auto whole = [](BeamBuilder beam) { return beam.udl(1, 0.7, 4.2, 8, 22); };
+    const auto cut = [](BeamBuilder beam) {
+        return beam.udl(1, 0.7, 1.8, 8, 14).udl(1, 2.5, 2.4, 14, 22);  // 8 + 14 × 1.8 / 4.2 = 14
+    };
+    for (const auto& beam : {BeamBuilder(fixed).member(6, continuous).member(4, pin),
+                             BeamBuilder(cantilever).member(6, continuous).member(4, fixed)}) {
+        const auto one = analysed(whole(beam)), two = analysed(cut(beam));
+        for (std::size_t k = 1; k <= 4; ++k)
+            EXPECT_NEAR(one->Final[k], two->Final[k], 1e-9 * 60) << k;
+        for (std::size_t k = 0; k < one->stations.size(); ++k)
+            EXPECT_NEAR(one->stations[k].forces.moment, two->stations[k].forces.moment, 1e-9 * 60);
+    }
+}
+
+TEST(Beams, EqualSpansAndLoadsBalanceAtOnce) {
+    // L = 1.6 and w = 25.4 leave a last bit between the two fixed-end moments at the middle joint.
+    const auto told = analysed(BeamBuilder(fixed)
+                                   .member(1.6, continuous)
+                                   .member(1.6, fixed)
+                                   .udl(1, 0, 1.6, 25.4, 25.4)
+                                   .udl(2, 0, 1.6, 25.4, 25.4)
+                                   .point(1, 0.7, 13.1)
+                                   .point(2, 0.9, 13.1));
+    EXPECT_EQ(told.table.size(), 7u);
+    for (std::size_t row = 3; row < 6; ++row)
+        EXPECT_EQ(told.table[row].cells, std::vector<double>(4, 0)) << told.table[row].label;
+}
+
 TEST(Beams, LoadsThatCancelLeaveNoDustInTheTable) {
     const auto told = analysed(BeamBuilder(fixed)
                                    .member(7.3, fixed)

@@ -118,6 +118,22 @@ TEST(ProjectFile, RefusedOnesNameTheLineAndChangeNothing) {
     EXPECT_FALSE(unpackProject(folder / "none.TB", work.path()));
 }
 
+TEST(ProjectFile, WhatCouldNotBeOpenedAgainIsNotSaved) {
+    const TemporaryFolder work, folder;
+    CreateNFile(work.path());
+    folder.write("a.TB", "old");
+    work.write("BeamDim.txt", "1,1,300\r\n");
+    const auto failure = packProject(work.path(), {}, folder / "a.TB");
+    ASSERT_TRUE(failure);
+    EXPECT_NE(failure->sentence.find("a row of beam dimensions was expected"), std::string::npos)
+        << failure->sentence;
+    work.write("BeamDim.txt", "");
+    std::filesystem::remove(work / "Joint.txt");
+    std::filesystem::create_directory(work / "Joint.txt");
+    EXPECT_TRUE(packProject(work.path(), {}, folder / "a.TB"));
+    EXPECT_EQ(folder.read("a.TB"), "old");
+}
+
 TEST(ProjectFile, FailedSaveLeavesTheOldFile) {
     const TemporaryFolder work, folder;
     folder.write("a.TB", "old");

@@ -137,5 +137,42 @@ TEST(FileSet, ReplacesNoFileIfOneOfThemFails) {
     EXPECT_EQ(folder.contents(), (std::map<std::string, std::string>{{"BM.txt", "old"}}));
 }
 
+TEST(FileSet, ATargetThatCannotBeReplacedIsFoundBeforeAnyOther) {
+    const TemporaryFolder folder;
+    folder.write("BM.txt", "old");
+    std::filesystem::create_directory(folder / "TB.txt");
+    {
+        FileSet files(folder.path());
+        files.add("BM.txt").write("new");
+        files.add("TB.txt").write("new");
+        const auto failure = files.commit();
+        ASSERT_TRUE(failure);
+        EXPECT_NE(failure->sentence.find("Is a directory"), std::string::npos) << failure->sentence;
+    }
+    EXPECT_EQ(folder.contents(), (std::map<std::string, std::string>{{"BM.txt", "old"}}));
+}
+
+TEST(ReplacingFile, KeepsLinksAndPermissions) {
+    namespace fs = std::filesystem;
+    const TemporaryFolder folder;
+    folder.write("real.TB", "old");
+    fs::permissions(folder / "real.TB", fs::perms::owner_read | fs::perms::owner_write);
+    fs::create_symlink(folder / "real.TB", folder / "link.TB");
+    ASSERT_FALSE(replaceFile(folder / "link.TB", "new"));
+    EXPECT_TRUE(fs::is_symlink(folder / "link.TB"));
+    EXPECT_EQ(folder.read("real.TB"), "new");
+    EXPECT_EQ(fs::status(folder / "real.TB").permissions(),
+              fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST(RowEditing, AFileThatCannotBeReadKeepsItsRows) {
+    const TemporaryFolder folder;
+    std::filesystem::create_directory(folder / "Joint.txt");  // stands for whatever is no file
+    const auto failure = addRow<JointRow>(folder.path(), 0, {" 1", "Fixed", "None"});
+    ASSERT_TRUE(failure);
+    EXPECT_NE(failure->sentence.find("Joint.txt\" cannot be read"), std::string::npos);
+    EXPECT_EQ(folder.contents().size(), 0u);
+}
+
 }  // namespace
 }  // namespace trabeon

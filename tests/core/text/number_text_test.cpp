@@ -42,10 +42,10 @@ TEST(LeadingNumber, TooLargeForADoubleReadsAsInfinity) {
     EXPECT_EQ(leadingNumber("0." + std::string(400, '0') + "1E800"), infinity);
 }
 
-TEST(WholeNumberText, IsANumberFromEndToEnd) {
-    EXPECT_EQ(wholeNumberText(" 3.5 "), 3.5);
+TEST(NumberOfWholeText, IsANumberFromEndToEnd) {
+    EXPECT_EQ(numberOfWholeText(" 3.5 "), 3.5);
     for (const auto* text : {"", " ", "3x", "1.2.3", "three"})
-        EXPECT_FALSE(wholeNumberText(text)) << text;
+        EXPECT_FALSE(numberOfWholeText(text)) << text;
 }
 
 TEST(GeneratedText, HasAtMostFifteenDigitsAndABlankForASign) {

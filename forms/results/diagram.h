@@ -1,0 +1,58 @@
+// What the four diagram forms have in common: a chart with the sign of its option, the buttons Plot
+// and Add To Report, and the members to choose from.
+#pragma once
+
+#include "core/analysis/diagram_curve.h"
+#include "forms/results/frmOptions.h"
+#include "toolkit/graph.h"
+
+namespace trabeon {
+
+/// What makes a moment diagram differ from a shear diagram.
+struct DiagramKind {
+    const char* title;
+    const char* value;  // title of the value axis
+    StationField field;
+    Label frmOptions::*option;  // its caption tells which way up to draw
+    const char* sideA;          // the same in plain words
+    const char* sideB;
+};
+
+extern const DiagramKind momentDiagram;
+extern const DiagramKind shearDiagram;
+
+class Diagram : public Form {
+  public:
+    Button cmdPlot{*this, "&Plot"};
+    Button cmdReport;
+
+  protected:
+    Diagram(Context& context, const char* caption, const DiagramKind& kind, const char* xTitle,
+            const char* reportCaption);
+
+    virtual void cmdPlot_Click() = 0;
+
+    /// "Member", `blanks` and the number, for each member of the beam.
+    [[nodiscard]] std::vector<std::string> memberItems(const char* blanks) const;
+    [[nodiscard]] std::string stations() const;
+    [[nodiscard]] std::size_t rowsPerMember() const;
+
+    /// Gives the chart the curve point by point, of which `count` were asked for, and calls
+    /// `pointDone` with the points so far.
+    void draw(const DiagramCurve& curve, std::size_t count,
+              const std::function<void(std::size_t)>& pointDone = {});
+
+    [[nodiscard]] const DiagramKind& kind() const { return kind_; }
+    [[nodiscard]] Context& context() const { return context_; }
+
+    Graph chart;
+
+  private:
+    void cmdReport_Click();
+    [[nodiscard]] std::vector<GraphMark> marksOf(const DiagramCurve& curve) const;
+
+    Context& context_;
+    const DiagramKind& kind_;
+};
+
+}  // namespace trabeon

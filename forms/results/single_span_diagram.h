@@ -1,0 +1,34 @@
+// The diagram of one member, with its value table beside it.
+#pragma once
+
+#include <optional>
+#include <utility>
+
+#include "forms/results/diagram.h"
+#include "toolkit/combo_box.h"
+
+namespace trabeon {
+
+class SingleSpanDiagram : public Diagram {
+  public:
+    ComboBox cboMember{*this};
+
+    /// Left and top of the value table that the present plot took away.
+    [[nodiscard]] std::optional<std::pair<int, int>> tablePlace() const { return tablePlace_; }
+
+  protected:
+    SingleSpanDiagram(Context& context, const char* caption, const DiagramKind& kind,
+                      const char* valueTable);
+
+    void Form_Load() override;
+    void Form_Resize() override;
+    void cmdPlot_Click() override;
+
+  private:
+    void openValueTable();
+
+    const char* valueTable_;
+    std::optional<std::pair<int, int>> tablePlace_;
+};
+
+}  // namespace trabeon

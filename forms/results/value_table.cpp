@@ -1,0 +1,51 @@
+#include "forms/results/value_table.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/store/working_files.h"
+#include "core/text/number_text.h"
+
+namespace trabeon {
+namespace {
+
+/// In plain decimals, but for a number that has none.
+std::string distanceText(std::string_view text) {
+    const double x = leadingNumber(text);
+    return std::isfinite(x) ? generatedText(x) : std::string(text);
+}
+
+}  // namespace
+
+ValueTable::ValueTable(Context& context, const char* caption, const char* heading,
+                       StationField field)
+    : Form(caption),
+      ListView1(*this, {{"X", 1235}, {heading, 2540}}),
+      context_(context),
+      field_(field) {
+    ListView1.SetFont("Times New Roman", 8.25, true);
+    ListView1.SetMultiSelect(true);
+    ListView1.SetAccessibleName(caption);
+}
+
+void ValueTable::Form_Load() {
+    SetHeight(4000);
+    SetWidth(3600);
+    if (const auto place = diagram().tablePlace()) {
+        SetLeft(place->first);
+        SetTop(place->second);
+    }
+    const auto rows = stationRowsOf(optionsInTheBackground(context_).Settings().Divisions);
+    ListView1.ListItems.Clear();
+    const auto text = readWhole(context_.folder / working_file::stations);
+    const auto member = static_cast<std::size_t>(std::max(1, diagram().cboMember.ListIndex() + 1));
+    for (const auto& row : stationRows(text, rows, member))
+        ListView1.ListItems.Add(distanceText(row.x)).SetSubItems(1, std::string(row.*field_));
+    ListView1.SetGridLines(true);
+}
+
+void ValueTable::Form_Resize() {
+    ListView1.Move(0, 0, ScaleWidth(), ScaleHeight() - 500);
+}
+
+}  // namespace trabeon

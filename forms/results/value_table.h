@@ -1,0 +1,29 @@
+// The stations of the member chosen on a diagram form, as text.
+#pragma once
+
+#include "core/store/station_reader.h"
+#include "forms/results/single_span_diagram.h"
+#include "toolkit/list_view.h"
+
+namespace trabeon {
+
+class ValueTable : public Form {
+  public:
+    ListView ListView1;
+
+  protected:
+    ValueTable(Context& context, const char* caption, const char* heading, StationField field);
+
+    void Form_Load() override;
+    void Form_Resize() override;
+
+    /// The form whose member is listed.
+    [[nodiscard]] virtual SingleSpanDiagram& diagram() const = 0;
+    [[nodiscard]] Context& context() const { return context_; }
+
+  private:
+    Context& context_;
+    StationField field_;
+};
+
+}  // namespace trabeon
