@@ -1,5 +1,6 @@
 // trabeon: the program with its window.
 #include "forms/main/frmTrabeon.h"
+#include "report/output/frmPrintOptions.h"
 #include "toolkit/application.h"
 #include "toolkit/desktop.h"
 
@@ -10,5 +11,6 @@ int main(int argc, char** argv) {
     const auto folder = Application::Folder();
     Application::SetIcon((std::filesystem::path(folder) / "trabeon.png").string());
     frmTrabeon program(folder);
+    program.context().forms.Register<frmPrintOptions>(program.context());
     return program.Start() ? application.Run() : 0;
 }
