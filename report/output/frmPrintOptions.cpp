@@ -36,7 +36,7 @@ frmPrintOptions::frmPrintOptions(Context& context)
     for (auto* box : {&chkJoint, &chkMember, &chkLoad, &chkTB, &chkBMSV, &chkBMSDBY, &chkCBMS,
                       &chkBeamDim, &chkDesign}) {
         box->Move(180, top, width - 360, 285);
-        top += 315;
+        top += 345;
     }
     Frame1.Move(180, top + 135, 1740, 1155);
     Frame1.SetAccessibleName("Pages of the Trabeon results");
@@ -54,7 +54,7 @@ frmPrintOptions::frmPrintOptions(Context& context)
 }
 
 void frmPrintOptions::Form_Load() {
-    SetScaleSize(width, ScaleHeight());
+    SetWidth(width + 120);  // and the border
     SetHeight(5200);
 }
 

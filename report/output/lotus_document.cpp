@@ -104,7 +104,12 @@ void LotusDocument::Undo() {
     rowAdded_ = false;
 }
 
+/// Beside the picture before it if tabs lead there, else below.
 void LotusDocument::Paste() {
+    if (tabsBehindPicture_ == 0 && !builder_.current().pictures.empty()) {
+        builder_.endParagraph();
+        linesBesidePicture_ = 0;
+    }
     if (builder_.paste(tabsBehindPicture_ * tabStop)) {
         const double line = builder_.style.points * lineSpacing;
         const int lines =

@@ -49,7 +49,7 @@ class Columns {
     Columns(const std::vector<ColumnNeed>& needs, double points, double pageWidth)
         : pageWidth_(pageWidth) {
         for (const auto& need : needs) {
-            const double margins = 2 * cellMargin;
+            const double margins = 2 * cellMargin + cellSlack;
             least.push_back(std::min(need.word * points, pageWidth / 2 - margins) + margins);
             wanted.push_back(std::max(need.line * points + margins, least.back()));
         }

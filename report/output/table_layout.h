@@ -9,7 +9,9 @@
 namespace trabeon {
 
 /// Room at either side of a cell's text, in points.
-inline constexpr double cellMargin = 2.9;
+inline constexpr double cellMargin = 2.5;
+/// What a word processor may need beyond a word's own width: its rounding, and the border.
+inline constexpr double cellSlack = 2;
 inline constexpr double smallestType = 7;
 
 struct TableStrip {

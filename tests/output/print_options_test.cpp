@@ -55,7 +55,7 @@ TEST_F(PrintOptions, PrintsThePagesAsAFile) {
     Click(form.cmdPrint);
     EXPECT_EQ(Count(TemporaryFolder::readFile(pdf), "/Type /Page\n"), 1);
 
-    Click(form.chkTB);
+    Press(form.chkTB, Qt::Key_Space);
     outside.ExpectPrinter("Untitled", pdf);
     Click(form.cmdPrint);
     const auto printed = TemporaryFolder::readFile(pdf);
@@ -78,7 +78,7 @@ TEST_F(PrintOptions, ADrawnBackPrintDoesNothingAndAFailedOneSaysSo) {
 TEST_F(PrintOptions, LotusSavesAndOpensTheWholeDocument) {
     auto& form = Open();
     AnalyseExample();
-    Click(form.chkTB);
+    Press(form.chkTB, Qt::Key_Space);
     const auto docx = (folder / "beam.docx").string();
     outside.ExpectSave("Save the Document", docx);
     outside.ExpectDocument(docx);
@@ -138,7 +138,7 @@ TEST_F(PrintOptions, APlainPressOfWordEndsWithItsMessage) {
         Answer::Cancel);
     Click(form.cmdWord);
 
-    Click(form.chkBMSV);
+    Press(form.chkBMSV, Qt::Key_Space);
     outside.ExpectSave("Save the Document", "");
     Click(form.cmdWord);
 }

@@ -4,6 +4,7 @@
 
 #include "core/analysis/result_files.h"
 #include "core/design/design.h"
+#include "core/store/replacing_file.h"
 #include "forms/main/frmTitle.h"
 #include "forms/main/frmTrabeon.h"
 #include "forms/results/frmOptions.h"
@@ -37,9 +38,7 @@ Failure designProject(const std::filesystem::path& folder, double Divisions) {
     return std::nullopt;
 }
 
-/// The main window, as large as the continuous diagrams are to be.
 void prepare(frmTrabeon& program, const ProjectTitle& title, const AnalysisSettings& settings) {
-    program.window().Move(0, 0, 15000, 10500);
     program.window().Show();
     auto& forms = program.context().forms;
     forms.Get<frmTitle>().SetTitle(title);
@@ -70,14 +69,31 @@ Failure makeReport(const ReportCommand& command, const std::filesystem::path& fo
     return writeDocument(objWord.document(), command.out);
 }
 
-int run(const ReportCommand& command) {
-    const Unattended outside;
+/// What the toolkit has to say of a machine without a display is nothing to the user.
+void keepQuiet(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtCriticalMsg || type == QtFatalMsg)
+        std::fprintf(stderr, "%s\n", text.toStdString().c_str());
+}
+
+/// A screen in memory, on which an enlarged window has the shape of the page.
+void makeScreen(const QString& file) {
+    constexpr auto screen = R"({"screens":[{"name":"report","x":0,"y":0,"width":1280,"height":800,)"
+                            R"("logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})";
+    static_cast<void>(replaceFile(file.toStdString(), screen));
+    qputenv("QT_QPA_PLATFORM", ("offscreen:configfile=" + file).toUtf8());
+}
+
+int run(const ReportCommand& command, int& argc, char** argv) {
     const QTemporaryDir folder;
     if (!folder.isValid()) {
         std::fprintf(stderr, "No temporary folder can be made (%s). Make room, then try again.\n",
                      folder.errorString().toStdString().c_str());
         return 1;
     }
+    makeScreen(folder.filePath("screen.json"));
+    qInstallMessageHandler(keepQuiet);
+    const Application application(argc, argv);
+    const Unattended outside;
     const auto failure = makeReport(command, folder.path().toStdString());
     if (failure)
         std::fprintf(stderr, "%s\n", failure->sentence.c_str());
@@ -98,8 +114,5 @@ int main(int argc, char** argv) {
         std::fputs(reportHelp().c_str(), stdout);
         return 0;
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_LOGGING_RULES", "*.debug=false;qt.qpa.*=false");
-    const Application application(argc, argv);
-    return run(*command);
+    return run(*command, argc, argv);
 }
