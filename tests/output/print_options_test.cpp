@@ -60,8 +60,8 @@ TEST_F(PrintOptions, PrintsThePagesAsAFile) {
     Click(form.cmdPrint);
     const auto printed = TemporaryFolder::readFile(pdf);
     EXPECT_EQ(Count(printed, "/Type /Page\n"), 2);
-    EXPECT_EQ(Count(printed, "/MediaBox [0 0 842 595]"), 1);
-    EXPECT_EQ(Count(printed, "/MediaBox [0 0 595 842]"), 1);
+    EXPECT_EQ(Count(printed, "/MediaBox [0 0 842.000000 595.000000]"), 1);
+    EXPECT_EQ(Count(printed, "/MediaBox [0 0 595.000000 842.000000]"), 1);
 }
 
 TEST_F(PrintOptions, ADrawnBackPrintDoesNothingAndAFailedOneSaysSo) {

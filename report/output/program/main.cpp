@@ -77,7 +77,7 @@ void keepQuiet(QtMsgType type, const QMessageLogContext&, const QString& text) {
 
 /// A screen in memory, on which an enlarged window has the shape of the page.
 void makeScreen(const QString& file) {
-    constexpr auto screen = R"({"screens":[{"name":"report","x":0,"y":0,"width":1280,"height":800,)"
+    constexpr auto screen = R"({"screens":[{"name":"report","x":0,"y":0,"width":1024,"height":640,)"
                             R"("logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})";
     static_cast<void>(replaceFile(file.toStdString(), screen));
     qputenv("QT_QPA_PLATFORM", ("offscreen:configfile=" + file).toUtf8());
