@@ -12,6 +12,7 @@ namespace {
 
 std::vector<bool> selectionOf(const ListBox& list) {
     std::vector<bool> selected;
+    selected.reserve(static_cast<std::size_t>(list.ListCount()));
     for (int i = 0; i < list.ListCount(); ++i)
         selected.push_back(list.Selected(i));
     return selected;
