@@ -1,5 +1,6 @@
 // trabeon: the program with its window.
 #include "forms/main/frmTrabeon.h"
+#include "report/output/frmPrintOptions.h"
 #include "report/registration.h"
 #include "toolkit/application.h"
 #include "toolkit/desktop.h"
@@ -12,5 +13,6 @@ int main(int argc, char** argv) {
     Application::SetIcon((std::filesystem::path(folder) / "trabeon.png").string());
     frmTrabeon program(folder);
     takeUpReport(program.context());
+    program.context().forms.Register<frmPrintOptions>(program.context());
     return program.Start() ? application.Run() : 0;
 }

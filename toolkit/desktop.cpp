@@ -69,8 +69,11 @@ Answer AnswerOf(int button) {
 // some platforms leave none active, and no focus event comes from then on.
 class Owner {
   public:
-    Owner() : window_(QApplication::activeWindow()) {}
+    Owner() : window_(QApplication::activeWindow()) {
+        QGuiApplication::setOverrideCursor(Qt::ArrowCursor);  // the program waits for the user now
+    }
     ~Owner() {
+        QGuiApplication::restoreOverrideCursor();
         if (window_)
             window_->activateWindow();
     }
@@ -133,6 +136,7 @@ std::string Desktop::AskFile(const FileQuestion& question) {
     dialog.setAcceptMode(question.saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(question.saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !question.asksBeforeOverwriting);
+    dialog.setDefaultSuffix(QString::fromStdString(question.suffix));
     if (!question.folder.empty())
         dialog.setDirectory(QString::fromStdString(question.folder));
     if (!question.fileName.empty())
@@ -169,7 +173,8 @@ std::unique_ptr<QPrinter> Desktop::OpenPrinter(const std::string& documentName) 
     printer->setDocName(QString::fromStdString(documentName));
     if (printer->outputFormat() == QPrinter::NativeFormat)
         return printer;
-    FileQuestion question{true, true, "Print to a PDF File", "PDF File (*.pdf) |*.pdf", ""};
+    FileQuestion question{true, true, "Print to a PDF File", "PDF File (*.pdf) |*.pdf", "",
+                          "",   "pdf"};
     const std::string path = AskFile(question);
     if (path.empty())
         return nullptr;

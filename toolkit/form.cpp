@@ -214,6 +214,14 @@ void Form::Maximize() {
     Widget()->showMaximized();
 }
 
+WindowState Form::State() const {
+    return StateOf(*Widget());
+}
+
+void Form::SetState(WindowState state) {
+    SetStateOf(*Widget(), state);
+}
+
 void Form::Unload() {
     if (forms_)
         forms_->Unload(*this);

@@ -47,6 +47,9 @@ class Form : public Placement, public Container {
     void Hide();
     bool Visible() const;
     void Maximize();
+    WindowState State() const;
+    // A child fills the frame's inside, or goes back to its own size.
+    void SetState(WindowState state);
     // Takes the form out of the registry at once; safe in its own handlers, which run to their end.
     void Unload();
 

@@ -48,6 +48,9 @@ class Forms {
     // Where it stands; null if it is not loaded.
     const Placement* PlaceOf(const std::string& name) const;
 
+    // The frame that the forms stand in.
+    MdiWindow& Window() const { return window_; }
+
     // The last loaded first, also those that are hidden.
     void UnloadAll();
 

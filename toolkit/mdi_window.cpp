@@ -117,6 +117,15 @@ Menu MdiWindow::AddWindowList(const std::string& caption) {
     return menu;
 }
 
+WindowState MdiWindow::State() const {
+    return StateOf(Inner());
+}
+
+void MdiWindow::SetState(WindowState state) {
+    SetStateOf(Inner(), state);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
 void MdiWindow::Show() {
     Inner().show();
 }

@@ -22,6 +22,7 @@ struct FileQuestion {
     std::string filter;    // "Trabeon File (*.TB) |*.TB"
     std::string fileName;  // where the dialog starts
     std::string folder{};  // the same while there is no file name
+    std::string suffix{};  // of a name that is typed without one, "docx"
 };
 
 class Outside {

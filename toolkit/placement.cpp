@@ -19,6 +19,23 @@ QWidget* Placement::Widget() const {
     return widget_;
 }
 
+WindowState StateOf(const QWidget& window) {
+    if (window.isMinimized())
+        return WindowState::Minimized;
+    return window.isMaximized() ? WindowState::Maximized : WindowState::Normal;
+}
+
+void SetStateOf(QWidget& window, WindowState state) {
+    if (state == StateOf(window))
+        return;
+    if (state == WindowState::Minimized)
+        window.showMinimized();
+    else if (state == WindowState::Maximized)
+        window.showMaximized();
+    else
+        window.showNormal();
+}
+
 void Placement::SetWidget(QWidget* widget) {
     widget_ = widget;
 }

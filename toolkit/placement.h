@@ -12,6 +12,8 @@ inline constexpr int TwipsPerPixel = 15;  // at 96 dots an inch
 // Twips as pixels, rounded to the nearest.
 int ToPixels(double twips);
 
+enum class WindowState { Normal = 0, Minimized = 1, Maximized = 2 };
+
 class Placement {
   public:
     virtual ~Placement() = default;
@@ -40,6 +42,10 @@ class Placement {
   private:
     QPointer<QWidget> widget_;
 };
+
+// Of a window, whatever kind it is.
+WindowState StateOf(const QWidget& window);
+void SetStateOf(QWidget& window, WindowState state);
 
 // What controls stand on: a form, a frame, a picture box.
 class Container {

@@ -315,6 +315,24 @@ TEST_F(FormsTest, AMaximisedFormLeavesTheCaptionProperAlone) {
     EXPECT_EQ(window.Widget()->windowTitle(), "Trabeon - One.TB");
 }
 
+TEST_F(FormsTest, WindowsFillTheirPlaceAndGoBackToTheirSize) {
+    auto& first = forms.Get<frmFirst>();
+    const int width = first.Width();
+    EXPECT_EQ(first.State(), WindowState::Normal);
+    first.SetState(WindowState::Maximized);
+    EXPECT_EQ(first.State(), WindowState::Maximized);
+    EXPECT_GE(first.Width(), window.ScaleWidth());
+    first.SetState(WindowState::Normal);
+    EXPECT_EQ(first.Width(), width);
+
+    const int narrow = window.Width();
+    forms.Window().SetState(WindowState::Maximized);
+    EXPECT_EQ(window.State(), WindowState::Maximized);
+    EXPECT_GT(window.Width(), narrow);
+    window.SetState(WindowState::Normal);
+    EXPECT_EQ(window.Width(), narrow);
+}
+
 TEST_F(FormsTest, MenuEntriesRunTheirCommandByKeyAndChoiceWhileEnabled) {
     int runs = 0;
     Menu file = window.AddMenu("&File");

@@ -1,0 +1,33 @@
+// The way out of a program that nobody watches: messages go to standard error, the clipboard is its
+// own, and nothing is asked.
+#pragma once
+
+#include <QImage>
+#include <QPrinter>
+#include <cstdio>
+
+#include "toolkit/outside.h"
+
+namespace trabeon {
+
+class Unattended : public Outside {
+  public:
+    Answer MsgBox(const std::string& text, int, const std::string&) override {
+        std::fprintf(stderr, "%s\n", text.c_str());
+        return Answer::Cancel;
+    }
+    std::string AskFile(const FileQuestion&) override { return {}; }
+    void PutText(const std::string&) override {}
+    void PutPicture(const QImage& picture) override { picture_ = picture; }
+    QImage Picture() const override { return picture_; }
+    bool OpenDocument(const std::string&) override { return false; }
+    std::unique_ptr<QPrinter> OpenPrinter(const std::string&) override { return nullptr; }
+    Paper DefaultPaper() const override { return {}; }
+    bool AnotherCopyRuns(const std::string&) override { return false; }
+    void End() override {}
+
+  private:
+    QImage picture_;
+};
+
+}  // namespace trabeon

@@ -1,0 +1,36 @@
+#include "report/output/save_document.h"
+
+#include "core/store/replacing_file.h"
+#include "forms/main/messages.h"
+#include "report/output/docx_writer.h"
+#include "toolkit/outside.h"
+#include "toolkit/wait_cursor.h"
+
+namespace trabeon {
+
+Failure writeDocument(const Document& document, const std::filesystem::path& file) {
+    const auto bytes = docxBytes(document);
+    if (!bytes)
+        return bytes.refusal();
+    return replaceFile(file, *bytes);
+}
+
+void saveAndOpen(const Document& document) {
+    FileQuestion question{true, true, "Save the Document", "Word Document (*.docx) |*.docx", ""};
+    question.suffix = "docx";
+    const auto file = Outside::Current().AskFile(question);
+    if (file.empty())
+        return;
+    {
+        const WaitCursor wait;
+        if (const auto failure = writeDocument(document, file)) {
+            warn(failure->sentence);
+            return;
+        }
+    }
+    if (!Outside::Current().OpenDocument(file))
+        warn("The document was saved as \"" + file +
+             "\". This desktop has no program for it; open it with a word processor.");
+}
+
+}  // namespace trabeon

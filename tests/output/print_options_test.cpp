@@ -1,0 +1,147 @@
+#include "report/output/frmPrintOptions.h"
+
+#include "forms/main/frmTitle.h"
+#include "forms/results/frmAnalysis.h"
+#include "forms/results/frmMoment1.h"
+#include "tests/support/program_fixture.h"
+
+namespace trabeon::test {
+namespace {
+
+class PrintOptions : public ProgramTest {
+  protected:
+    frmPrintOptions& Open() {
+        forms().Register<frmPrintOptions>(context());
+        Start();
+        Choose("&File|&Print...");
+        Settle();
+        return forms().Get<frmPrintOptions>();
+    }
+
+    void AnalyseExample() {
+        ASSERT_TRUE(
+            unpackProject(std::string(EXAMPLES) + "/two-span-floor-beam.TB", folder.path()));
+        Choose("&Structure|&Analyse...");
+        Settle();
+        Click(forms().Get<frmAnalysis>().cmdAnalyse);
+    }
+
+    /// Words that stand in a PDF's bare parts, as its page objects.
+    static int Count(const std::string& text, const std::string& words) {
+        int count = 0;
+        for (auto at = text.find(words); at != std::string::npos; at = text.find(words, at + 1))
+            ++count;
+        return count;
+    }
+};
+
+TEST_F(PrintOptions, ComesUpWithItsTicks) {
+    const auto& form = Open();
+    EXPECT_EQ(form.Caption(), "Printing Options");
+    EXPECT_EQ(form.Height(), 5205);  // 5200, in whole pixels
+    for (const auto* ticked : {&form.chkJoint, &form.chkMember, &form.chkLoad, &form.chkBMSV,
+                               &form.chkBMSDBY, &form.chkCBMS, &form.chkBeamDim, &form.chkDesign})
+        EXPECT_TRUE(ticked->Value());
+    EXPECT_FALSE(form.chkTB.Value());
+    EXPECT_TRUE(form.optLand.Value());
+    EXPECT_TRUE(form.chkJoint.HasFocus());
+}
+
+TEST_F(PrintOptions, PrintsThePagesAsAFile) {
+    auto& form = Open();
+    AnalyseExample();
+    const auto pdf = (folder / "print.pdf").string();
+    outside.ExpectPrinter("Untitled", pdf);
+    Click(form.cmdPrint);
+    EXPECT_EQ(Count(TemporaryFolder::readFile(pdf), "/Type /Page\n"), 1);
+
+    Press(form.chkTB, Qt::Key_Space);
+    outside.ExpectPrinter("Untitled", pdf);
+    Click(form.cmdPrint);
+    const auto printed = TemporaryFolder::readFile(pdf);
+    EXPECT_EQ(Count(printed, "/Type /Page\n"), 2);
+    EXPECT_EQ(Count(printed, "/MediaBox [0 0 842.000000 595.000000]"), 1);
+    EXPECT_EQ(Count(printed, "/MediaBox [0 0 595.000000 842.000000]"), 1);
+}
+
+TEST_F(PrintOptions, ADrawnBackPrintDoesNothingAndAFailedOneSaysSo) {
+    auto& form = Open();
+    outside.ExpectPrinter("Untitled", "");
+    Click(form.cmdPrint);
+    outside.ExpectPrinter("Untitled", (folder / "no such folder" / "print.pdf").string());
+    outside.ExpectMsgBox(
+        "The print of \"Untitled\" did not reach the printer or its file. See to the printer, or "
+        "choose another file, then print again.");
+    Click(form.cmdPrint);
+}
+
+TEST_F(PrintOptions, LotusSavesAndOpensTheWholeDocument) {
+    auto& form = Open();
+    AnalyseExample();
+    Press(form.chkTB, Qt::Key_Space);
+    const auto docx = (folder / "beam.docx").string();
+    outside.ExpectSave("Save the Document", docx);
+    outside.ExpectDocument(docx);
+    Click(form.cmdLotus);
+    EXPECT_TRUE(TemporaryFolder::readFile(docx).starts_with("PK"));
+    EXPECT_TRUE(outside.lastQuestion.asksBeforeOverwriting);
+    EXPECT_EQ(outside.lastQuestion.suffix, "docx");
+    for (const auto* name :
+         {"frmMoment1", "frmShear1", "frmContinuousTB", "frmContinuousS", "frmBMData", "frmSData"})
+        EXPECT_FALSE(forms().IsLoaded(name)) << name;
+    EXPECT_EQ(program.window().State(), WindowState::Normal);
+}
+
+TEST_F(PrintOptions, AnOpenDiagramShowsItsMemberAgain) {
+    auto& form = Open();
+    AnalyseExample();
+    auto& diagram = forms().Get<frmMoment1>();
+    diagram.cboMember.SetListIndex(0);
+    outside.ExpectSave("Save the Document", "");  // the user draws back: nothing is left
+    Click(form.cmdLotus);
+    ASSERT_EQ(forms().Loaded<frmMoment1>(), &diagram);
+    EXPECT_TRUE(diagram.Visible());
+    EXPECT_EQ(diagram.cboMember.ListIndex(), 0);
+    EXPECT_TRUE(forms().IsLoaded("frmBMData"));
+    EXPECT_FALSE(forms().IsLoaded("frmShear1"));
+}
+
+TEST_F(PrintOptions, ADocumentWithoutAProgramSaysWhereItIs) {
+    auto& form = Open();
+    const auto docx = (folder / "beam.docx").string();
+    outside.ExpectSave("Save the Document", docx);
+    outside.ExpectDocument(docx, false);
+    outside.ExpectMsgBox("The document was saved as \"" + docx +
+                         "\". This desktop has no program for it; open it with a word processor.");
+    Click(form.cmdLotus);
+}
+
+TEST_F(PrintOptions, AFailedSaveLeavesTheOldFileAndSaysWhy) {
+    auto& form = Open();
+    folder.write("beam.docx", "old");
+    std::filesystem::create_directory(folder / "beam.docx.new");
+    const auto docx = (folder / "beam.docx").string();
+    outside.ExpectSave("Save the Document", docx);
+    outside.ExpectMsgBox("\"" + docx +
+                         "\" could not be written (Is a directory). What stood there before is "
+                         "unchanged; make room or choose another folder, then try again.");
+    Click(form.cmdLotus);
+    EXPECT_EQ(folder.read("beam.docx"), "old");
+}
+
+TEST_F(PrintOptions, APlainPressOfWordEndsWithItsMessage) {
+    auto& form = Open();
+    outside.ExpectMsgBox(
+        "The Word For Windows Program Was Automatically and Purposely Exitted Due To The "
+        "Programmer's Preference in Using Lotus. However, if you would like to use Word For Windows "
+        "For Your Printing Purposes, Please Email The Programmer.",
+        Answer::Cancel);
+    Click(form.cmdWord);
+
+    Press(form.chkBMSV, Qt::Key_Space);
+    outside.ExpectSave("Save the Document", "");
+    Click(form.cmdWord);
+}
+
+}  // namespace
+}  // namespace trabeon::test

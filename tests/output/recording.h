@@ -1,0 +1,75 @@
+// A word processor that writes down what it is told, a line a call, and chart forms that do so too.
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "core/text/number_text.h"
+#include "report/output/chart_forms.h"
+#include "report/output/word_processor.h"
+
+namespace trabeon::test {
+
+using Calls = std::vector<std::string>;
+
+class RecordingProcessor : public WordProcessor {
+  public:
+    void Call(std::string_view member, const Arguments& arguments) override {
+        std::string line(member);
+        for (const auto& [name, value] : arguments)
+            line += (&name == &arguments.front().name ? " " : ", ") + std::string(name) +
+                    (name.empty() ? "" : "=") + shown(value);
+        calls.push_back(line);
+    }
+
+    /// The calls of some members, in their order.
+    [[nodiscard]] Calls of(const std::vector<std::string>& members) const {
+        Calls found;
+        for (const auto& call : calls)
+            for (const auto& member : members)
+                if (call.starts_with(member))
+                    found.push_back(call);
+        return found;
+    }
+
+    Calls calls;
+
+  private:
+    static std::string shown(const Value& value) {
+        if (const auto* truth = std::get_if<bool>(&value))
+            return *truth ? "True" : "False";
+        if (const auto* whole = std::get_if<int>(&value))
+            return std::to_string(*whole);
+        if (const auto* number = std::get_if<double>(&value))
+            return generatedText(*number).substr(1);
+        return '"' + std::get<std::string>(value) + '"';
+    }
+};
+
+/// Writes into the calls of the processor, so that the order of both is seen.
+class RecordingCharts : public ChartForms {
+  public:
+    RecordingCharts(Calls& calls, int members) : calls_(calls), members_(members) {}
+
+    int ShowSingleSpan() override {
+        calls_.emplace_back("(show single span)");
+        return members_;
+    }
+    void CopyMoment(int member) override {
+        calls_.push_back("(moment " + std::to_string(member) + ")");
+    }
+    void CopyShear(int member) override {
+        calls_.push_back("(shear " + std::to_string(member) + ")");
+    }
+    void PlotContinuous() override { calls_.emplace_back("(plot continuous)"); }
+    void CopyContinuousMoment() override { calls_.emplace_back("(continuous moment)"); }
+    void CopyContinuousShear() override { calls_.emplace_back("(continuous shear)"); }
+    void RestoreWindows() override { calls_.emplace_back("(restore)"); }
+
+  private:
+    Calls& calls_;
+    int members_;
+};
+
+}  // namespace trabeon::test

@@ -1,0 +1,57 @@
+#include "toolkit/printer.h"
+
+#include <QFontMetricsF>
+#include <QPageLayout>
+#include <QPainter>
+#include <QPrinter>
+
+#include "toolkit/look.h"
+#include "toolkit/outside.h"
+
+namespace trabeon {
+
+namespace {
+
+constexpr double MillimetresPerInch = 25.4;
+
+}  // namespace
+
+std::unique_ptr<Printer> Printer::Open(const std::string& documentName) {
+    auto printer = Outside::Current().OpenPrinter(documentName);
+    if (!printer)
+        return nullptr;
+    return std::unique_ptr<Printer>(new Printer(std::move(printer)));
+}
+
+Printer::Printer(std::unique_ptr<QPrinter> printer)
+    : printer_(std::move(printer)), painter_(std::make_unique<QPainter>()) {
+    printer_->setFullPage(true);
+}
+
+Printer::~Printer() = default;
+
+// The orientation counts from the next page on, so it is told before that one begins.
+void Printer::NewPage(Orientation orientation) {
+    if (failed_)
+        return;
+    printer_->setPageOrientation(orientation == Orientation::Landscape ? QPageLayout::Landscape
+                                                                       : QPageLayout::Portrait);
+    failed_ = painter_->isActive() ? !printer_->newPage() : !painter_->begin(printer_.get());
+    if (!failed_)
+        painter_->setFont(FontNamed("Courier New", FontSize, false));
+}
+
+void Printer::Print(double x, double y, const std::string& text) {
+    if (failed_)
+        return;
+    const double dots = printer_->resolution() / MillimetresPerInch;
+    const double ascent = QFontMetricsF(painter_->font(), printer_.get()).ascent();
+    painter_->drawText(QPointF(x * dots, y * dots + ascent), QString::fromStdString(text));
+}
+
+bool Printer::EndDoc() {
+    failed_ = failed_ || !painter_->end() || printer_->printerState() == QPrinter::Error;
+    return !failed_;
+}
+
+}  // namespace trabeon
