@@ -4,6 +4,11 @@
 #include "forms/input/frmDiagram.h"
 #include "forms/input/frmPoint.h"
 #include "forms/input/frmUDL.h"
+#include "forms/results/frmAnalysis.h"
+#include "forms/results/frmContinuousS.h"
+#include "forms/results/frmContinuousTB.h"
+#include "forms/results/frmMoment1.h"
+#include "forms/results/frmShear1.h"
 #include "tests/report/report_fixture.h"
 
 namespace trabeon::test {
@@ -21,6 +26,36 @@ TEST_F(ReportEditor, EveryInputFormWithASketchAddsIt) {
     EXPECT_EQ(RTB().PictureCount(), 3);
     EXPECT_FALSE(forms().IsLoaded("frmDiagram"));
     EXPECT_TRUE(RTB().Locked());
+}
+
+TEST_F(ReportEditor, EveryDiagramAddsItsChartAndOpenLosesTheReport) {
+    const std::string example = std::string(EXAMPLES) + "/five-span-with-cantilever.TB";
+    const auto open = [&] {
+        outside.ExpectOpen("Open Trabeon File", example);
+        Choose("&File|&Open");
+        context().dataChanged = 0;
+    };
+    open();
+    Click(forms().Get<frmAnalysis>().cmdAnalyse);
+    auto& moment = forms().Get<frmMoment1>();
+    moment.cboMember.SetListIndex(1);
+    Click(moment.cmdReport);
+    auto& shear = forms().Get<frmShear1>();
+    shear.cboMember.SetListIndex(1);
+    Click(shear.cmdReport);
+    auto& moments = forms().Get<frmContinuousTB>();
+    auto& shears = forms().Get<frmContinuousS>();
+    for (int i = 0; i < 5; ++i) {
+        moments.List1.SetSelected(i, true);
+        shears.List1.SetSelected(i, true);
+    }
+    Click(moments.cmdReport);
+    Click(shears.cmdReport);
+    EXPECT_EQ(RTB().PictureCount(), 4);
+    Report().Hide();
+    EXPECT_EQ(RTB().PictureCount(), 4);
+    open();
+    EXPECT_EQ(RTB().PictureCount(), 0);
 }
 
 TEST_F(ReportEditor, TheLockedBoxRefusesKeysAndPaste) {
