@@ -1,11 +1,14 @@
 // trabeon: the program with its window.
+#include <cstdio>
+#include <exception>
+
 #include "forms/main/frmTrabeon.h"
 #include "report/output/frmPrintOptions.h"
 #include "report/registration.h"
 #include "toolkit/application.h"
 #include "toolkit/desktop.h"
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
     using namespace trabeon;
     Application application(argc, argv);
     const Desktop desktop;
@@ -15,4 +18,7 @@ int main(int argc, char** argv) {
     takeUpReport(program.context());
     program.context().forms.Register<frmPrintOptions>(program.context());
     return program.Start() ? application.Run() : 0;
+} catch (const std::exception& error) {  // above all: not enough memory
+    std::fprintf(stderr, "Trabeon cannot go on (%s).\n", error.what());
+    return 1;
 }

@@ -1,6 +1,7 @@
 // trabeon-report: the document of a project on a machine without a display.
 #include <QTemporaryDir>
 #include <cstdio>
+#include <exception>
 
 #include "core/analysis/result_files.h"
 #include "core/design/design.h"
@@ -103,7 +104,7 @@ int run(const ReportCommand& command, int& argc, char** argv) {
 }  // namespace
 }  // namespace trabeon
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
     using namespace trabeon;
     const auto command = readReportCommand({argv + 1, argv + argc});
     if (!command) {
@@ -115,4 +116,7 @@ int main(int argc, char** argv) {
         return 0;
     }
     return run(*command, argc, argv);
+} catch (const std::exception& error) {  // above all: not enough memory
+    std::fprintf(stderr, "The job is too large for this machine (%s).\n", error.what());
+    return 1;
 }
