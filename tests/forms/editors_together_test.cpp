@@ -15,6 +15,7 @@
 #include "forms/input/frmUDL.h"
 #include "forms/results/frmAnalysis.h"
 #include "tests/support/editor_fixture.h"
+#include "tests/support/time_limit.h"
 
 namespace trabeon::test {
 namespace {
@@ -218,7 +219,7 @@ TEST_F(EditorsTogether, AnAnalysisOfAHundredSpansIsNotHeldUpByTheLists) {
     std::printf("100 spans: without windows %.1f ms, first %.1f ms, again %.1f ms\n", plain, first,
                 again);
     EXPECT_EQ(forms().Get<frmPoint>().ListView1.ListItems.Count(), 500);
-    EXPECT_LT(again, 2 * plain + 20);
+    EXPECT_LT(again, 2 * plain + limit(20));
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "tests/support/gui_fixture.h"
+#include "tests/support/time_limit.h"
 #include "toolkit/form.h"
 #include "toolkit/picture_box.h"
 
@@ -154,8 +155,9 @@ TEST_F(DrawTest, AFeedWithARedrawAfterEachPointCostsMilliseconds) {
         return timer.elapsed();
     };
     feed(100);
-    EXPECT_LT(feed(12000), 500);  // milliseconds as a rule; a redraw for each takes 13 seconds
-    EXPECT_LT(feed(24000), 1000);
+    EXPECT_LT(static_cast<double>(feed(12000)),
+              test::limit(500));  // milliseconds as a rule; a redraw for each takes 13 seconds
+    EXPECT_LT(static_cast<double>(feed(24000)), test::limit(1000));
 }
 
 TEST_F(DrawTest, ManyJointsAndPointsToAPixelArePaintedInMilliseconds) {
@@ -168,7 +170,8 @@ TEST_F(DrawTest, ManyJointsAndPointsToAPixelArePaintedInMilliseconds) {
     QElapsedTimer timer;
     timer.start();
     Settle();
-    EXPECT_LT(timer.elapsed(), 100);  // a line for each joint and a fill take half a second
+    EXPECT_LT(static_cast<double>(timer.elapsed()),
+              test::limit(100));  // a line for each joint and a fill take half a second
 }
 
 TEST_F(DrawTest, ALongHandlerLeavesOneRedrawBehind) {
