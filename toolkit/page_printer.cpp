@@ -1,12 +1,9 @@
 #include "toolkit/page_printer.h"
 
-#include <QFile>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPrinter>
-#include <algorithm>
 #include <cmath>
-#include <filesystem>
 
 #include "toolkit/outside.h"
 
@@ -16,8 +13,6 @@ namespace {
 
 constexpr double TwipsPerInch = 1440;
 constexpr double TwipsPerPoint = 20;
-constexpr const char* Unfinished = ".new";  // behind the name of a file that is being printed
-constexpr qint64 EndRoom = 32;              // characters
 
 int Twips(double points) {
     return static_cast<int>(std::lround(points * TwipsPerPoint));
@@ -40,10 +35,7 @@ std::unique_ptr<PagePrinter> PagePrinter::Open(const std::string& documentName) 
 }
 
 PagePrinter::PagePrinter(std::unique_ptr<QPrinter> printer)
-    : printer_(std::move(printer)), sheet_(PaperOf(*printer_)) {
-    file_ = printer_->outputFileName();
-    if (!file_.isEmpty())
-        printer_->setOutputFileName(file_ + Unfinished);
+    : printer_(std::move(printer)), file_(*printer_), sheet_(PaperOf(*printer_)) {
     auto painter = std::make_unique<QPainter>();
     if (!painter->begin(printer_.get()))
         return;
@@ -55,11 +47,7 @@ PagePrinter::PagePrinter(std::unique_ptr<QPrinter> printer)
     painter_->setRenderHint(QPainter::SmoothPixmapTransform);
 }
 
-PagePrinter::~PagePrinter() {
-    painter_.reset();
-    if (!file_.isEmpty())
-        QFile::remove(file_ + Unfinished);
-}
+PagePrinter::~PagePrinter() = default;
 
 QPainter* PagePrinter::Painter() {
     return painter_.get();
@@ -72,21 +60,7 @@ bool PagePrinter::NewPage() {
 bool PagePrinter::EndDoc() {
     const bool drawn = painter_ && painter_->end();
     painter_.reset();
-    return drawn && printer_->printerState() != QPrinter::Error && (file_.isEmpty() || TakePlace());
-}
-
-// The engine is silent about a disk that fills up, but then the end is missing.
-bool PagePrinter::TakePlace() const {
-    QFile fresh(file_ + Unfinished);
-    if (!fresh.open(QIODevice::ReadOnly))
-        return false;
-    fresh.seek(std::max<qint64>(0, fresh.size() - EndRoom));
-    const bool whole = fresh.read(EndRoom).contains("%%EOF");
-    fresh.close();
-    std::error_code error;
-    if (whole)
-        std::filesystem::rename(fresh.fileName().toStdString(), file_.toStdString(), error);
-    return whole && !error;
+    return drawn && printer_->printerState() != QPrinter::Error && file_.TakePlace();
 }
 
 }  // namespace trabeon

@@ -1,12 +1,12 @@
 // The printer as pages to draw on. What is drawn on a page goes out when the next one begins.
 #pragma once
 
-#include <QString>
 #include <memory>
 #include <string>
 
 #include "toolkit/page_canvas.h"
 #include "toolkit/paper.h"
+#include "toolkit/print_file.h"
 
 class QPrinter;
 
@@ -28,12 +28,11 @@ class PagePrinter : public PageCanvas {
 
   private:
     explicit PagePrinter(std::unique_ptr<QPrinter> printer);
-    bool TakePlace() const;
 
     std::unique_ptr<QPrinter> printer_;
+    PrintFile file_;
     std::unique_ptr<QPainter> painter_;
     Paper sheet_;
-    QString file_;  // that stands in for the printer; the old one stands until the new one is whole
 };
 
 // The paper of a printer as it is set.

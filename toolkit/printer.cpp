@@ -24,7 +24,7 @@ std::unique_ptr<Printer> Printer::Open(const std::string& documentName) {
 }
 
 Printer::Printer(std::unique_ptr<QPrinter> printer)
-    : printer_(std::move(printer)), painter_(std::make_unique<QPainter>()) {
+    : printer_(std::move(printer)), file_(*printer_), painter_(std::make_unique<QPainter>()) {
     printer_->setFullPage(true);
 }
 
@@ -50,7 +50,8 @@ void Printer::Print(double x, double y, const std::string& text) {
 }
 
 bool Printer::EndDoc() {
-    failed_ = failed_ || !painter_->end() || printer_->printerState() == QPrinter::Error;
+    failed_ = failed_ || !painter_->end() || printer_->printerState() == QPrinter::Error ||
+              !file_.TakePlace();
     return !failed_;
 }
 

@@ -4,6 +4,8 @@
 #include <memory>
 #include <string>
 
+#include "toolkit/print_file.h"
+
 class QPainter;
 class QPrinter;
 
@@ -33,6 +35,7 @@ class Printer {
     explicit Printer(std::unique_ptr<QPrinter> printer);
 
     std::unique_ptr<QPrinter> printer_;
+    PrintFile file_;
     std::unique_ptr<QPainter> painter_;
     bool failed_ = false;
 };

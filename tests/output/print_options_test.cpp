@@ -75,6 +75,19 @@ TEST_F(PrintOptions, ADrawnBackPrintDoesNothingAndAFailedOneSaysSo) {
     Click(form.cmdPrint);
 }
 
+TEST_F(PrintOptions, ADiskThatFillsUpLeavesTheOldPrint) {
+    auto& form = Open();
+    folder.write("print.pdf", "old");
+    std::filesystem::create_symlink("/dev/full", folder / "print.pdf.new");
+    outside.ExpectPrinter("Untitled", (folder / "print.pdf").string());
+    outside.ExpectMsgBox(
+        "The print of \"Untitled\" did not reach the printer or its file. See to the printer, or "
+        "choose another file, then print again.");
+    Click(form.cmdPrint);
+    EXPECT_EQ(folder.read("print.pdf"), "old");
+    EXPECT_FALSE(std::filesystem::is_symlink(folder / "print.pdf.new"));
+}
+
 TEST_F(PrintOptions, LotusSavesAndOpensTheWholeDocument) {
     auto& form = Open();
     AnalyseExample();
