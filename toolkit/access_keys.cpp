@@ -4,8 +4,10 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenuBar>
 
 namespace trabeon {
 
@@ -35,9 +37,27 @@ void Answer(QWidget& control) {
         control.setFocus(Qt::ShortcutFocusReason);
 }
 
+// Where several menus share the key: the one behind `open`, or the first.
+QAction* MenuInTurn(const QMenuBar& bar, const QKeySequence& key, const QAction* open) {
+    QList<QAction*> sharing;
+    for (QAction* menu : bar.actions())
+        if (menu->isVisible() && menu->isEnabled() && QKeySequence::mnemonic(menu->text()) == key)
+            sharing << menu;
+    if (sharing.size() < 2)
+        return nullptr;
+    return sharing[(sharing.indexOf(open) + 1) % sharing.size()];
+}
+
+void Open(QMenuBar& bar, QAction* menu) {
+    bar.setActiveAction(menu);
+    QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+    QApplication::sendEvent(&bar, &down);
+}
+
 }  // namespace
 
-AccessKeys::AccessKeys(QMdiArea& area) : QObject(&area), area_(area) {
+AccessKeys::AccessKeys(QMainWindow& window, QMdiArea& area)
+    : QObject(&area), window_(window), area_(area) {
     qApp->installEventFilter(this);
 }
 
@@ -45,16 +65,22 @@ bool AccessKeys::eventFilter(QObject*, QEvent* event) {
     if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
         return false;
     const auto& press = static_cast<const QKeyEvent&>(*event);
-    const QMdiSubWindow* child = area_.activeSubWindow();
-    if (press.modifiers() != Qt::AltModifier || !child || QApplication::activePopupWidget() ||
+    const bool popup = QApplication::activePopupWidget() != nullptr;
+    QMenuBar& bar = *window_.menuBar();
+    if (press.key() == Qt::Key_Alt && event->type() == QEvent::ShortcutOverride)
+        openBeforeAlt_ = popup ? bar.activeAction() : nullptr;
+    if (press.modifiers() != Qt::AltModifier || popup || QApplication::activeWindow() != &window_ ||
         QApplication::activeModalWidget())
         return false;
-    QWidget* control = AnsweringControl(*child, QKeySequence(Qt::ALT | Qt::Key(press.key())));
-    if (!control)
+    const QKeySequence key(Qt::ALT | Qt::Key(press.key()));
+    const QMdiSubWindow* child = area_.activeSubWindow();
+    QWidget* control = child ? AnsweringControl(*child, key) : nullptr;
+    QAction* menu = control ? nullptr : MenuInTurn(bar, key, openBeforeAlt_);
+    if (!control && !menu)
         return false;
-    event->accept();  // the override keeps the key from the menu bar, and the press then comes here
+    event->accept();  // the override keeps the key from Qt's own turns, and the press comes here
     if (event->type() == QEvent::KeyPress && !press.isAutoRepeat())
-        Answer(*control);
+        control ? Answer(*control) : Open(bar, menu);
     return true;
 }
 

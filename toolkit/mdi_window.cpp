@@ -16,7 +16,7 @@ class MdiWindow::Window : public QMainWindow {
   public:
     explicit Window(MdiWindow& owner) : owner_(owner), area(new QMdiArea(this)) {
         setCentralWidget(area);
-        new AccessKeys(*area);
+        new AccessKeys(*this, *area);
         // Closing a child brings up the one used before it, not the oldest.
         area->setActivationOrder(QMdiArea::ActivationHistoryOrder);
         // A maximised child does not make the next one maximised, whose size may be fixed.
@@ -24,7 +24,7 @@ class MdiWindow::Window : public QMainWindow {
         area->setBackground(palette().brush(QPalette::Dark));
         area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
         area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-        resize(QSize(1024, 680).boundedTo(screen()->availableSize() * 0.95));
+        resize(QSize(1320, 860).boundedTo(screen()->availableSize() * 0.95));
     }
 
   protected:

@@ -254,6 +254,23 @@ TEST_F(FormsTest, AnAccessKeyGoesToTheFormInFrontBeforeTheMenuBar) {
     EXPECT_EQ(clicks, 2);
 }
 
+TEST_F(FormsTest, MenusThatShareAnAccessKeyBeginWithTheFirstEachTime) {
+    window.AddMenu("&Diagram").Add("&Plot", "", [] {});
+    window.AddMenu("&Design").Add("&Beam", "", [] {});
+    Settle();
+    const auto* bar = static_cast<QMainWindow*>(window.Widget())->menuBar();
+    const auto opened = [&](QWidget* target) {
+        QTest::keyClick(target, Qt::Key_D, Qt::AltModifier);
+        return bar->activeAction() ? bar->activeAction()->text() : "none";
+    };
+    for (int time = 0; time < 3; ++time) {
+        EXPECT_EQ(opened(window.Widget()), "&Diagram");
+        EXPECT_EQ(opened(QApplication::activePopupWidget()), "&Design");
+        while (QApplication::activePopupWidget())
+            QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    }
+}
+
 TEST_F(FormsTest, ADialogHoldsTheCallerUntilItIsUnloaded) {
     QTimer::singleShot(0, [this] {
         run.log.push_back("in dialog");
