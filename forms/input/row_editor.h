@@ -126,8 +126,11 @@ class RowEditor {
     }
 
     void resetDescription() {
-        if (description_)
-            description_->SetText(noDescription);
+        if (!description_)
+            return;
+        description_->SetText(noDescription);
+        if (description_->HasFocus())
+            selectIfNone(*description_);
     }
 
     /// A number field as generated number text. One too large for a number, in a file that was

@@ -40,9 +40,14 @@ TEST_F(JointsEditor, ALineOfJointsIsEnteredByKeysAlone) {
     EXPECT_EQ(Shown(joints->ListView1, 1), (Texts{"Joint  1", "Joint  2", "Joint  3"}));
     EXPECT_EQ(joints->ListView1.SelectedItem().Index(), 3);
     EXPECT_TRUE(joints->cmdAddJoint.HasFocus());
+    joints->txtDescription.SetFocus();
+    for (const auto* next : {"Wall D", "Wall E"}) {  // each is typed over the "None" of an Add
+        Keys(next);
+        Key(Qt::Key_A, Qt::AltModifier);
+    }
     Reopen();
-    EXPECT_EQ(Shown(joints->ListView1, 3), (Texts{"Wall A", "None", "None"}));
-    EXPECT_EQ(joints->ListView1.SelectedItem().Index(), 3);
+    EXPECT_EQ(Shown(joints->ListView1, 3), (Texts{"Wall A", "None", "None", "Wall D", "Wall E"}));
+    EXPECT_EQ(joints->ListView1.SelectedItem().Index(), 5);
     EXPECT_EQ(joints->lblJoint.Caption(), "Cantilever");
 }
 
