@@ -19,8 +19,9 @@ bool CommonDialog::ShowSave() {
 }
 
 bool CommonDialog::Show(bool saves) {
-    const std::string chosen = Outside::Current().AskFile(
-        {saves, (Flags & OverwritePrompt) != 0, DialogTitle, Filter, FileName, InitDir});
+    const std::string chosen =
+        Outside::Current().AskFile({saves, (Flags & OverwritePrompt) != 0, DialogTitle, Filter,
+                                    FileName, saves ? "" : InitDir});
     if (chosen.empty())
         return false;
     FileName = chosen;

@@ -9,7 +9,7 @@ class CommonDialog {
   public:
     std::string Filter;  // "Trabeon File (*.TB) |*.TB"
     std::string DialogTitle;
-    std::string InitDir;   // where a dialog starts while no file was chosen yet
+    std::string InitDir;   // where ShowOpen starts while no file was chosen yet
     int Flags = 0;         // bit 2: ask before a file that is there is chosen for saving
     std::string FileName;  // the full path last chosen; a dialog that is cancelled leaves it
 

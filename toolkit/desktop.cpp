@@ -5,6 +5,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QImage>
 #include <QLockFile>
 #include <QMessageBox>
@@ -137,13 +138,16 @@ std::string Desktop::AskFile(const FileQuestion& question) {
     dialog.setFileMode(question.saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !question.asksBeforeOverwriting);
     dialog.setDefaultSuffix(QString::fromStdString(question.suffix));
-    if (!question.folder.empty())
-        dialog.setDirectory(QString::fromStdString(question.folder));
+    const QString start =
+        lastFolder_.isEmpty() ? QString::fromStdString(question.folder) : lastFolder_;
+    dialog.setDirectory(start.isEmpty() ? QDir::homePath() : start);
     if (!question.fileName.empty())
         dialog.selectFile(QString::fromStdString(question.fileName));
     if (dialog.exec() != QDialog::Accepted)
         return {};
-    return dialog.selectedFiles().value(0).toStdString();
+    const QString chosen = dialog.selectedFiles().value(0);
+    lastFolder_ = QFileInfo(chosen).absolutePath();
+    return chosen.toStdString();
 }
 
 void Desktop::PutText(const std::string& text) {

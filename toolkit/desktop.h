@@ -1,6 +1,7 @@
 // The real way out: boxes, dialogs, clipboard, printer and programs of the user's desktop.
 #pragma once
 
+#include <QString>
 #include <memory>
 
 #include "toolkit/outside.h"
@@ -15,6 +16,7 @@ class Desktop : public Outside {
     ~Desktop() override;
 
     Answer MsgBox(const std::string& text, int style, const std::string& title) override;
+    // Starts in the folder of the last answer; before there is one, in the question's or at home.
     std::string AskFile(const FileQuestion& question) override;
     void PutText(const std::string& text) override;
     void PutPicture(const QImage& picture) override;
@@ -28,6 +30,7 @@ class Desktop : public Outside {
 
   private:
     std::unique_ptr<QLockFile> lock_;
+    QString lastFolder_;
 };
 
 }  // namespace trabeon

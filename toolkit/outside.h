@@ -21,7 +21,7 @@ struct FileQuestion {
     std::string title;
     std::string filter;    // "Trabeon File (*.TB) |*.TB"
     std::string fileName;  // where the dialog starts
-    std::string folder{};  // the same while there is no file name
+    std::string folder{};  // the same while no file was chosen yet; empty: the user's own folder
     std::string suffix{};  // of a name that is typed without one, "docx"
 };
 

@@ -4,7 +4,9 @@
 #include <gtest/gtest-spi.h>
 
 #include <QClipboard>
+#include <QFileDialog>
 #include <QImage>
+#include <QLineEdit>
 #include <QPrinterInfo>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -28,6 +30,27 @@ TEST_F(GuiTest, AMessageBoxAnswersAndGivesTheWindowBack) {
     EXPECT_EQ(desktop.MsgBox("Save changes?", 51, "Trabeon"), Answer::No);
     PressInBox(Qt::Key_Return);
     EXPECT_EQ(desktop.MsgBox("Trabeon is already running.", 48, "Trabeon"), Answer::Ok);
+}
+
+TEST_F(GuiTest, AFileDialogStartsAtHomeAndThenWhereTheLastOneEnded) {
+    Desktop desktop;
+    const QTemporaryDir folder;
+    const auto answer = [&desktop](const std::string& fileName, const QString& typed) {
+        QString start;
+        QTimer::singleShot(0, [&start, &typed] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            start = dialog->directory().absolutePath();
+            dialog->findChild<QLineEdit*>()->setText(typed);
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        FileQuestion question{true, false, "Save", "Trabeon File (*.TB) |*.TB", fileName};
+        EXPECT_EQ(QString::fromStdString(desktop.AskFile(question)), typed);
+        return start;
+    };
+    const QString first = folder.filePath("One.TB"), second = QDir::tempPath() + "/Two.TB";
+    EXPECT_EQ(answer("", first), QDir::homePath());
+    EXPECT_EQ(answer("", second), folder.path());
+    EXPECT_EQ(answer(first.toStdString(), first), folder.path());
 }
 
 TEST_F(GuiTest, TheClipboardTakesTextAndPictures) {
