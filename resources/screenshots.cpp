@@ -76,7 +76,7 @@ class Session {
         takeUpReport(program_.context());
         forms().Register<frmPrintOptions>(program_.context());
         started_ = program_.Start();
-        window().resize(860, 400);
+        window().resize(680, 380);
         window().activateWindow();
         started_ = started_ && QTest::qWaitForWindowActive(&window());
     }
@@ -167,7 +167,7 @@ void runFirstJob(Session& session) {
     sections.cmdAdd.Press();
     session.take("Beam Dimensions", "first-sections");
     sections.cmdDesign.Press();
-    session.forms().Get<frmBeamDesign>().SetWidth(12600);
+    session.forms().Get<frmBeamDesign>().SetWidth(10500);
     session.take("Beam Design", "first-design");
     session.closeAll();
 }
