@@ -69,9 +69,9 @@ QImage withFewColours(const QImage& image) {
     return image.convertToFormat(QImage::Format_Indexed8, colours, Qt::AvoidDither);
 }
 
-class Session {
+class Camera {
   public:
-    Session(const std::string& folder, std::string pictures)
+    Camera(const std::string& folder, std::string pictures)
         : program_(folder), pictures_(std::move(pictures)) {
         takeUpReport(program_.context());
         forms().Register<frmPrintOptions>(program_.context());
@@ -123,104 +123,104 @@ class Session {
     bool started_ = false;
 };
 
-void enterFirstJob(Session& session) {
-    auto& joints = session.show<frmJoints>();
+void enterFirstJob(Camera& camera) {
+    auto& joints = camera.show<frmJoints>();
     joints.cmdNextJoint.Press();
     joints.cmdAddJoint.Press();
     joints.cmdNextJoint.Press();
     joints.cmdAddJoint.Press();
     joints.cmdBackJoint.Press();
     joints.cmdAddJoint.Press();
-    session.take("Joints", "first-joints");
-    session.show<frmMembers>();
+    camera.take("Joints", "first-joints");
+    camera.show<frmMembers>();
     type("28\n1200\n6\n\n\n\n\n\n");
-    session.take("Members", "first-members");
-    auto& loads = session.show<frmUDL>();
+    camera.take("Members", "first-members");
+    auto& loads = camera.show<frmUDL>();
     loads.cboMember.SetFocus();
     type("M0\nL\n12\n12\n\n");
     loads.cboMember.SetListIndex(1);
     type("\n\n\n\n");
-    session.take("Uniformly Distributed Load", "first-loads");
+    camera.take("Uniformly Distributed Load", "first-loads");
     type("\n");
 }
 
-void runFirstJob(Session& session) {
-    auto& analysis = session.show<frmAnalysis>();
+void runFirstJob(Camera& camera) {
+    auto& analysis = camera.show<frmAnalysis>();
     analysis.cmdAnalyse.Press();
     analysis.SetWidth(9600);
-    session.take("Trabeon Analysis", "first-analysis");
-    auto& diagram = session.show<frmContinuousTB>();
+    camera.take("Trabeon Analysis", "first-analysis");
+    auto& diagram = camera.show<frmContinuousTB>();
     diagram.List1.SetSelected(0, true);
     diagram.List1.SetSelected(1, true);
-    session.take("Continuous Bending Moment Diagram", "first-diagram");
-    session.takeAll("first-main");
-    session.forms().Unload(frmContinuousTB::Name);
-    session.show<frmMisc>().txthagg.SetText("20");
-    session.take("Miscellaneous Properties", "window-misc");
-    session.forms().Get<frmMisc>().cmdOK.Press();
-    auto& sections = session.show<frmBeamDimensions>();
+    camera.take("Continuous Bending Moment Diagram", "first-diagram");
+    camera.takeAll("first-main");
+    camera.forms().Unload(frmContinuousTB::Name);
+    camera.show<frmMisc>().txthagg.SetText("20");
+    camera.take("Miscellaneous Properties", "window-misc");
+    camera.forms().Get<frmMisc>().cmdOK.Press();
+    auto& sections = camera.show<frmBeamDimensions>();
     sections.cboMember.SetListIndex(0);
     sections.txtBreadth.SetFocus();
     type("225\n400\n350\n30\n460\n200000\n250");
     sections.cmdAdd.Press();
     sections.cboMember.SetListIndex(1);
     sections.cmdAdd.Press();
-    session.take("Beam Dimensions", "first-sections");
+    camera.take("Beam Dimensions", "first-sections");
     sections.cmdDesign.Press();
-    session.forms().Get<frmBeamDesign>().SetWidth(10500);
-    session.take("Beam Design", "first-design");
-    session.closeAll();
+    camera.forms().Get<frmBeamDesign>().SetWidth(10500);
+    camera.take("Beam Design", "first-design");
+    camera.closeAll();
 }
 
-void openExample(Session& session) {
-    session.program().mnuOpen_Click();
-    session.show<frmAnalysis>().cmdAnalyse.Press();
-    session.take("Trabeon Analysis", "window-analysis");
-    session.show<frmJoints>();
-    session.take("Joints", "window-joints");
-    session.show<frmMembers>();
-    session.take("Members", "window-members");
-    session.forms().Show("frmDiagram");
-    session.take("Joints and Members Diagram", "window-diagram");
-    session.forms().Unload("frmDiagram");
-    auto& point = session.show<frmPoint>();
+void openExample(Camera& camera) {
+    camera.program().mnuOpen_Click();
+    camera.show<frmAnalysis>().cmdAnalyse.Press();
+    camera.take("Trabeon Analysis", "window-analysis");
+    camera.show<frmJoints>();
+    camera.take("Joints", "window-joints");
+    camera.show<frmMembers>();
+    camera.take("Members", "window-members");
+    camera.forms().Show("frmDiagram");
+    camera.take("Joints and Members Diagram", "window-diagram");
+    camera.forms().Unload("frmDiagram");
+    auto& point = camera.show<frmPoint>();
     point.txtPtA.SetFocus();
     type("2.5\n80");
-    session.take("Point Load", "window-point");
-    auto& udl = session.show<frmUDL>();
+    camera.take("Point Load", "window-point");
+    auto& udl = camera.show<frmUDL>();
     udl.cboMember.SetFocus();
     type("M0\n6\n20\n35");
-    session.take("Uniformly Distributed Load", "window-udl");
-    session.forms().Show("frmOptions");
-    session.take("Plotting Options", "window-options");
+    camera.take("Uniformly Distributed Load", "window-udl");
+    camera.forms().Show("frmOptions");
+    camera.take("Plotting Options", "window-options");
 }
 
-void takeResults(Session& session) {
-    session.show<frmMoment1>().cboMember.SetListIndex(1);
-    session.take("Bending Moment Diagram", "window-moment1");
-    auto& diagram = session.show<frmContinuousTB>();
+void takeResults(Camera& camera) {
+    camera.show<frmMoment1>().cboMember.SetListIndex(1);
+    camera.take("Bending Moment Diagram", "window-moment1");
+    auto& diagram = camera.show<frmContinuousTB>();
     for (int i = 0; i < diagram.List1.ListCount(); ++i)
         diagram.List1.SetSelected(i, true);
-    session.take("Continuous Bending Moment Diagram", "window-continuous");
+    camera.take("Continuous Bending Moment Diagram", "window-continuous");
     diagram.cmdReport.Press();
-    auto& sections = session.show<frmBeamDimensions>();
-    session.take("Beam Dimensions", "window-dims");
+    auto& sections = camera.show<frmBeamDimensions>();
+    camera.take("Beam Dimensions", "window-dims");
     sections.cmdDesign.Press();
-    session.take("Beam Design", "window-design");
-    session.forms().Show("frmReport");
-    session.take("Report", "window-report");
-    session.show<frmPrintOptions>();
-    session.take("Printing Options", "window-print");
+    camera.take("Beam Design", "window-design");
+    camera.forms().Show("frmReport");
+    camera.take("Report", "window-report");
+    camera.show<frmPrintOptions>();
+    camera.take("Printing Options", "window-print");
     QTimer shown;
-    QObject::connect(&shown, &QTimer::timeout, [&session] {
+    QObject::connect(&shown, &QTimer::timeout, [&camera] {
         if (QApplication::activeModalWidget() == nullptr)
             return;
-        session.forms().Get<frmDocPreview>().cmdZoomIn.Press();
-        session.takeDialog("window-preview");
-        session.forms().Unload("frmDocPreview");
+        camera.forms().Get<frmDocPreview>().cmdZoomIn.Press();
+        camera.takeDialog("window-preview");
+        camera.forms().Unload("frmDocPreview");
     });
     shown.start(100);
-    session.forms().Show("frmDocPreview");
+    camera.forms().Show("frmDocPreview");
 }
 
 int run(const std::string& pictures) {
@@ -230,14 +230,14 @@ int run(const std::string& pictures) {
     Application::SetIcon(path + "/trabeon.png");
     Photographer outside;
     outside.file = EXAMPLES "/five-span-with-cantilever.TB";
-    Session session(path, pictures);
-    if (!session.started())
+    Camera camera(path, pictures);
+    if (!camera.started())
         return 1;
-    enterFirstJob(session);
-    runFirstJob(session);
-    session.program().context().dataChanged = 0;
-    openExample(session);
-    takeResults(session);
+    enterFirstJob(camera);
+    runFirstJob(camera);
+    camera.program().context().dataChanged = 0;
+    openExample(camera);
+    takeResults(camera);
     return 0;
 }
 
