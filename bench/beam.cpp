@@ -1,6 +1,6 @@
 // Writes a beam of a given number of spans into a folder as the editors would leave it before its
-// first analysis: mixed joint ends, members and loads, numbers of one to four digits, the same on
-// every machine.
+// first analysis: mixed joint ends, members and loads, numbers of one to four digits, sections for
+// the design at 10 divisions, the same on every machine.
 #include <array>
 #include <cstdint>
 #include <cstdio>
@@ -15,6 +15,7 @@ namespace {
 
 using trabeon::FileSet;
 using trabeon::ReplacingFile;
+using trabeon::working_file::beamDimensions;
 using trabeon::working_file::joint;
 using trabeon::working_file::member;
 using trabeon::working_file::point;
@@ -88,6 +89,15 @@ void writeUdls(ReplacingFile& file, Dice& dice, int span, int length) {
     }
 }
 
+/// Deep enough for the shear of any of these beams: one that fails would end the links of the rest.
+void writeSections(ReplacingFile& file, Dice& dice, int span, int length) {
+    const int depth = 50 * dice.roll(26, 34);
+    const auto sizes = std::to_string(25 * dice.roll(20, 32)) + ',' + std::to_string(depth) + ',' +
+                       std::to_string(depth - 60) + ",40,460,200000,250," + hundredths(length);
+    for (int section = 1; section <= 12; ++section)
+        file.write(std::to_string(span) + ',' + std::to_string(section) + ',' + sizes + "\r\n");
+}
+
 void writeBeam(FileSet& files, int spans) {
     constexpr std::array moduli{"25.5", "28", "30", "32.8", "205"};
     Dice dice(static_cast<std::uint64_t>(spans));
@@ -95,12 +105,15 @@ void writeBeam(FileSet& files, int spans) {
     auto& members = files.add(member);
     auto& points = files.add(point);
     auto& udls = files.add(udl);
+    auto& sections = files.add(beamDimensions);
+    Dice sizes(static_cast<std::uint64_t>(spans) + 1);
     for (int span = 1; span <= spans; ++span) {
         const int length = 5 * dice.roll(50, 240);
         members.write(std::to_string(span) + ',' + dice.oneOf(moduli) + ',' +
                       hundredths(dice.roll(40, 4000)) + ',' + hundredths(length) + ",\"None\"\r\n");
         writePointLoads(points, dice, span, length);
         writeUdls(udls, dice, span, length);
+        writeSections(sections, sizes, span, length);
     }
     // What the user thought of last stands last, whatever its member.
     for (int i = 0; i < spans / 20; ++i)

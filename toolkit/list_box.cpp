@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QListWidget>
 #include <QStyledItemDelegate>
+#include <algorithm>
 
 namespace trabeon {
 
@@ -82,6 +83,23 @@ void ListBox::SetSelected(int index, bool selected) {
         return;
     muted_ = true;
     item->setSelected(selected);
+    muted_ = false;
+    OnSelection();
+}
+
+// Neighbours go as one range: the selection looks through its ranges for each entry.
+void ListBox::SetSelection(const std::vector<bool>& selected) {
+    const QAbstractItemModel& entries = *Inner(*this).model();
+    const int count = std::min(ListCount(), static_cast<int>(selected.size()));
+    QItemSelection on;
+    for (int i = 0, end = 0; i < count; i = end) {
+        for (end = i + 1; end < count && selected[std::size_t(end)] == selected[std::size_t(i)];)
+            ++end;
+        if (selected[std::size_t(i)])
+            on.select(entries.index(i, 0), entries.index(end - 1, 0));
+    }
+    muted_ = true;
+    Inner(*this).selectionModel()->select(on, QItemSelectionModel::ClearAndSelect);
     muted_ = false;
     OnSelection();
 }

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "toolkit/control.h"
 
@@ -23,6 +24,8 @@ class ListBox : public Control {
     bool Selected(int index) const;
     // Fires Click before it returns, also if nothing changes.
     void SetSelected(int index, bool selected);
+    // The same for the first entries at once, as many as are told: Click is fired once.
+    void SetSelection(const std::vector<bool>& selected);
 
   protected:
     bool OnInnerEvent(QEvent& event) override;

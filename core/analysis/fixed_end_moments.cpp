@@ -46,13 +46,13 @@ void addLoads(EndSums& ends, const Beam& beam, const MemberLoads<Load>& loads, s
 
 EndMoments fixedEndMoments(const UdlLoad& load, double L) {
     // With t from the load's start: x = a + t, L - x = c - t, and m(k) the integral of w t^k.
-    // Written so, a narrow load far from the joint keeps its digits.
+    // Written so, a narrow load far from the joint keeps its digits, and round numbers stay exact.
     const auto& [a, b, w1, w2] = load;
     const double c = L - a;
     const double m0 = b * (w1 + w2) / 2;
-    const double m1 = b * b * (w1 / 2 + w2) / 3;
-    const double m2 = b * b * b * (w1 / 3 + w2) / 4;
-    const double m3 = b * b * b * b * (w1 / 4 + w2) / 5;
+    const double m1 = b * b * (w1 + 2 * w2) / 6;
+    const double m2 = b * b * b * (w1 + 3 * w2) / 12;
+    const double m3 = b * b * b * b * (w1 + 4 * w2) / 20;
     const double left = a * c * c * m0 + c * (c - 2 * a) * m1 + (a - 2 * c) * m2 + m3;
     const double right = a * a * c * m0 + a * (2 * c - a) * m1 + (c - 2 * a) * m2 - m3;
     return {left / (L * L), right / (L * L)};

@@ -18,12 +18,6 @@ std::vector<bool> selectionOf(const ListBox& list) {
     return selected;
 }
 
-void select(ListBox& list, const std::vector<bool>& selected) {
-    for (int i = 0; i < list.ListCount(); ++i)
-        if (const bool wanted = selected[static_cast<std::size_t>(i)]; wanted != list.Selected(i))
-            list.SetSelected(i, wanted);
-}
-
 }  // namespace
 
 ChartDriver::~ChartDriver() {
@@ -78,9 +72,8 @@ void ChartDriver::selectAll() {
     const bool wasLoaded = context_.forms.IsLoaded(Form::Name);
     auto& list = take<Form>().List1;
     if (wasLoaded)
-        restores_.emplace_back([&list, former = selectionOf(list)] { select(list, former); });
-    for (int i = 0; i < list.ListCount(); ++i)
-        list.SetSelected(i, true);
+        restores_.emplace_back([&list, former = selectionOf(list)] { list.SetSelection(former); });
+    list.SetSelection(std::vector<bool>(static_cast<std::size_t>(list.ListCount()), true));
 }
 
 void ChartDriver::PlotContinuous() {

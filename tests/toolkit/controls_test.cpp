@@ -158,7 +158,10 @@ TEST_F(ControlsTest, ListBoxClicksForEachSelectionByCodeAndForEachUsersClick) {
     QTest::mouseClick(inner->viewport(), Qt::LeftButton, Qt::ControlModifier, second);
     EXPECT_EQ(clicks, 6);
     EXPECT_FALSE(list.Selected(1));
-    list.SetSelected(0, true);
+    list.AddItem("Member  3");
+    list.SetSelection({true, false, true});
+    EXPECT_EQ(clicks, 7);
+    EXPECT_TRUE(list.Selected(0) && !list.Selected(1) && list.Selected(2));
     list.Clear();
     EXPECT_EQ(clicks, 7);
     EXPECT_FALSE(list.Selected(0));

@@ -60,6 +60,12 @@ TEST(FixedEndMoments, OfDistributedLoadsAreTheirIntegrals) {
     });
 }
 
+TEST(FixedEndMoments, OfRoundNumbersAreExact) {
+    // A last bit too few would turn 87.85, these two together, into 87.8 instead of 87.9.
+    const auto told = analysed(member(fixed, 6, fixed).udl(1, 0, 6, 25, 25).udl(1, 2, 3, 12, 0));
+    EXPECT_EQ(told.row("F.E.M"), (std::vector<double>{-87.85, 87.65}));
+}
+
 TEST(FixedEndMoments, OfPointLoadsFollowTheirPlace) {
     const auto under = [](double a, double P) { return member(fixed, 6, fixed).point(1, a, P); };
     expectFixedEndMoments({

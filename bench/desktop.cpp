@@ -1,0 +1,130 @@
+// What the steps of a person's work cost in the program with its windows, and what its start costs.
+// No display is needed.
+#include <sys/resource.h>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QMainWindow>
+#include <QTimer>
+
+#include <chrono>
+#include <cstdio>
+#include <string_view>
+
+#include "forms/design/frmBeamDimensions.h"
+#include "forms/main/frmTrabeon.h"
+#include "forms/results/frmAnalysis.h"
+#include "forms/results/frmContinuousTB.h"
+#include "report/frmDocPreview.h"
+#include "report/frmReport.h"
+#include "report/output/frmPrintOptions.h"
+#include "report/output/program/unattended.h"
+#include "report/registration.h"
+#include "toolkit/application.h"
+
+namespace trabeon {
+namespace {
+
+class Answers : public Unattended {
+  public:
+    std::string file;  // the answer to every file dialog
+    std::string AskFile(const FileQuestion&) override { return file; }
+    bool OpenDocument(const std::string&) override { return true; }
+    Paper DefaultPaper() const override { return {11906, 16838, 11506, 16438, 200, 200}; }
+};
+
+/// All that the windows still have to do, painting included.
+void settle() {
+    QApplication::processEvents();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+/// Prints what a step costs, to its last paint.
+template <class Step>
+void measure(const char* name, const Step& step) {
+    const auto start = std::chrono::steady_clock::now();
+    step();
+    settle();
+    const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
+    std::printf("%s %.3f\n", name, time.count());
+}
+
+struct Program {
+    explicit Program(const std::string& folder) : main(folder) {
+        takeUpReport(main.context());
+        forms.Register<frmPrintOptions>(main.context());
+        if (!main.Start())
+            std::exit(1);
+        settle();
+    }
+    frmTrabeon main;
+    Forms& forms = main.context().forms;
+};
+
+/// The preview holds the program until it is closed: what is to be done there waits for its first
+/// paint.
+void preview(Program& program) {
+    const auto start = std::chrono::steady_clock::now();
+    QTimer::singleShot(0, [&] {
+        settle();
+        const std::chrono::duration<double, std::milli> time =
+            std::chrono::steady_clock::now() - start;
+        std::printf("preview %.3f\n", time.count());
+        auto& form = program.forms.Get<frmDocPreview>();
+        measure("page", [&] { form.cmdNextPage.Press(); });
+        form.cmdClose.Press();
+    });
+    program.forms.Get<frmReport>().mnufilepreview.Choose();
+}
+
+void work(const std::string& folder, const std::string& project, Answers& answers) {
+    Program program(folder);
+    auto& forms = program.forms;
+    answers.file = project;
+    measure("open", [&] { program.main.mnuOpen_Click(); });
+    auto& analysis = forms.Get<frmAnalysis>();
+    measure("analyse", [&] { analysis.cmdAnalyse.Press(); });
+    measure("again", [&] { analysis.cmdAnalyse.Press(); });
+    auto& diagram = forms.Get<frmContinuousTB>();
+    settle();
+    auto* members = static_cast<QAbstractItemView*>(diagram.List1.Widget());
+    measure("plot", [&] { members->selectAll(); });
+    auto& sections = forms.Get<frmBeamDimensions>();
+    settle();
+    measure("design", [&] { sections.cmdDesign.Press(); });
+    measure("report", [&] {
+        for (int k = 0; k < 60; ++k)
+            diagram.cmdReport.Press();
+    });
+    preview(program);
+    answers.file = folder + "/report.rtf";
+    measure("rtf", [&] { forms.Get<frmReport>().mnuSave.Choose(); });
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    std::printf("peak %.1f\n", static_cast<double>(usage.ru_maxrss) / 1024);
+}
+
+}  // namespace
+}  // namespace trabeon
+
+/// `window`: an empty main window until it has painted. `start DIR`: the same of the program, in a
+/// working folder. `work DIR FILE.TB`: opens a project and goes through the steps of the work; one
+/// line each, its name and milliseconds, and at last the greatest memory in MiB.
+int main(int argc, char** argv) {
+    using namespace trabeon;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const std::string_view command = argc > 1 ? argv[1] : "";
+    const Application application(argc, argv);
+    Answers answers;
+    if (command == "window") {
+        QMainWindow window;
+        window.show();
+        settle();
+    } else if (command == "start" && argc == 3) {
+        const Program program(argv[2]);
+    } else if (command == "work" && argc == 4) {
+        work(argv[2], argv[3], answers);
+    } else {
+        std::fputs("Usage: bench-desktop window | start DIR | work DIR FILE.TB\n", stderr);
+        return 2;
+    }
+}
