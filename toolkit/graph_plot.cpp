@@ -203,7 +203,6 @@ void Graph::Plot::FitCurve() {
         curve.isEmpty() ? 0 : (curve.constEnd() - 1)->key - curve.constBegin()->key;
     const double inSight = whole > 0 ? std::min(1.0, xAxis->range().size() / whole) : 1;
     const bool dense = shown * inSight > ManyPerPixel * viewport().width();
-    setPlottingHint(QCP::phFastPolylines, shown * inSight > viewport().width());
     graph(0)->setPen(QPen(Curve, dense ? 1 : 1.6));
     graph(0)->setBrush(dense ? QBrush() : QColor(Curve.red(), Curve.green(), Curve.blue(), 38));
 }
@@ -229,27 +228,12 @@ void Graph::Plot::Rescale() {
     yAxis->setRange(y.lower - margin, y.upper + margin);
 }
 
-// The chart's own way to a picture draws the curve as one outline, which costs the square of the
-// points where they are close together.
-void Graph::Plot::DrawOn(QImage& picture, double ratio) {
-    setPlottingHint(QCP::phCacheLabels, false);  // those are made for the screen's dots
-    QCPPainter painter;
-    painter.begin(&picture);
-    painter.setMode(QCPPainter::pmNonCosmetic);
-    painter.scale(ratio, ratio);
-    draw(&painter);
-    painter.end();
-    setPlottingHint(QCP::phCacheLabels);
-}
-
 QImage Graph::Plot::PictureOf(QSize size, double ratio) {
     HideReadOut();
     const QRect onScreen = viewport();
     setViewport(QRect(QPoint(0, 0), size));
     Prepare();
-    QImage picture(size * ratio, QImage::Format_RGB32);
-    picture.fill(Qt::white);
-    DrawOn(picture, ratio);
+    QImage picture = toPixmap(size.width(), size.height(), ratio).toImage();
     setViewport(onScreen);
     Prepare();
     picture.setDevicePixelRatio(ratio);

@@ -48,7 +48,6 @@ class Graph::Plot : public QCustomPlot {
     void FitToSize();
     int FitTitles();
     void FitCurve();
-    void DrawOn(QImage& picture, double ratio);
     void FitMarks();
     void Rescale();
     void PlaceLabels();

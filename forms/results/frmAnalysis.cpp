@@ -79,17 +79,14 @@ void frmAnalysis::cmdAnalyse_Click() {
     ShowTable();
 }
 
-/// A load editor that is loaded shows the rows in normal form, out of sight until it is opened
-/// again; one that is not reads them when it is opened.
+/// The load editors show the rows in normal form, out of sight until they are opened again.
 void frmAnalysis::refillLoads(const Analysis& analysis) {
-    if (auto* udl = context_.forms.Loaded<frmUDL>()) {
-        udl->Refill(analysis.udls.rows);
-        udl->Hide();
-    }
-    if (auto* point = context_.forms.Loaded<frmPoint>()) {
-        point->Refill(analysis.points.rows);
-        point->Hide();
-    }
+    auto& point = context_.forms.Get<frmPoint>();
+    auto& udl = context_.forms.Get<frmUDL>();
+    point.Refill(analysis.points.rows);
+    udl.Refill(analysis.udls.rows);
+    udl.Hide();
+    point.Hide();
 }
 
 }  // namespace trabeon
