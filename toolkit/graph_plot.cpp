@@ -202,7 +202,10 @@ void Graph::Plot::FitCurve() {
     const double whole =
         curve.isEmpty() ? 0 : (curve.constEnd() - 1)->key - curve.constBegin()->key;
     const double inSight = whole > 0 ? std::min(1.0, xAxis->range().size() / whole) : 1;
-    const bool dense = shown * inSight > ManyPerPixel * viewport().width();
+    const double perPixel = shown * inSight / std::max(1, viewport().width());
+    const bool dense = perPixel > ManyPerPixel;
+    // Joins between segments of a pixel cannot be seen, and one long outline costs far more.
+    setPlottingHint(QCP::phFastPolylines, perPixel > 1);
     graph(0)->setPen(QPen(Curve, dense ? 1 : 1.6));
     graph(0)->setBrush(dense ? QBrush() : QColor(Curve.red(), Curve.green(), Curve.blue(), 38));
 }
