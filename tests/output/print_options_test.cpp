@@ -10,6 +10,10 @@ namespace {
 
 class PrintOptions : public ProgramTest {
   protected:
+    void TearDown() override {
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr) << "a wait cursor is left";
+    }
+
     frmPrintOptions& Open() {
         forms().Register<frmPrintOptions>(context());
         Start();
@@ -99,6 +103,9 @@ TEST_F(PrintOptions, LotusSavesAndOpensTheWholeDocument) {
     EXPECT_TRUE(TemporaryFolder::readFile(docx).starts_with("PK"));
     EXPECT_TRUE(outside.lastQuestion.asksBeforeOverwriting);
     EXPECT_EQ(outside.lastQuestion.suffix, "docx");
+    outside.waited.erase("copy check");
+    EXPECT_EQ(outside.waited, (std::map<std::string, bool>{
+                                  {"picture", true}, {"save", false}, {"document", false}}));
     for (const auto* name :
          {"frmMoment1", "frmShear1", "frmContinuousTB", "frmContinuousS", "frmBMData", "frmSData"})
         EXPECT_FALSE(forms().IsLoaded(name)) << name;
@@ -132,14 +139,31 @@ TEST_F(PrintOptions, ADocumentWithoutAProgramSaysWhereItIs) {
 TEST_F(PrintOptions, AFailedSaveLeavesTheOldFileAndSaysWhy) {
     auto& form = Open();
     folder.write("beam.docx", "old");
-    std::filesystem::create_directory(folder / "beam.docx.new");
     const auto docx = (folder / "beam.docx").string();
-    outside.ExpectSave("Save the Document", docx);
-    outside.ExpectMsgBox("\"" + docx +
+    const auto beside = folder / "beam.docx.new";
+    const auto failsWith = [&](const std::string& why) {
+        outside.ExpectSave("Save the Document", docx);
+        outside.ExpectMsgBox("\"" + docx + "\" could not be written (" + why +
+                             "). What stood there before is unchanged; make room or choose another "
+                             "folder, then try again.");
+        Click(form.cmdLotus);
+        EXPECT_EQ(folder.read("beam.docx"), "old");
+    };
+    std::filesystem::create_symlink("/dev/full", beside);
+    failsWith("No space left on device");
+    EXPECT_FALSE(std::filesystem::is_symlink(beside));
+    std::filesystem::create_directory(beside);
+    failsWith("Is a directory");
+}
+
+TEST_F(PrintOptions, AScratchFileThatCannotBeWrittenEndsTheDocument) {
+    auto& form = Open();
+    Press(form.chkTB, Qt::Key_Space);
+    std::filesystem::create_directory(folder / "TB.tmp.new");
+    outside.ExpectMsgBox("\"" + (folder / "TB.tmp").string() +
                          "\" could not be written (Is a directory). What stood there before is "
                          "unchanged; make room or choose another folder, then try again.");
     Click(form.cmdLotus);
-    EXPECT_EQ(folder.read("beam.docx"), "old");
 }
 
 TEST_F(PrintOptions, APlainPressOfWordEndsWithItsMessage) {
