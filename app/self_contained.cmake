@@ -2,8 +2,8 @@
 # that is installed. `programs` and `plugin_folder` are set by the caller.
 # Left to the system is what belongs to its drivers and its display, and what no Debian goes without.
 set(of_the_system
-    "^ld-linux" "^lib(c|m|dl|rt|pthread|resolv|util|stdc\\+\\+|gcc_s|gomp|asan|ubsan)\\.so"
-    "^lib(X11|X11-xcb|xcb|Xau|Xdmcp|bsd|md)\\.so" "^lib(GL|EGL|GLX|OpenGL|GLdispatch|gbm|drm)\\.so"
+    "^ld-linux" "^lib(c|m|dl|rt|pthread|resolv|util|stdc\\+\\+|gcc_s|asan|ubsan)\\.so"
+    "^lib(X11|X11-xcb|xcb|Xau|Xdmcp|bsd|md)\\.so" "^lib(GL|EGL|GLX|GLdispatch|gbm|drm)\\.so"
     "^lib(fontconfig|freetype|expat|brotli.*|png16|z|bz2)\\.so" "^libcups"
     "^lib(systemd|gcrypt|gpg-error|cap|lz4|lzma|zstd|pcre2-8|selinux|mount|blkid|uuid|ffi)\\.so")
 
