@@ -30,6 +30,10 @@ class PrintOptions : public ProgramTest {
         Click(forms().Get<frmAnalysis>().cmdAnalyse);
     }
 
+    static std::string TextOf(const Control& control) {
+        return control.Widget()->property("text").toString().toStdString();
+    }
+
     /// Words that stand in a PDF's bare parts, as its page objects.
     static int Count(const std::string& text, const std::string& words) {
         int count = 0;
@@ -43,10 +47,24 @@ TEST_F(PrintOptions, ComesUpWithItsTicks) {
     const auto& form = Open();
     EXPECT_EQ(form.Caption(), "Printing Options");
     EXPECT_EQ(form.Height(), 5205);  // 5200, in whole pixels
-    for (const auto* ticked : {&form.chkJoint, &form.chkMember, &form.chkLoad, &form.chkBMSV,
-                               &form.chkBMSDBY, &form.chkCBMS, &form.chkBeamDim, &form.chkDesign})
-        EXPECT_TRUE(ticked->Value());
-    EXPECT_FALSE(form.chkTB.Value());
+    for (const auto& [box, caption] :
+         {std::pair{&form.chkJoint, "Joint Data (Text Format)"},
+          {&form.chkMember, "Member Data (Text Format)"},
+          {&form.chkLoad, "Loading Data (Text Format)"},
+          {&form.chkTB, "Trabeon Results"},
+          {&form.chkBMSV, "Bending Moment And Shear Force Values"},
+          {&form.chkBMSDBY, "Bending Moment And Shear Force Diagram By Members"},
+          {&form.chkCBMS, "Continuous Bending Moment And Shear Force Diagram"},
+          {&form.chkBeamDim, "Beam Dimensions and Properties"},
+          {&form.chkDesign, "Design Results"}}) {
+        EXPECT_EQ(TextOf(*box), caption);
+        EXPECT_EQ(box->Value(), box != &form.chkTB) << caption;
+    }
+    for (const auto& [button, caption] : {std::pair{&form.cmdPrint, "&Print"},
+                                          {&form.cmdWord, "Use &Word For Windows To Print"},
+                                          {&form.cmdLotus, "Lotus To Print"}})
+        EXPECT_EQ(TextOf(*button), caption);
+    EXPECT_EQ(TextOf(form.optLand) + "/" + TextOf(form.optPot), "Landscape/Potrait");
     EXPECT_TRUE(form.optLand.Value());
     EXPECT_TRUE(form.chkJoint.HasFocus());
 }
