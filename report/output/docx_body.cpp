@@ -304,8 +304,19 @@ class Body {
         width("tcW", cellWidth);
         end();
         begin("p");
+        if (cell.empty())
+            markOf(points);
         for (const auto& run : cell)
             write(run, std::min(run.style.points, points));
+        end();
+        end();
+    }
+
+    /// The paragraph's end, which alone makes an empty cell as high as it is.
+    void markOf(double points) {
+        begin("pPr");
+        begin("rPr");
+        value("sz", whole(points * 2));
         end();
         end();
     }

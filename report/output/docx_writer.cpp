@@ -67,8 +67,11 @@ class Zip {
 
     void add(const QString& name, const QByteArray& content) {
         QuaZipFile file(&zip_);
-        good_ = good_ && file.open(QIODevice::WriteOnly, QuaZipNewInfo(name)) &&
-                file.write(content) == content.size();
+        QuaZipNewInfo info(name);
+        info.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup |
+                            QFile::ReadOther);
+        good_ =
+            good_ && file.open(QIODevice::WriteOnly, info) && file.write(content) == content.size();
         file.close();
         good_ = good_ && file.getZipError() == ZIP_OK;
     }

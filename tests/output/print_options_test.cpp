@@ -10,6 +10,10 @@ namespace {
 
 class PrintOptions : public ProgramTest {
   protected:
+    void TearDown() override {
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr) << "a wait cursor is left";
+    }
+
     frmPrintOptions& Open() {
         forms().Register<frmPrintOptions>(context());
         Start();
@@ -26,6 +30,10 @@ class PrintOptions : public ProgramTest {
         Click(forms().Get<frmAnalysis>().cmdAnalyse);
     }
 
+    static std::string TextOf(const Control& control) {
+        return control.Widget()->property("text").toString().toStdString();
+    }
+
     /// Words that stand in a PDF's bare parts, as its page objects.
     static int Count(const std::string& text, const std::string& words) {
         int count = 0;
@@ -39,10 +47,24 @@ TEST_F(PrintOptions, ComesUpWithItsTicks) {
     const auto& form = Open();
     EXPECT_EQ(form.Caption(), "Printing Options");
     EXPECT_EQ(form.Height(), 5205);  // 5200, in whole pixels
-    for (const auto* ticked : {&form.chkJoint, &form.chkMember, &form.chkLoad, &form.chkBMSV,
-                               &form.chkBMSDBY, &form.chkCBMS, &form.chkBeamDim, &form.chkDesign})
-        EXPECT_TRUE(ticked->Value());
-    EXPECT_FALSE(form.chkTB.Value());
+    for (const auto& [box, caption] :
+         {std::pair{&form.chkJoint, "Joint Data (Text Format)"},
+          {&form.chkMember, "Member Data (Text Format)"},
+          {&form.chkLoad, "Loading Data (Text Format)"},
+          {&form.chkTB, "Trabeon Results"},
+          {&form.chkBMSV, "Bending Moment And Shear Force Values"},
+          {&form.chkBMSDBY, "Bending Moment And Shear Force Diagram By Members"},
+          {&form.chkCBMS, "Continuous Bending Moment And Shear Force Diagram"},
+          {&form.chkBeamDim, "Beam Dimensions and Properties"},
+          {&form.chkDesign, "Design Results"}}) {
+        EXPECT_EQ(TextOf(*box), caption);
+        EXPECT_EQ(box->Value(), box != &form.chkTB) << caption;
+    }
+    for (const auto& [button, caption] : {std::pair{&form.cmdPrint, "&Print"},
+                                          {&form.cmdWord, "Use &Word For Windows To Print"},
+                                          {&form.cmdLotus, "Lotus To Print"}})
+        EXPECT_EQ(TextOf(*button), caption);
+    EXPECT_EQ(TextOf(form.optLand) + "/" + TextOf(form.optPot), "Landscape/Potrait");
     EXPECT_TRUE(form.optLand.Value());
     EXPECT_TRUE(form.chkJoint.HasFocus());
 }
@@ -99,6 +121,9 @@ TEST_F(PrintOptions, LotusSavesAndOpensTheWholeDocument) {
     EXPECT_TRUE(TemporaryFolder::readFile(docx).starts_with("PK"));
     EXPECT_TRUE(outside.lastQuestion.asksBeforeOverwriting);
     EXPECT_EQ(outside.lastQuestion.suffix, "docx");
+    outside.waited.erase("copy check");
+    EXPECT_EQ(outside.waited, (std::map<std::string, bool>{
+                                  {"picture", true}, {"save", false}, {"document", false}}));
     for (const auto* name :
          {"frmMoment1", "frmShear1", "frmContinuousTB", "frmContinuousS", "frmBMData", "frmSData"})
         EXPECT_FALSE(forms().IsLoaded(name)) << name;
@@ -132,14 +157,31 @@ TEST_F(PrintOptions, ADocumentWithoutAProgramSaysWhereItIs) {
 TEST_F(PrintOptions, AFailedSaveLeavesTheOldFileAndSaysWhy) {
     auto& form = Open();
     folder.write("beam.docx", "old");
-    std::filesystem::create_directory(folder / "beam.docx.new");
     const auto docx = (folder / "beam.docx").string();
-    outside.ExpectSave("Save the Document", docx);
-    outside.ExpectMsgBox("\"" + docx +
+    const auto beside = folder / "beam.docx.new";
+    const auto failsWith = [&](const std::string& why) {
+        outside.ExpectSave("Save the Document", docx);
+        outside.ExpectMsgBox("\"" + docx + "\" could not be written (" + why +
+                             "). What stood there before is unchanged; make room or choose another "
+                             "folder, then try again.");
+        Click(form.cmdLotus);
+        EXPECT_EQ(folder.read("beam.docx"), "old");
+    };
+    std::filesystem::create_symlink("/dev/full", beside);
+    failsWith("No space left on device");
+    EXPECT_FALSE(std::filesystem::is_symlink(beside));
+    std::filesystem::create_directory(beside);
+    failsWith("Is a directory");
+}
+
+TEST_F(PrintOptions, AScratchFileThatCannotBeWrittenEndsTheDocument) {
+    auto& form = Open();
+    Press(form.chkTB, Qt::Key_Space);
+    std::filesystem::create_directory(folder / "TB.tmp.new");
+    outside.ExpectMsgBox("\"" + (folder / "TB.tmp").string() +
                          "\" could not be written (Is a directory). What stood there before is "
                          "unchanged; make room or choose another folder, then try again.");
     Click(form.cmdLotus);
-    EXPECT_EQ(folder.read("beam.docx"), "old");
 }
 
 TEST_F(PrintOptions, APlainPressOfWordEndsWithItsMessage) {

@@ -2,32 +2,46 @@
 
 #include <gtest/gtest.h>
 
+#include <QFontInfo>
+#include <QFontMetricsF>
+
+#include "toolkit/look.h"
+#include "toolkit/printer.h"
+
 namespace trabeon::test {
 namespace {
 
 constexpr OutputKinds nothing{false, false, false, false, false, false, false, false, false};
+constexpr OutputKinds joints{true, false, false, false, false, false, false, false, false};
+constexpr OutputKinds loads{false, false, true, false, false, false, false, false, false};
+constexpr OutputKinds table{false, false, false, true, false, false, false, false, false};
 
-OutputKinds only(bool OutputKinds::*kind) {
-    OutputKinds kinds = nothing;
-    kinds.*kind = true;
-    return kinds;
-}
-
-PrintSource source(std::size_t joints) {
-    PrintSource source{"HEAD", {}, {}, {}, {}, ""};
-    for (std::size_t i = 1; i <= joints; ++i)
+PrintSource source(std::size_t jointRows, const std::string& balanceTable = "") {
+    PrintSource source{"HEAD", {}, {}, {}, {}, balanceTable};
+    for (std::size_t i = 1; i <= jointRows; ++i)
         source.joints.push_back({std::to_string(i), "Fixed", "None"});
     return source;
 }
 
-std::vector<std::string> texts(const PrintedPage& page) {
-    std::vector<std::string> texts;
-    for (const auto& line : page.lines)
-        texts.push_back(line.text);
-    return texts;
+using Texts = std::vector<std::string>;
+
+/// The texts of each page; every line must stand below the one before it, from the corner on.
+std::vector<Texts> printed(const std::vector<PrintedPage>& pages) {
+    std::vector<Texts> all;
+    for (const auto& page : pages) {
+        auto& texts = all.emplace_back();
+        for (const auto& [x, y, text] : page.lines) {
+            EXPECT_EQ(x, 20);
+            EXPECT_NEAR(y, 20 + 3.2 * static_cast<double>(texts.size()), 1e-9);
+            texts.push_back(text);
+        }
+    }
+    return all;
 }
 
-using Texts = std::vector<std::string>;
+std::vector<Texts> printed(const PrintSource& source, const OutputKinds& kinds) {
+    return printed(printedPages(source, kinds, false));
+}
 
 TEST(PrintHeadingLine, HasNoBlankBehindDesigner) {
     EXPECT_EQ(printHeadingLine("P", "D", "Monday", "9:5:7"),
@@ -35,113 +49,94 @@ TEST(PrintHeadingLine, HasNoBlankBehindDesigner) {
 }
 
 TEST(PrintedPages, NothingTickedIsABlankPage) {
-    const auto pages = printedPages(source(3), nothing, true);
-    ASSERT_EQ(pages.size(), 1U);
-    EXPECT_TRUE(pages[0].lines.empty());
-    EXPECT_FALSE(pages[0].landscape);
+    EXPECT_EQ(printed(source(3), nothing), std::vector<Texts>{{}});
 }
 
-TEST(PrintedPages, RowsStandBelowTheirTitleInMillimetres) {
-    const auto pages = printedPages(source(1), only(&OutputKinds::joints), true);
-    ASSERT_EQ(pages.size(), 1U);
-    EXPECT_FALSE(pages[0].landscape);  // the orientation is that of the balance table alone
-    ASSERT_EQ(texts(pages[0]), (Texts{"HEAD", "Joint Data", "1     Fixed     None"}));
-    for (std::size_t i = 0; i < 3; ++i) {
-        EXPECT_EQ(pages[0].lines[i].x, 20);
-        EXPECT_NEAR(pages[0].lines[i].y, 20 + 3.2 * static_cast<double>(i), 1e-9);
-    }
-}
-
-TEST(PrintedPages, AllRowKindsInTheirOrder) {
+TEST(PrintedPages, HoldTheRowKindsInTheirOrder) {
     PrintSource all = source(1);
     all.members = {{"1", "200", "2", "6", "None"}};
     all.points = {{"1", "2", "10", "Q"}};
     all.udls = {{"1", "0", "6", "12", "13", "R"}};
-    OutputKinds kinds;  // as they are ticked at start: the five others change nothing
-    const auto pages = printedPages(all, kinds, true);
-    ASSERT_EQ(pages.size(), 1U);
     EXPECT_EQ(
-        texts(pages[0]),
-        (Texts{"HEAD", "Joint Data", "1     Fixed     None", "HEAD", "Member Data",
-               "1     200     2     6     None", "HEAD", "Point Load Data", "1     2     10     Q",
-               "Uniformly Distributed Load Data", "1     0     6     12     13     R"}));
+        printed(all, {}),  // as they are ticked at start: the five others change nothing
+        (std::vector<Texts>{{"HEAD", "Joint Data", "1     Fixed     None", "HEAD", "Member Data",
+                             "1     200     2     6     None", "HEAD", "Point Load Data",
+                             "1     2     10     Q", "Uniformly Distributed Load Data",
+                             "1     0     6     12     13     R"}}));
+    EXPECT_EQ(printed(source(0), loads),
+              (std::vector<Texts>{{"HEAD", "Point Load Data", "Uniformly Distributed Load Data"}}));
 }
 
-TEST(PrintedPages, EmptyFilesPrintTheirHeadings) {
-    const auto pages = printedPages(source(0), only(&OutputKinds::loads), false);
-    EXPECT_EQ(texts(pages.at(0)),
-              (Texts{"HEAD", "Point Load Data", "Uniformly Distributed Load Data"}));
-}
-
-TEST(PrintedPages, APageOfRowsHoldsFiftyFiveLines) {
-    const auto full = printedPages(source(52), only(&OutputKinds::joints), false);
-    ASSERT_EQ(full.size(), 1U);
-    EXPECT_EQ(full[0].lines.size(), 54U);
-
-    const auto turned = printedPages(source(53), only(&OutputKinds::joints), false);
-    ASSERT_EQ(turned.size(), 2U);  // the 55th line turns the page at once
-    EXPECT_EQ(turned[0].lines.size(), 55U);
-    EXPECT_NEAR(turned[0].lines.back().y, 192.8, 1e-9);
-    EXPECT_EQ(texts(turned[1]), Texts{"HEAD"});
-    EXPECT_EQ(turned[1].lines[0].y, 20);
-
-    const auto long_ = printedPages(source(53 + 54), only(&OutputKinds::joints), false);
-    ASSERT_EQ(long_.size(), 3U);  // the heading and 54 rows: the heading's line counts 2, then 3
-    EXPECT_EQ(long_[1].lines.size(), 55U);
-    EXPECT_EQ(texts(long_[2]), Texts{"HEAD"});
+TEST(PrintedPages, OfRowsHoldFiftyFiveLines) {
+    using Sizes = std::vector<std::size_t>;
+    for (const auto& [rows, lines] : {std::pair{52, Sizes{54}},  // two of them above the rows
+                                      {53, Sizes{55, 1}},        // the 55th turns the page at once
+                                      {53 + 53, Sizes{55, 54}},  // the heading's line counts 2
+                                      {53 + 54, Sizes{55, 55, 1}}}) {
+        Sizes found;
+        for (const auto& page : printed(source(static_cast<std::size_t>(rows)), joints)) {
+            EXPECT_EQ(page[0], "HEAD");
+            found.push_back(page.size());
+        }
+        EXPECT_EQ(found, lines) << rows;
+    }
 }
 
 TEST(StripCount, IsTheLeastThatHoldsTheLineAndAtLeastOne) {
-    EXPECT_EQ(stripCount(0, 84), 1U);
-    EXPECT_EQ(stripCount(9, 84), 1U);
-    EXPECT_EQ(stripCount(94, 84), 1U);
-    EXPECT_EQ(stripCount(95, 84), 2U);
-    EXPECT_EQ(stripCount(10 + 168, 84), 2U);
-    EXPECT_EQ(stripCount(10 + 169, 84), 3U);
-    EXPECT_EQ(stripCount(66, 56), 1U);
-    EXPECT_EQ(stripCount(67, 56), 2U);
+    for (const auto& [length, width, strips] : {std::array{0, 84, 1},
+                                                {9, 84, 1},
+                                                {94, 84, 1},
+                                                {95, 84, 2},
+                                                {178, 84, 2},
+                                                {179, 84, 3},
+                                                {66, 56, 1},
+                                                {67, 56, 2}})
+        EXPECT_EQ(stripCount(static_cast<std::size_t>(length), static_cast<std::size_t>(width)),
+                  static_cast<std::size_t>(strips))
+            << length;
 }
 
-TEST(PrintedPages, TheBalanceTableGoesInStrips) {
-    PrintSource table = source(0);
+TEST(PrintedPages, OfTheBalanceTableAreStrips) {
     const std::string label = "Final     ", first(56, 'a'), second(56, 'b');
-    table.balanceTable = label + first + second + "c\r\n" + label + "short";
-    const auto pages = printedPages(table, only(&OutputKinds::table), false);
-    ASSERT_EQ(pages.size(), 4U);  // a blank one, then the strips
-    EXPECT_TRUE(pages[0].lines.empty());
-    EXPECT_EQ(texts(pages[1]),
-              (Texts{"HEAD", "Trabeon Results    Page  1 of  3", label + first, label + "short"}));
-    EXPECT_EQ(texts(pages[2]),
-              (Texts{"HEAD", "Trabeon Results    Page  2 of  3", label + second, label}));
-    EXPECT_EQ(texts(pages[3]),
-              (Texts{"HEAD", "Trabeon Results    Page  3 of  3", label + "c", label}));
-    EXPECT_NEAR(pages[2].lines[0].y, 20, 1e-9);
-    EXPECT_FALSE(pages[3].landscape);
-
-    const auto wide = printedPages(table, only(&OutputKinds::table), true);
-    ASSERT_EQ(wide.size(), 3U);
-    EXPECT_EQ(wide[1].lines[2].text, label + first + std::string(28, 'b'));
-    EXPECT_FALSE(printedPages(table, {}, true)[0].landscape);
+    const auto strips = source(0, label + first + second + "c\r\n" + label + "short");
+    const std::string page = "Trabeon Results    Page  ";
+    EXPECT_EQ(printed(strips, table),
+              (std::vector<Texts>{{},  // the rows' page
+                                  {"HEAD", page + "1 of  3", label + first, label + "short"},
+                                  {"HEAD", page + "2 of  3", label + second, label},
+                                  {"HEAD", page + "3 of  3", label + "c", label}}));
+    const auto wide = printedPages(strips, table, true);
+    EXPECT_EQ(printed(wide).at(1).at(2), label + first + std::string(28, 'b'));
+    EXPECT_FALSE(wide[0].landscape);
     EXPECT_TRUE(wide[1].landscape && wide[2].landscape);
+    EXPECT_FALSE(printedPages(strips, table, false)[3].landscape);
+    EXPECT_FALSE(printedPages(strips, joints, true)[0].landscape);
 }
 
-TEST(PrintedPages, ALongBalanceTableGoesOnUnderItsPageLine) {
-    PrintSource table = source(0);
-    for (int i = 0; i < 60; ++i)
-        table.balanceTable += (i == 0 ? "" : "\r\n") + std::string("Row ") + std::to_string(i);
-    const auto pages = printedPages(table, only(&OutputKinds::table), true);
+TEST(PrintedPages, OfALongBalanceTableGoOnUnderTheirPageLine) {
+    std::string rows = "Row 0";
+    for (int i = 1; i < 60; ++i)
+        rows += "\r\nRow " + std::to_string(i);
+    const auto pages = printed(source(0, rows), table);
     ASSERT_EQ(pages.size(), 3U);
-    EXPECT_EQ(pages[1].lines.size(), 2 + 53U);
-    EXPECT_NEAR(pages[1].lines.back().y + printLineHeight, 196, 1e-9);  // fits 210 mm
-    EXPECT_EQ(pages[1].lines.back().text, "Row 52");
-    EXPECT_EQ(texts(pages[2])[1], "Trabeon Results    Page  1 of  1");
-    EXPECT_EQ(texts(pages[2])[2], "Row 53");
-    EXPECT_EQ(pages[2].lines.size(), 2 + 7U);
+    EXPECT_EQ(pages[1].size(), 2 + 53U);
+    EXPECT_EQ(pages[1].back(), "Row 52");
+    EXPECT_EQ(Texts(pages[2].begin(), pages[2].begin() + 3),
+              (Texts{"HEAD", "Trabeon Results    Page  1 of  1", "Row 53"}));
+    EXPECT_EQ(pages[2].size(), 2 + 7U);
+    EXPECT_EQ(printed(source(0), table).at(1), (Texts{"HEAD", "Trabeon Results    Page  1 of  1"}));
 }
 
-TEST(PrintedPages, AnEmptyBalanceTableHasItsHeadings) {
-    const auto pages = printedPages(source(0), only(&OutputKinds::table), true);
-    EXPECT_EQ(texts(pages.at(1)), (Texts{"HEAD", "Trabeon Results    Page  1 of  1"}));
+TEST(PrintedPages, AreInAFaceOfWhichTheirLinesFitInLandscapeToo) {
+    EXPECT_LE(printCorner + 55 * printLineHeight, 210);
+    const QFont font = FontNamed("Courier New", Printer::FontSize, false);
+    EXPECT_TRUE(QFontInfo(font).fixedPitch());
+    const double millimetresPerDot = 25.4 / 96;
+    EXPECT_LE(QFontMetricsF(font).height() * millimetresPerDot, 1.1 * printLineHeight);
+    for (const auto& [characters, width] : {std::pair{94, 297}, {66, 210}})
+        EXPECT_LE(printCorner + QFontMetricsF(font).horizontalAdvance(QString(characters, 'M')) *
+                                    millimetresPerDot,
+                  width - 20);
 }
 
 }  // namespace

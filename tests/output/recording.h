@@ -23,14 +23,17 @@ class RecordingProcessor : public WordProcessor {
         calls.push_back(line);
     }
 
-    /// The calls of some members, in their order.
-    [[nodiscard]] Calls of(const std::vector<std::string>& members) const {
-        Calls found;
-        for (const auto& call : calls)
-            for (const auto& member : members)
-                if (call.starts_with(member))
-                    found.push_back(call);
-        return found;
+    /// The calls, a line each; "6 x" before one that comes six times in a row.
+    [[nodiscard]] std::string text() const {
+        std::string text;
+        for (auto call = calls.begin(); call != calls.end();) {
+            const auto next = std::find_if(call, calls.end(), [&](auto& c) { return c != *call; });
+            if (next - call > 2)
+                text += std::to_string(next - call) + " x ";
+            text += *call + '\n';
+            call = next - call == 2 ? call + 1 : next;
+        }
+        return text;
     }
 
     Calls calls;

@@ -4,9 +4,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QCursor>
+#include <QGuiApplication>
 #include <QImage>
 #include <QPrinter>
 #include <deque>
+#include <map>
 #include <string>
 
 #include "toolkit/outside.h"
@@ -45,9 +48,10 @@ class ScriptedOutside : public Outside {
 
     std::string clipboardText;
     QImage clipboardPicture;
-    int lastStyle = 0;            // of the last message box
-    std::string lastTitle;        // of the last message box
-    FileQuestion lastQuestion{};  // of the last file dialog
+    int lastStyle = 0;                   // of the last message box
+    std::string lastTitle;               // of the last message box
+    FileQuestion lastQuestion{};         // of the last file dialog
+    std::map<std::string, bool> waited;  // whether the wait cursor showed, last time, by kind
     // A4, and 3.5 mm at each edge that a printer cannot reach.
     Paper paper{11900, 16840, 11500, 16440, 200, 200};
 
@@ -65,6 +69,7 @@ class ScriptedOutside : public Outside {
         clipboardPicture = QImage();
     }
     void PutPicture(const QImage& put) override {
+        NoteCursor("picture");
         clipboardPicture = put;
         clipboardText.clear();
     }
@@ -95,7 +100,13 @@ class ScriptedOutside : public Outside {
         std::string path;
     };
 
+    void NoteCursor(const std::string& kind) {
+        const QCursor* cursor = QGuiApplication::overrideCursor();
+        waited[kind] = cursor != nullptr && cursor->shape() == Qt::WaitCursor;
+    }
+
     Step Next(const std::string& kind, const std::string& asked) {
+        NoteCursor(kind);
         if (script_.empty()) {
             ADD_FAILURE() << "Not expected: " << kind << " \"" << asked << "\"";
             return {kind, asked, Answer::Cancel, ""};

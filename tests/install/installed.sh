@@ -1,0 +1,52 @@
+#!/usr/bin/env bash
+# Installs the program into a folder, moves that, and does from there what a user does: the three
+# programs run on the folder's own libraries, and the desktop's entry finds the program.
+# Arguments: cmake, and the folder of the build.
+set -euo pipefail
+
+work=$(mktemp -d)
+trap 'kill $(jobs -p) 2>/dev/null || true; wait 2>/dev/null || true; rm -rf "$work"' EXIT
+fail() { echo "FAILED: $*" >&2; exit 1; }
+until_true() {
+    for _ in $(seq 600); do "$@" && return 0; sleep 0.05; done
+    fail "waited in vain for: $*"
+}
+
+"$1" --install "$2" --prefix "$work/installed" > "$work/log" || fail "cmake --install"
+here="$work/my beams/Trabeon"
+mkdir "$work/my beams" && mv "$work/installed" "$here"
+cd /
+unset QT_PLUGIN_PATH LD_LIBRARY_PATH DISPLAY WAYLAND_DISPLAY
+export QT_QPA_PLATFORM=offscreen HOME=$work XDG_RUNTIME_DIR=$work XDG_DATA_HOME=$work/data
+export ASAN_OPTIONS=detect_leaks=0
+
+example=$here/examples/five-span-with-cantilever.TB
+"$here/trabeon-batch" run "$example" | grep '^Final ' > /dev/null || fail "trabeon-batch"
+LD_DEBUG=libs "$here/trabeon-report" "$example" --out "$work/beam.docx" 2> "$work/libraries" ||
+    fail "trabeon-report"
+test -s "$work/beam.docx" || fail "no document"
+LD_DEBUG=libs "$here/trabeon" 2>> "$work/libraries" &
+until_true test -e "$here/Joint.txt"
+kill $! && wait $! || true
+grep -q "calling init: $here/plugins/platforms/libqoffscreen" "$work/libraries" ||
+    fail "the plugins are not the folder's"
+if grep 'calling init: .*lib\(Qt6\|QCustomPlot\|quazip\|q[a-z]*\.so\)' "$work/libraries" | grep -vF "$here/"; then
+    fail "the libraries above are not the folder's"
+fi
+
+if command -v desktop-file-validate > /dev/null; then desktop-file-validate "$here/trabeon.desktop"; fi
+"$here/add-to-menu"
+entry=$XDG_DATA_HOME/applications/trabeon.desktop
+test -e "$entry" -a -e "$XDG_DATA_HOME/icons/hicolor/256x256/apps/trabeon.png" || fail "no entry"
+
+# A starter hands the entry's place on where its line says %k.
+printf '#!/bin/sh\necho started > "%s/started"\n' "$work" > "$here/trabeon"
+line=$(sed -n 's/^Exec=//p' "$here/trabeon.desktop" | sed 's/\\\\/\\/g')
+for file in "$here/trabeon.desktop" "$entry"; do
+    rm -f "$work/started"
+    eval "${line/\%k/\"\$file\"}"
+    test -e "$work/started" || fail "$file starts nothing"
+done
+rm -r "$here"
+test ! -e "$entry" || fail "the entry outlives the folder"
+echo "The installed folder works."
