@@ -194,29 +194,17 @@ void Graph::Plot::FitToSize() {
     yAxis->ticker()->setTickCount(std::clamp(viewport().height() / 36, 3, 8));
 }
 
-// Where many points fall on a pixel, or the curve crosses the axis every few pixels, it makes a
-// block of colour anyway: there a hair line without a fill looks the same and costs a fiftieth.
+// Many points to a pixel make a block of colour anyway: there a hair line without a fill looks the
+// same and costs a fiftieth.
 void Graph::Plot::FitCurve() {
-    constexpr double ManyPerPixel = 6, PixelsBetweenCrossings = 4;
+    constexpr double ManyPerPixel = 6;
     const auto& curve = *graph(0)->data();
     const double whole =
         curve.isEmpty() ? 0 : (curve.constEnd() - 1)->key - curve.constBegin()->key;
     const double inSight = whole > 0 ? std::min(1.0, xAxis->range().size() / whole) : 1;
-    const double perPixel = inSight / std::max(1, viewport().width());
-    const bool dense =
-        shown * perPixel > ManyPerPixel || Crossings() * perPixel * PixelsBetweenCrossings > 1;
-    // Joins between segments of a pixel cannot be seen, and one long outline costs far more.
-    setPlottingHint(QCP::phFastPolylines, shown * perPixel > 1);
+    const bool dense = shown * inSight > ManyPerPixel * viewport().width();
     graph(0)->setPen(QPen(Curve, dense ? 1 : 1.6));
     graph(0)->setBrush(dense ? QBrush() : QColor(Curve.red(), Curve.green(), Curve.blue(), 38));
-}
-
-int Graph::Plot::Crossings() const {
-    const auto& curve = *graph(0)->data();
-    int crossings = 0;
-    for (auto point = curve.constBegin(); point != curve.constEnd(); ++point)
-        crossings += point != curve.constBegin() && point->value * (point - 1)->value < 0;
-    return crossings;
 }
 
 void Graph::Plot::Rescale() {

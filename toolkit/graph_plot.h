@@ -48,7 +48,6 @@ class Graph::Plot : public QCustomPlot {
     void FitToSize();
     int FitTitles();
     void FitCurve();
-    int Crossings() const;  // of the axis by the curve
     void FitMarks();
     void Rescale();
     void PlaceLabels();
