@@ -8,6 +8,19 @@
 
 namespace trabeon {
 
+namespace {
+
+/// False: the user has been told why not.
+bool saved(const Document& document, const std::string& file) {
+    const WaitCursor wait;
+    const auto failure = writeDocument(document, file);
+    if (failure)
+        warn(failure->sentence);
+    return !failure;
+}
+
+}  // namespace
+
 Failure writeDocument(const Document& document, const std::filesystem::path& file) {
     const auto bytes = docxBytes(document);
     if (!bytes)
@@ -18,16 +31,12 @@ Failure writeDocument(const Document& document, const std::filesystem::path& fil
 void saveAndOpen(const Document& document) {
     FileQuestion question{true, true, "Save the Document", "Word Document (*.docx) |*.docx", ""};
     question.suffix = "docx";
-    const auto file = Outside::Current().AskFile(question);
-    if (file.empty())
-        return;
-    {
-        const WaitCursor wait;
-        if (const auto failure = writeDocument(document, file)) {
-            warn(failure->sentence);
+    std::string file;
+    do {
+        file = Outside::Current().AskFile(question);
+        if (file.empty())
             return;
-        }
-    }
+    } while (!saved(document, file));
     if (!Outside::Current().OpenDocument(file))
         warn("The document was saved as \"" + file +
              "\". This desktop has no program for it; open it with a word processor.");

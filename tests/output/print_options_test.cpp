@@ -164,6 +164,7 @@ TEST_F(PrintOptions, AFailedSaveLeavesTheOldFileAndSaysWhy) {
         outside.ExpectMsgBox("\"" + docx + "\" could not be written (" + why +
                              "). What stood there before is unchanged; make room or choose another "
                              "folder, then try again.");
+        outside.ExpectSave("Save the Document", "");  // it asks again, and the user draws back
         Click(form.cmdLotus);
         EXPECT_EQ(folder.read("beam.docx"), "old");
     };
