@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "toolkit/look.h"
+#include "toolkit/picture_file.h"
 
 namespace trabeon {
 
@@ -236,7 +237,7 @@ QImage Graph::Plot::PictureOf(QSize size, double ratio) {
     QImage picture = toPixmap(size.width(), size.height(), ratio).toImage();
     setViewport(onScreen);
     Prepare();
-    picture.setDevicePixelRatio(ratio);
+    SetRatio(picture, ratio);
     return picture;
 }
 
