@@ -55,10 +55,10 @@ class SmoothDrawer : public QObject, public QTextObjectInterface {
             QString("%1 %2 %3").arg(format.name()).arg(size.width()).arg(size.height());
         if (const QImage* known = scaled_.object(key))
             return *known;
-        const QImage whole = QImage::fromData(PngIn(text, format));
+        QImage whole = QImage::fromData(PngIn(text, format));
         if (size.width() >= whole.width() || size.height() >= whole.height())
             return whole;
-        const auto made = whole.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        auto made = whole.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         scaled_.insert(key, new QImage(made), made.sizeInBytes());
         return made;
     }
