@@ -1,15 +1,18 @@
 #include "report/PrintReport.h"
 
+#include "report/pages.h"
 #include "toolkit/page_printer.h"
 #include "toolkit/rich_text_box.h"
+#include "toolkit/wait_cursor.h"
 
 namespace trabeon {
 
-Printed PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, int rightMargin,
-                    int bottomMargin) {
+PrintEnd PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, int rightMargin,
+                     int bottomMargin) {
     const auto printer = PagePrinter::Open("Trabeon Report");
     if (!printer)
-        return Printed::userDrewBack;
+        return {};
+    const WaitCursor wait;
     const Paper& sheet = printer->Sheet();
     PageFormat format;
     format.page = {0, 0, sheet.ScaleWidth, sheet.ScaleHeight};
@@ -17,14 +20,22 @@ Printed PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, int rightMa
     format.drawing = {leftMargin - sheet.OffsetX, topMargin - sheet.OffsetY,
                       sheet.Width - rightMargin - sheet.OffsetX,
                       sheet.Height - bottomMargin - sheet.OffsetY};
-    format.first = RTB.FormatRange(printer.get(), format);
     bool printing = true;
-    while (printing && format.first < RTB.TextLength()) {
-        printing = printer->NewPage();
-        format.first = RTB.FormatRange(printer.get(), format);
-    }
+    const auto pages = goThroughPages(RTB.TextLength(), [&](int first) {
+        printing = first == 0 || printer->NewPage();
+        format.first = first;
+        return printing ? RTB.FormatRange(printer.get(), format) : first;
+    });
     RTB.ReleasePages();
-    return printer->EndDoc() && printing ? Printed::yes : Printed::failed;
+    if (!printer->EndDoc() || !printing)
+        return {false,
+                "The report could not be printed. See to the printer, or choose another name for "
+                "the PDF file, then try again."};
+    if (!pages.whole)
+        return {true, "The print ends with page " + std::to_string(pages.starts.size()) +
+                          ": what follows could not be laid out. Cut it out of the report, then "
+                          "print again."};
+    return {true};
 }
 
 }  // namespace trabeon

@@ -158,18 +158,11 @@ bool frmDocPreview::copyPage() {
 }
 
 void frmDocPreview::cmdPrint_Click() {
-    switch (PrintReport(report(), marginTwips, marginTwips, marginTwips, marginTwips)) {
-        case Printed::yes:
-            Unload();
-            break;
-        case Printed::userDrewBack:
-            break;
-        case Printed::failed:
-            warn(
-                "The report could not be printed. See to the printer, or choose another name for "
-                "the PDF file, then try again.");
-            break;
-    }
+    const auto end = PrintReport(report(), marginTwips, marginTwips, marginTwips, marginTwips);
+    if (!end.trouble.empty())
+        warn(end.trouble);
+    else if (end.printed)
+        Unload();
 }
 
 void frmDocPreview::cmdClose_Click() {

@@ -4,6 +4,7 @@
 
 #include "report/frmDocPreview.h"
 #include "report/margins.h"
+#include "report/pages.h"
 #include "toolkit/look.h"
 #include "toolkit/outside.h"
 
@@ -43,11 +44,10 @@ PageFormat frmDocPreview::formatFor(const PictureBox& picture) const {
 int frmDocPreview::PageCtnProc(const PictureBox& picture) {
     PageFormat format = formatFor(picture);
     RichTextBox& RTB = report();
-    pageStarts_.clear();
-    do {
-        pageStarts_.push_back(format.first);
-        format.first = RTB.FormatRange(nullptr, format);
-    } while (format.first < RTB.TextLength());
+    pageStarts_ = goThroughPages(RTB.TextLength(), [&](int first) {
+                      format.first = first;
+                      return RTB.FormatRange(nullptr, format);
+                  }).starts;
     return static_cast<int>(pageStarts_.size());
 }
 

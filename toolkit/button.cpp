@@ -39,6 +39,7 @@ Button::Button(Container& parent, const std::string& caption)
     QPushButton& button = Inner(*this);
     const int captionWide = button.fontMetrics().horizontalAdvance(button.text());
     Control::Resize(std::max(ToPixels(1215), captionWide + ToPixels(270)), ToPixels(375));
+    button.setAutoDefault(false);  // else Enter anywhere in a dialog would press its first button
     QObject::connect(&button, &QPushButton::clicked, [this] {
         if (Click)
             Click();

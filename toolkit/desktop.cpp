@@ -99,8 +99,13 @@ QString DialogFilter(const std::string& filter) {
 // The system's default printer; where there is none, A4 sheets of a PDF file that has no name yet.
 std::unique_ptr<QPrinter> DefaultPrinter() {
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    if (!QPrinterInfo::defaultPrinter().isNull())
+    const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+    if (!info.isNull()) {
+        // One that tells nothing of itself would be taken for one without colour.
+        if (info.supportedPageSizes().isEmpty())
+            printer->setColorMode(QPrinter::Color);
         return printer;
+    }
     printer->setOutputFormat(QPrinter::PdfFormat);
     printer->setPageSize(QPageSize(QPageSize::A4));
     return printer;

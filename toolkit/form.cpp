@@ -8,6 +8,7 @@
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "toolkit/control.h"
 #include "toolkit/forms.h"
@@ -80,6 +81,13 @@ void ActivateNext(QMdiArea& area) {
             return;
         }
     }
+}
+
+// It was given its place before it had its size.
+void BringInSight(QMdiSubWindow& child) {
+    const QSize room = child.mdiArea()->viewport()->size() - child.size();
+    child.move(std::clamp(child.x(), 0, std::max(0, room.width())),
+               std::clamp(child.y(), 0, std::max(0, room.height())));
 }
 
 }  // namespace
@@ -180,8 +188,10 @@ void Form::Show() {
     if (frame->isMinimized())
         frame->showNormal();
     frame->show();
-    if (const auto [width, height] = std::exchange(wantedInside_, {}); width > 0)
+    if (const auto [width, height] = std::exchange(wantedInside_, {}); width > 0) {
         SetScaleSize(width, height);
+        BringInSight(*frame);
+    }
     window_->Area().setActiveSubWindow(frame);
     if (comesUp && first_)
         first_->Widget()->setFocus();  // hiding moved the focus on

@@ -5,6 +5,7 @@
 
 #include "toolkit/graph_plot.h"
 #include "toolkit/outside.h"
+#include "toolkit/picture_file.h"
 
 namespace trabeon {
 
@@ -112,8 +113,8 @@ std::string Graph::Note() const {
 }
 
 QImage Graph::Picture() const {
-    return Inner().PictureOf(Inner().size().expandedTo(LeastPicture),
-                             std::max(2.0, Inner().devicePixelRatioF()));
+    const QSize size = Inner().size().expandedTo(LeastPicture);
+    return Inner().PictureOf(size, SharpRatio(size));
 }
 
 std::string Graph::GreatestLabel() const {

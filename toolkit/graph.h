@@ -60,7 +60,7 @@ class Graph : public Control {
     const std::vector<GraphMark>& Marks() const;
     std::string Note() const;
 
-    // The chart as it stands, two pixels to each of the screen's at least.
+    // The chart as it stands, sharp on paper.
     QImage Picture() const;
     // What the label of the greatest or the least value reads; empty while there is none.
     std::string GreatestLabel() const;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "toolkit/look.h"
+#include "toolkit/picture_file.h"
 
 namespace trabeon {
 
@@ -14,6 +15,35 @@ constexpr qint64 FrameMs = 33;
 const QColor Ink(0x1a1a1a);
 const QColor Faint(0x6b7580);
 const QColor Curve(0x0a64ad);
+
+// Draws its line and what is below it in pieces: the cost grows with the square of their length.
+class PiecewiseGraph : public QCPGraph {
+  public:
+    using QCPGraph::QCPGraph;
+
+  protected:
+    void drawLinePlot(QCPPainter* painter, const QVector<QPointF>& line) const override {
+        for (const auto& piece : PiecesOf(line))
+            QCPGraph::drawLinePlot(painter, piece);
+    }
+    void drawFill(QCPPainter* painter, QVector<QPointF>* line) const override {
+        for (auto& piece : PiecesOf(*line))
+            QCPGraph::drawFill(painter, &piece);
+    }
+
+  private:
+    static QVector<QVector<QPointF>> PiecesOf(const QVector<QPointF>& line) {
+        constexpr qsizetype Length = 32;
+        QVector<QVector<QPointF>> pieces;
+        for (qsizetype at = 0; at + 1 < line.size(); at += Length)
+            pieces.append(line.mid(at, Length + 1));
+        return pieces;
+    }
+};
+
+QPen CurvePen(double width) {
+    return {Curve, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
+}
 
 }  // namespace
 
@@ -33,7 +63,7 @@ Graph::Plot::Plot(const GraphTitles& titles, QWidget* parent)
 }
 
 void Graph::Plot::MakeCurve() {
-    addGraph();
+    new PiecewiseGraph(xAxis, yAxis);
     extremes_ = addGraph();
     extremes_->setLineStyle(QCPGraph::lsNone);
     extremes_->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssDisc, Curve, Curve, 6));
@@ -203,7 +233,7 @@ void Graph::Plot::FitCurve() {
         curve.isEmpty() ? 0 : (curve.constEnd() - 1)->key - curve.constBegin()->key;
     const double inSight = whole > 0 ? std::min(1.0, xAxis->range().size() / whole) : 1;
     const bool dense = shown * inSight > ManyPerPixel * viewport().width();
-    graph(0)->setPen(QPen(Curve, dense ? 1 : 1.6));
+    graph(0)->setPen(CurvePen(dense ? 1 : 1.6));
     graph(0)->setBrush(dense ? QBrush() : QColor(Curve.red(), Curve.green(), Curve.blue(), 38));
 }
 
@@ -236,7 +266,7 @@ QImage Graph::Plot::PictureOf(QSize size, double ratio) {
     QImage picture = toPixmap(size.width(), size.height(), ratio).toImage();
     setViewport(onScreen);
     Prepare();
-    picture.setDevicePixelRatio(ratio);
+    SetRatio(picture, ratio);
     return picture;
 }
 

@@ -31,16 +31,9 @@ QImage& Device() {
 
 void FitPictures(QTextDocument& text, const QSizeF& area) {
     for (const PictureInText& picture : PicturesOf(text)) {
-        const QSizeF own(picture.format.width(), picture.format.height());
-        QTextImageFormat format = picture.format;
-        const QSizeF fitted = FittedSize(own, area);
-        format.setWidth(fitted.width());
-        format.setHeight(fitted.height());
-        QTextCursor cursor(&text);
-        cursor.setPosition(picture.position);
-        cursor.setPosition(picture.position + 1, QTextCursor::KeepAnchor);
-        if (fitted != own)
-            cursor.setCharFormat(format);
+        const QSizeF fitted = FittedSize(picture.size, area);
+        if (fitted != picture.size)
+            ResizePicture(text, picture.position, fitted);
     }
 }
 

@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "toolkit/outside.h"
+#include "toolkit/picture_file.h"
 
 namespace trabeon {
 
@@ -144,14 +145,16 @@ void PictureBox::Paint(QPainter& painter, double pixelRatio) const {
 }
 
 QImage PictureBox::Picture() const {
-    const double ratio = std::max(2.0, Widget()->devicePixelRatioF());
-    QImage picture(Widget()->contentsRect().size().expandedTo({1, 1}) * ratio,
-                   QImage::Format_RGB32);
+    const QSize size = Widget()->contentsRect().size().expandedTo({1, 1});
+    const double ratio = SharpRatio(size);
+    QImage picture(size * ratio, QImage::Format_RGB32);
     picture.setDevicePixelRatio(ratio);
     picture.fill(QColor(backColour_));
     QPainter painter(&picture);
     painter.setFont(Widget()->font());
     Paint(painter, ratio);
+    painter.end();
+    SetRatio(picture, ratio);  // told earlier, its dots would make the text larger
     return picture;
 }
 

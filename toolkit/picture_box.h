@@ -47,7 +47,7 @@ class PictureBox : public Control, public Container {
     void PrintLine(const std::string& text = "");
 
     const std::vector<Stroke>& Drawn() const { return drawn_; }
-    // What is drawn, with twice the screen's pixels at least.
+    // What is drawn, sharp on paper.
     QImage Picture() const;
     void CopyToClipboard() const;
     // Shows a picture, scaled to the whole box, below what is drawn; a null one shows none.

@@ -1,20 +1,27 @@
 #include "toolkit/pictures_in_text.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QCache>
 #include <QPainter>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextObjectInterface>
 #include <QUrl>
 
+#include "toolkit/picture_file.h"
+
 namespace trabeon {
 
 namespace {
 
-QImage ImageOf(const QTextDocument& text, const QTextImageFormat& format) {
-    return text.resource(QTextDocument::ImageResource, QUrl(format.name())).value<QImage>();
+constexpr qsizetype CacheBytes = 64 << 20;
+
+QByteArray PngIn(const QTextDocument& text, const QTextImageFormat& format) {
+    return text.resource(QTextDocument::ImageResource, QUrl(format.name())).toByteArray();
 }
 
+// Draws each picture with the dots that the device has there. What was scaled down for a screen is
+// kept for the next time.
 class SmoothDrawer : public QObject, public QTextObjectInterface {
   public:
     using QObject::QObject;
@@ -33,12 +40,51 @@ class SmoothDrawer : public QObject, public QTextObjectInterface {
 
     void drawObject(QPainter* painter, const QRectF& place, QTextDocument* text, int,
                     const QTextFormat& format) override {
+        const QTransform toDots = painter->deviceTransform();
+        const QRect dots = toDots.mapRect(place).toRect();
+        const QImage image = Scaled(*text, format.toImageFormat(), dots.size());
+        const bool fits = image.size() == dots.size();
         painter->setRenderHint(QPainter::SmoothPixmapTransform);
-        painter->drawImage(place, ImageOf(*text, format.toImageFormat()));
+        painter->drawImage(fits ? toDots.inverted().mapRect(QRectF(dots)) : place, image);
     }
+
+  private:
+    // With all its dots if the device has more.
+    QImage Scaled(const QTextDocument& text, const QTextImageFormat& format, const QSize& size) {
+        const QString key =
+            QString("%1 %2 %3").arg(format.name()).arg(size.width()).arg(size.height());
+        if (const QImage* known = scaled_.object(key))
+            return *known;
+        QImage whole = QImage::fromData(PngIn(text, format));
+        if (size.width() >= whole.width() || size.height() >= whole.height())
+            return whole;
+        auto made = whole.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        scaled_.insert(key, new QImage(made), made.sizeInBytes());
+        return made;
+    }
+
+    QCache<QString, QImage> scaled_{CacheBytes};
 };
 
+QTextImageFormat FormatOf(const QString& name, const QSizeF& size) {
+    QTextImageFormat format;
+    format.setName(name);
+    format.setWidth(size.width());
+    format.setHeight(size.height());
+    return format;
+}
+
 }  // namespace
+
+PictureInText PictureFrom(const QImage& image, int number) {
+    return {PngOf(image), QSizeF(image.size()) / image.devicePixelRatio(), number};
+}
+
+QImage ImageOf(const PictureInText& picture) {
+    QImage image = QImage::fromData(picture.png);
+    SetRatio(image, image.width() / picture.size.width());
+    return image;
+}
 
 std::vector<PictureInText> PicturesOf(const QTextDocument& text) {
     std::vector<PictureInText> pictures;
@@ -48,30 +94,35 @@ std::vector<PictureInText> PicturesOf(const QTextDocument& text) {
             if (!format.isValid())
                 continue;
             for (int i = 0; i < part.fragment().length(); ++i)
-                pictures.push_back({part.fragment().position() + i, format, ImageOf(text, format),
-                                    format.name().toInt()});
+                pictures.push_back({PngIn(text, format),
+                                    {format.width(), format.height()},
+                                    format.name().toInt(),
+                                    part.fragment().position() + i});
         }
     }
     return pictures;
 }
 
-void InsertPicture(QTextCursor& cursor, const QImage& image, int number) {
-    const QString name = QString::number(number);
-    cursor.document()->addResource(QTextDocument::ImageResource, QUrl(name), image);
-    QTextImageFormat format;
-    format.setName(name);
-    format.setWidth(image.width() / image.devicePixelRatio());
-    format.setHeight(image.height() / image.devicePixelRatio());
+void InsertPicture(QTextCursor& cursor, const PictureInText& picture) {
+    const QString name = QString::number(picture.number);
+    cursor.document()->addResource(QTextDocument::ImageResource, QUrl(name), picture.png);
     cursor.beginEditBlock();
     if (!cursor.atBlockStart())
         cursor.insertBlock();
     const bool lineGoesOn = !cursor.atBlockEnd();
-    cursor.insertImage(format);
+    cursor.insertImage(FormatOf(name, picture.size));
     if (lineGoesOn) {
         cursor.insertBlock();
         cursor.movePosition(QTextCursor::PreviousCharacter);
     }
     cursor.endEditBlock();
+}
+
+void ResizePicture(QTextDocument& text, int position, const QSizeF& size) {
+    QTextCursor cursor(&text);
+    cursor.setPosition(position);
+    cursor.setPosition(position + 1, QTextCursor::KeepAnchor);
+    cursor.setCharFormat(FormatOf(cursor.charFormat().toImageFormat().name(), size));
 }
 
 void DrawPicturesSmoothly(QTextDocument& text) {

@@ -64,7 +64,7 @@ class RichTextBox::Edit : public QTextEdit {
                 picture.position >= cursor.selectionEnd())
                 continue;
             auto* copied = new QMimeData;
-            copied->setImageData(picture.image);
+            copied->setImageData(ImageOf(picture));
             return copied;
         }
         return QTextEdit::createMimeDataFromSelection();
@@ -100,7 +100,7 @@ void RichTextBox::Paste() {
         return;
     QTextCursor cursor = Inner().textCursor();
     cursor.clearSelection();
-    InsertPicture(cursor, picture, ++taken_);
+    InsertPicture(cursor, PictureFrom(picture, ++taken_));
     Inner().setTextCursor(cursor);
     Inner().ensureCursorVisible();
 }
@@ -152,7 +152,7 @@ std::string RichTextBox::LastPictureRTF(const Paper& paper, int margin) const {
         return {};
     QTextDocument alone;
     QTextCursor cursor(&alone);
-    InsertPicture(cursor, last->image, last->number);
+    InsertPicture(cursor, *last);
     return RichTextOf(alone, paper, margin);
 }
 

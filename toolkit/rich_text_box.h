@@ -56,7 +56,7 @@ class RichTextBox : public Control {
     // The page service: draws one page, or only measures it on no canvas, and returns the position
     // at which the next page begins; that is the text's length behind the last page. What was laid
     // out is kept for the next page of the same format.
-    int FormatRange(PageCanvas* canvas, const PageFormat& format);
+    virtual int FormatRange(PageCanvas* canvas, const PageFormat& format);
     // Lets go of what was kept.
     void ReleasePages();
 

@@ -1,12 +1,12 @@
 #include "toolkit/rich_text_file.h"
 
-#include <QBuffer>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <algorithm>
 #include <cmath>
 
 #include "toolkit/page_layout.h"
+#include "toolkit/picture_file.h"
 #include "toolkit/pictures_in_text.h"
 #include "toolkit/placement.h"
 
@@ -48,15 +48,12 @@ std::string Escaped(const QString& text) {
 }
 
 std::string PictureText(const PictureInText& picture, const QSizeF& area) {
-    QBuffer png;
-    picture.image.save(&png, "PNG");
-    const QByteArray hex = png.data().toHex();
-    const QSizeF own(picture.format.width(), picture.format.height());
-    const QSizeF size = FittedSize(own, area / TwipsPerPixel) * TwipsPerPixel;
-    std::string text = "{\\pict\\pngblip" + Number("\\picw", picture.image.width()) +
-                       Number("\\pich", picture.image.height()) +
-                       Number("\\picwgoal", size.width()) + Number("\\pichgoal", size.height()) +
-                       "\n";
+    const QByteArray hex = picture.png.toHex();
+    const QSize dots = DotsOf(picture.png);
+    const QSizeF size = FittedSize(picture.size, area / TwipsPerPixel) * TwipsPerPixel;
+    std::string text = "{\\pict\\pngblip" + Number("\\picw", dots.width()) +
+                       Number("\\pich", dots.height()) + Number("\\picwgoal", size.width()) +
+                       Number("\\pichgoal", size.height()) + "\n";
     for (qsizetype at = 0; at < hex.size(); at += HexPerLine)
         text += hex.mid(at, HexPerLine).toStdString() + "\n";
     return text + "}";
@@ -71,8 +68,6 @@ std::string RichTextOf(const QTextDocument& text, const Paper& paper, int margin
     const std::vector<PictureInText> pictures = PicturesOf(text);
     auto picture = pictures.begin();
     for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
-        if (block != text.begin())
-            file += "\\par\n";
         const QString characters = block.text();
         for (int i = 0; i < characters.size(); ++i) {
             if (picture != pictures.end() && picture->position == block.position() + i)
@@ -80,6 +75,7 @@ std::string RichTextOf(const QTextDocument& text, const Paper& paper, int margin
             else
                 file += Escaped(characters.mid(i, 1));
         }
+        file += "\\par\n";  // the last one too, else readers add an empty paragraph
     }
     return file + "}\n";
 }

@@ -1,22 +1,12 @@
 #include "report/output/document_builder.h"
 
-#include <QBuffer>
-#include <QImage>
-
 #include "toolkit/outside.h"
+#include "toolkit/picture_file.h"
 
 namespace trabeon {
 namespace {
 
 constexpr double pointsPerPixel = 0.75;
-
-std::string pngOf(const QImage& image) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return bytes.toStdString();
-}
 
 }  // namespace
 
@@ -39,7 +29,7 @@ bool DocumentBuilder::paste(double left) {
         endParagraph();
     const double scale = pointsPerPixel / image.devicePixelRatio();
     current().pictures.push_back(
-        {pngOf(image), image.width() * scale, image.height() * scale, left});
+        {PngOf(image).toStdString(), image.width() * scale, image.height() * scale, left});
     return true;
 }
 

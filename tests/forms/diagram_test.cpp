@@ -141,7 +141,7 @@ TEST_F(Diagram, AddToReportPastesThePictureAndClosesTheForm) {
     auto& diagram = Open();
     Click(diagram.cmdReport);
     EXPECT_EQ(pasted, 1);
-    EXPECT_EQ(outside.clipboardPicture.width(), 2 * 6690 / 15);
+    EXPECT_EQ(outside.clipboardPicture.width(), 4 * 6690 / 15);
     EXPECT_FALSE(forms().IsLoaded("frmDiagram"));
     Settle();
 }

@@ -1,3 +1,4 @@
+#include <QTimer>
 #include <chrono>
 
 #include "tests/report/report_fixture.h"
@@ -6,170 +7,138 @@
 namespace trabeon::test {
 namespace {
 
-class Preview : public ReportTest {
+class PreviewTest : public ReportTest {
   protected:
-    /// Loaded, not shown: showing holds the caller.
-    frmDocPreview& Open() { return forms().Get<frmDocPreview>(); }
-
-    static int Shown(const frmDocPreview& form) {
+    /// The one step whose picture shows.
+    int Shown() {
         int shown = 0, count = 0, step = 0;
-        for (const auto* each : {&form.pic1, &form.pic2, &form.pic3, &form.pic4, &form.pic5}) {
+        for (const auto* each : {&Preview().pic1, &Preview().pic2, &Preview().pic3, &Preview().pic4,
+                                 &Preview().pic5}) {
             ++step;
-            if (each->Visible()) {
-                shown = step;
-                ++count;
-            }
+            count += each->Visible();
+            shown = each->Visible() ? step : shown;
         }
         EXPECT_EQ(count, 1);
+        EXPECT_FALSE(Preview().picX.Visible());
         return shown;
     }
-    static bool HasInk(const PictureBox& box) {
-        const QImage picture = box.Picture();
-        for (int y = 0; y < picture.height(); ++y)
-            for (int x = 0; x < picture.width(); ++x)
-                if ((picture.pixel(x, y) & 0xff) < 0xf0)
-                    return true;
-        return false;
+    std::pair<bool, bool> PageButtons() {
+        return {Preview().cmdPrevPage.Enabled(), Preview().cmdNextPage.Enabled()};
     }
+    std::pair<bool, bool> ZoomButtons() {
+        return {Preview().cmdZoomIn.Enabled(), Preview().cmdZoomOut.Enabled()};
+    }
+    using Both = std::pair<bool, bool>;
 };
 
-TEST_F(Preview, AnEmptyReportIsOneEmptyPage) {
-    frmDocPreview& form = Open();
-    EXPECT_EQ(form.Caption(), "Print Preview");
-    EXPECT_EQ(form.txtTotalPages.Text(), "Total 1 pages");
-    EXPECT_EQ(form.cboPageno.ListCount(), 1);
-    EXPECT_EQ(form.cboPageno.Text(), "1");
-    EXPECT_FALSE(form.cmdPrevPage.Enabled());
-    EXPECT_FALSE(form.cmdNextPage.Enabled());
-    EXPECT_FALSE(HasInk(form.pic2));
-}
-
-TEST_F(Preview, OpensOnPageOneAtAQuarter) {
-    AddPictures(7, 500, 300);
-    frmDocPreview& form = Open();
-    EXPECT_EQ(form.txtTotalPages.Text(), "Total 3 pages");
-    EXPECT_EQ(form.cboScale.Text(), "25");
-    EXPECT_EQ(Shown(form), 5);
-    EXPECT_TRUE(form.cmdZoomIn.Enabled());
-    EXPECT_TRUE(form.cmdZoomOut.Enabled());
-    Click(form.cmdZoomOut);
-    EXPECT_EQ(Shown(form), 5);
-    EXPECT_TRUE(form.cmdZoomOut.Enabled()) << "set at a change of the step alone";
-    EXPECT_TRUE(HasInk(form.pic5));
-    EXPECT_FALSE(form.picX.Visible());
-}
-
-TEST_F(Preview, PicturesHaveThePrintableSizeTimesTheStep) {
-    frmDocPreview& form = Open();
-    // 11500 by 16440 twips are 767 by 1096 pixels.
-    EXPECT_EQ(form.picX.Width() / 15, 767);
-    EXPECT_EQ(form.picX.Height() / 15, 1096);
-    EXPECT_EQ(form.pic1.Width() / 15, 939);
-    EXPECT_EQ(form.pic1.Height() / 15, 1342);
-    EXPECT_EQ(form.pic2.Width() / 15, 767);
-    EXPECT_EQ(form.pic3.Width() / 15, 575);
-    EXPECT_EQ(form.pic4.Height() / 15, 548);
-    EXPECT_EQ(form.pic5.Width() / 15, 192);
-    EXPECT_EQ(form.pic5.Height() / 15, 274);
-    EXPECT_EQ(form.DocWYSIWYG(RTB()), 9020);
-    EXPECT_EQ(Edit().lineWrapColumnOrWidth(), 601);
-}
-
-TEST_F(Preview, ZoomGoesByButtonsAndByTheList) {
-    frmDocPreview& form = Open();
-    for (const char* scale : {"50", "75", "100", "150"}) {
-        Click(form.cmdZoomIn);
-        EXPECT_EQ(form.cboScale.Text(), scale);
+TEST_F(PreviewTest, OpensOnPageOneAtAQuarter) {
+    for (const int pages : {1, 3}) {
+        EXPECT_EQ(Preview().Caption(), "Print Preview");
+        EXPECT_EQ(Preview().txtTotalPages.Text(), "Total " + std::to_string(pages) + " pages");
+        EXPECT_EQ(Preview().cboPageno.ListCount(), pages);
+        EXPECT_EQ(Preview().cboPageno.Text(), "1");
+        EXPECT_EQ(PageButtons(), Both(false, pages > 1));
+        EXPECT_EQ(inkOf(Preview().pic5.Picture()).isNull(), pages == 1);
+        EXPECT_EQ(Preview().cboScale.Text(), "25");
+        EXPECT_EQ(ZoomButtons(), Both(true, true)) << "set at a change of the step alone";
+        Click(Preview().cmdZoomOut);
+        EXPECT_EQ(Shown(), 5);
+        EXPECT_EQ(ZoomButtons(), Both(true, true));
+        Preview().Unload();
+        AddPictures(7, 500, 300);
     }
-    EXPECT_EQ(Shown(form), 1);
-    EXPECT_FALSE(form.cmdZoomIn.Enabled());
-    Click(form.cmdZoomIn);
-    EXPECT_EQ(Shown(form), 1);
-    Click(form.cmdZoomOut);
-    EXPECT_EQ(Shown(form), 2);
-    EXPECT_TRUE(form.cmdZoomIn.Enabled());
-    form.cboScale.SetListIndex(4);
-    EXPECT_EQ(Shown(form), 5);
-    EXPECT_FALSE(form.cmdZoomOut.Enabled());
-    form.cboScale.SetListIndex(2);
-    EXPECT_EQ(Shown(form), 3);
-    EXPECT_TRUE(form.cmdZoomOut.Enabled());
 }
 
-TEST_F(Preview, APictureKeepsItsOffset) {
-    frmDocPreview& form = Open();
-    form.VScroll1.SetValue(120);
-    form.HScroll1.SetValue(30);
-    EXPECT_EQ(form.pic5.Top(), -120 * 15);
-    EXPECT_EQ(form.pic5.Left(), -30 * 15);
-    Click(form.cmdZoomIn);
-    EXPECT_EQ(form.pic4.Top(), 0);
-    EXPECT_EQ(form.VScroll1.Value(), 0);
-    form.VScroll1.SetValue(1000);
-    EXPECT_EQ(form.pic4.Top(), -1000 * 15);
-    Click(form.cmdZoomOut);
-    EXPECT_EQ(form.pic5.Top(), -120 * 15);
-    EXPECT_EQ(form.VScroll1.Value(), 120);
-    EXPECT_EQ(form.HScroll1.Value(), 30);
+TEST_F(PreviewTest, PicturesHaveThePrintableSizeTimesTheStep) {
+    const std::tuple<PictureBox&, int, int> sizes[] = {
+        // 11500 by 16440 twips are 767 by 1096 pixels.
+        {Preview().picX, 767, 1096}, {Preview().pic1, 939, 1342}, {Preview().pic2, 767, 1096},
+        {Preview().pic3, 575, 822},  {Preview().pic4, 383, 548},  {Preview().pic5, 192, 274}};
+    for (const auto& [box, wide, high] : sizes) {
+        EXPECT_EQ(box.Width() / 15, wide);
+        EXPECT_EQ(box.Height() / 15, high);
+    }
+    EXPECT_EQ(Preview().DocWYSIWYG(RTB()), 9020);
+    EXPECT_EQ(static_cast<QTextEdit*>(RTB().Widget())->lineWrapColumnOrWidth(), 601);
 }
 
-TEST_F(Preview, PagesAreTurnedByButtonsAndByTheList) {
+TEST_F(PreviewTest, ZoomGoesByButtonsAndByTheListAndAPictureKeepsItsOffset) {
+    Preview().VScroll1.SetValue(120);
+    Preview().HScroll1.SetValue(30);
+    for (const char* scale : {"50", "75", "100", "150", "150"}) {
+        Click(Preview().cmdZoomIn);
+        EXPECT_EQ(Preview().cboScale.Text(), scale);
+    }
+    EXPECT_EQ(Shown(), 1);
+    EXPECT_EQ(Preview().pic1.Top(), 0);
+    EXPECT_EQ(Preview().VScroll1.Value(), 0);
+    EXPECT_EQ(ZoomButtons(), Both(false, true));
+    Click(Preview().cmdZoomOut);
+    EXPECT_EQ(Shown(), 2);
+    EXPECT_EQ(ZoomButtons(), Both(true, true));
+    Preview().VScroll1.SetValue(1000);
+    EXPECT_EQ(Preview().pic2.Top(), -1000 * 15);
+    Preview().cboScale.SetListIndex(4);
+    EXPECT_EQ(Shown(), 5);
+    EXPECT_EQ(ZoomButtons(), Both(true, false));
+    EXPECT_EQ(Preview().pic5.Top(), -120 * 15);
+    EXPECT_EQ(Preview().pic5.Left(), -30 * 15);
+    EXPECT_EQ(Preview().VScroll1.Value(), 120);
+    EXPECT_EQ(Preview().HScroll1.Value(), 30);
+}
+
+TEST_F(PreviewTest, PagesAreTurnedByButtonsAndByTheList) {
     AddPictures(7, 500, 300);
-    frmDocPreview& form = Open();
-    const QImage first = form.pic3.Picture();
-    Click(form.cmdNextPage);
-    EXPECT_EQ(form.cboPageno.Text(), "2");
-    EXPECT_TRUE(form.cmdPrevPage.Enabled());
-    Click(form.cmdNextPage);
-    EXPECT_EQ(form.cboPageno.Text(), "3");
-    EXPECT_FALSE(form.cmdNextPage.Enabled());
-    EXPECT_NE(form.pic3.Picture(), first) << "one picture on it, not three";
-    form.cmdNextPage.Press();
-    EXPECT_EQ(form.cboPageno.Text(), "3");
-    form.cboPageno.SetListIndex(0);
-    EXPECT_EQ(form.pic3.Picture(), first);
-    EXPECT_FALSE(form.cmdPrevPage.Enabled());
-    Click(form.cmdNextPage);
-    Click(form.cmdPrevPage);
-    EXPECT_EQ(form.cboPageno.Text(), "1");
-    EXPECT_EQ(form.pic3.Picture(), first);
-    form.FormPreviewPage(form.picX, 3);
-    const QImage last = form.picX.Picture();
-    form.FormPreviewPage(form.picX, 9);
-    EXPECT_EQ(form.picX.Picture(), last);
+    const auto expectPage = [&](const char* page, Both buttons) {
+        EXPECT_EQ(Preview().cboPageno.Text(), page);
+        EXPECT_EQ(PageButtons(), buttons);
+    };
+    const QImage first = Preview().pic3.Picture();
+    Click(Preview().cmdNextPage);
+    expectPage("2", {true, true});
+    Click(Preview().cmdNextPage);
+    Preview().cmdNextPage.Press();
+    expectPage("3", {true, false});
+    EXPECT_NE(Preview().pic3.Picture(), first) << "one picture on it, not three";
+    Click(Preview().cmdPrevPage);
+    expectPage("2", {true, true});
+    Preview().cboPageno.SetListIndex(0);
+    expectPage("1", {false, true});
+    EXPECT_EQ(Preview().pic3.Picture(), first);
+    Preview().FormPreviewPage(Preview().picX, 3);
+    const QImage last = Preview().picX.Picture();
+    Preview().FormPreviewPage(Preview().picX, 9);
+    EXPECT_EQ(Preview().picX.Picture(), last);
 }
 
-TEST_F(Preview, APageWithoutExtentIsToldAndTheFormStays) {
+TEST_F(PreviewTest, APageWithoutExtentIsToldAndTheFormStays) {
     outside.paper = Paper();
     outside.ExpectMsgBox("Error occurred in sizing images. Cannot continue");
-    Open();
+    Preview();
     EXPECT_EQ(outside.lastStyle, 0);
     EXPECT_EQ(outside.lastTitle, "");
     EXPECT_TRUE(forms().IsLoaded("frmDocPreview"));
 }
 
-TEST_F(Preview, PrintsTheWholeReportAndCloses) {
+TEST_F(PreviewTest, PrintsTheWholeReportAndCloses) {
     AddPictures(7, 500, 300);
-    outside.ExpectPrinter("Trabeon Report", "");
-    Click(Open().cmdPrint);
-    EXPECT_TRUE(forms().IsLoaded("frmDocPreview")) << "the user drew back";
-    Click(Open().cmdNextPage);
-    outside.ExpectPrinter("Trabeon Report", (folder / "out.pdf").string());
-    Click(Open().cmdPrint);
-    EXPECT_FALSE(forms().IsLoaded("frmDocPreview"));
-    EXPECT_EQ(Count(folder.read("out.pdf"), "/Type /Page\n"), 3);
-}
-
-TEST_F(Preview, APrintThatFailsIsTold) {
+    const auto print = [&](const std::string& path) {
+        outside.ExpectPrinter("Trabeon Report", path);
+        Click(Preview().cmdPrint);
+        return !forms().IsLoaded("frmDocPreview");
+    };
+    EXPECT_FALSE(print("")) << "the user drew back";
     outside.ExpectPrinter("Trabeon Report", (folder / "missing" / "out.pdf").string());
     outside.ExpectMsgBox(
         "The report could not be printed. See to the printer, or choose another name for the PDF "
         "file, then try again.");
-    Click(Open().cmdPrint);
-    EXPECT_TRUE(forms().IsLoaded("frmDocPreview"));
+    Click(Preview().cmdPrint);
+    Click(Preview().cmdNextPage);
+    EXPECT_TRUE(print((folder / "out.pdf").string()));
+    EXPECT_EQ(PrintedPages(), 3);
 }
 
-TEST_F(Preview, TheReportsMenuHoldsTheProgramUntilItIsClosed) {
+TEST_F(PreviewTest, TheReportsMenuHoldsTheProgramUntilItIsClosed) {
     AddPictures(4, 500, 300);
     QTimer whenShown;
     QObject::connect(&whenShown, &QTimer::timeout, [&] {
@@ -177,13 +146,14 @@ TEST_F(Preview, TheReportsMenuHoldsTheProgramUntilItIsClosed) {
         if (form == nullptr || !form->Visible())
             return;
         whenShown.stop();
-        EXPECT_EQ(QApplication::activeModalWidget(), Open().Widget());
-        Open().Widget()->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(Open().Widget()));
-        Open().cmdNextPage.SetFocus();
-        Press(Open().cmdNextPage, Qt::Key_Space);
-        EXPECT_TRUE(Open().cboPageno.HasFocus()) << "the button went off on the last page";
-        Click(Open().cmdClose);
+        EXPECT_EQ(QApplication::activeModalWidget(), Preview().Widget());
+        Preview().Widget()->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(Preview().Widget()));
+        Preview().cmdNextPage.SetFocus();
+        Press(Preview().cmdNextPage, Qt::Key_Space);
+        EXPECT_TRUE(Preview().cboPageno.HasFocus()) << "the button went off on the last page";
+        Press(Preview().cboPageno, Qt::Key_Return);  // prints nothing
+        Click(Preview().cmdClose);
     });
     whenShown.start();
     Report().mnufilepreview.Choose();
@@ -193,24 +163,19 @@ TEST_F(Preview, TheReportsMenuHoldsTheProgramUntilItIsClosed) {
 }
 
 // A page costs that page: the last of many no more than the first.
-TEST_F(Preview, APageOfALongReportComesAtOnce) {
+TEST_F(PreviewTest, APageOfALongReportComesAtOnce) {
     AddPictures(60, 600, 400);
+    ASSERT_EQ(Preview().cboPageno.ListCount(), 30);
     using Clock = std::chrono::steady_clock;
-    const auto milliseconds = [](Clock::time_point since) {
-        return std::chrono::duration<double, std::milli>(Clock::now() - since).count();
-    };
-    const auto opening = Clock::now();
-    frmDocPreview& form = Open();
-    RecordProperty("open", std::to_string(milliseconds(opening)));
-    ASSERT_EQ(form.cboPageno.ListCount(), 30);
     double slowest = 0;
     for (const int page : {1, 15, 28, 29}) {
         const auto turning = Clock::now();
-        form.cboPageno.SetListIndex(page);
-        slowest = std::max(slowest, milliseconds(turning));
+        Preview().cboPageno.SetListIndex(page);
+        const std::chrono::duration<double, std::milli> turned = Clock::now() - turning;
+        slowest = std::max(slowest, turned.count());
     }
     RecordProperty("slowest turn", std::to_string(slowest));
-    EXPECT_LT(static_cast<double>(slowest), limit(1000));
+    EXPECT_LT(slowest, limit(1000));
 }
 
 }  // namespace

@@ -3,25 +3,36 @@
 
 #include <QPainter>
 #include <QTextEdit>
-#include <QTimer>
 #include <string>
 
+#include "report/PrintReport.h"
 #include "report/frmDocPreview.h"
 #include "report/frmReport.h"
 #include "report/registration.h"
 #include "tests/support/program_fixture.h"
+#include "toolkit/picture_file.h"
 
 namespace trabeon::test {
 
-/// A sharp picture that is so many 1/96 inch wide and high.
-inline QImage pictureOf(int wide, int high) {
-    QImage picture(2 * wide, 2 * high, QImage::Format_RGB32);
-    picture.setDevicePixelRatio(2);
+/// A picture that is so many 1/96 inch wide and high, with so many dots to each of them.
+inline QImage pictureOf(int wide, int high, int dots = 4) {
+    QImage picture(dots * wide, dots * high, QImage::Format_RGB32);
     picture.fill(Qt::white);
+    SetRatio(picture, dots);
     QPainter painter(&picture);
     painter.drawRect(1, 1, wide - 2, high - 2);
     painter.drawLine(0, 0, wide, high);
     return picture;
+}
+
+/// Where a picture has ink, in its dots.
+inline QRect inkOf(const QImage& picture) {
+    QRect ink;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if ((picture.pixel(x, y) & 0xff) < 0xc0)
+                ink |= QRect(x, y, 1, 1);
+    return ink;
 }
 
 class ReportTest : public ProgramTest {
@@ -33,15 +44,30 @@ class ReportTest : public ProgramTest {
 
     frmReport& Report() { return forms().Get<frmReport>(); }
     RichTextBox& RTB() { return Report().RTB; }
-    QTextEdit& Edit() { return *static_cast<QTextEdit*>(RTB().Widget()); }
+    /// Loaded, not shown: showing holds the caller.
+    frmDocPreview& Preview() { return forms().Get<frmDocPreview>(); }
 
-    void Add(int wide, int high) {
-        outside.clipboardPicture = pictureOf(wide, high);
+    void Add(int wide, int high, int dots = 4) {
+        outside.clipboardPicture = pictureOf(wide, high, dots);
         context().pasteIntoReport();
     }
     void AddPictures(int count, int wide, int high) {
         for (int i = 0; i < count; ++i)
             Add(wide, high);
+    }
+    void Select(int start, int length) { RTB().SetSelection(start, length); }
+    void Cut() { Click(Report().cmdCut); }
+    void Keys(Qt::Key key) { QTest::keyClick(RTB().Widget(), key, Qt::ControlModifier); }
+    std::string Rtf() { return RTB().TextRTF(outside.paper, 1440); }
+
+    void SaveReport(const std::string& path) {
+        outside.ExpectSave("Save Trabeon Report File", path);
+        Report().mnuSave.Choose();
+    }
+    /// Prints into out.pdf, which is given back, or another file.
+    PrintEnd Print(RichTextBox& box, const std::string& file = "out.pdf") {
+        outside.ExpectPrinter("Trabeon Report", file.empty() ? "" : (folder / file).string());
+        return PrintReport(box, 1440, 1440, 1440, 1440);
     }
 
     /// How often a text stands in another.
@@ -51,10 +77,20 @@ class ReportTest : public ProgramTest {
             ++count;
         return count;
     }
-
-    void SaveReport(const std::string& path) {
-        outside.ExpectSave("Save Trabeon Report File", path);
-        Report().mnuSave.Choose();
+    int PrintedPages() { return Count(folder.read("out.pdf"), "/Type /Page\n"); }
+    /// The numbers that stand behind a word of a rich text.
+    static std::vector<int> Numbers(const std::string& rtf, const std::string& word) {
+        std::vector<int> numbers;
+        for (auto at = rtf.find(word); at != std::string::npos; at = rtf.find(word, at))
+            numbers.push_back(std::stoi(rtf.substr(at += word.size())));
+        return numbers;
+    }
+    /// The widths of the pictures of a rich text, in the order of the text.
+    static std::vector<int> Widths(const std::string& rtf) {
+        auto widths = Numbers(rtf, "\\picwgoal");
+        for (int& width : widths)
+            width /= TwipsPerPixel;
+        return widths;
     }
 };
 

@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QImage>
 #include <QLineEdit>
+#include <QPrinter>
 #include <QPrinterInfo>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -65,14 +66,28 @@ TEST_F(GuiTest, TheClipboardTakesTextAndPictures) {
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "");
 }
 
-TEST_F(GuiTest, WithoutAPrinterThePaperIsA4) {
+TEST_F(GuiTest, WithoutAPrinterThePrintIsAnA4PdfWhoseNameIsAskedFor) {
     if (!QPrinterInfo::defaultPrinter().isNull())
         GTEST_SKIP() << "there is a printer";
-    const Paper paper = Desktop().DefaultPaper();
+    Desktop desktop;
+    const Paper paper = desktop.DefaultPaper();
     EXPECT_NEAR(paper.Width, 210 / 25.4 * 1440, 20);
     EXPECT_NEAR(paper.Height, 297 / 25.4 * 1440, 20);
     EXPECT_NEAR(paper.ScaleWidth, paper.Width - 2 * paper.OffsetX, 20);
     EXPECT_GT(paper.OffsetY, 0);
+    PressInBox(Qt::Key_Escape);
+    EXPECT_EQ(desktop.OpenPrinter("Report"), nullptr);
+    const QTemporaryDir folder;
+    QTimer::singleShot(0, [&] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        EXPECT_EQ(dialog->windowTitle(), "Print to a PDF File");
+        dialog->findChild<QLineEdit*>()->setText(folder.filePath("beam"));
+        QTest::keyClick(dialog, Qt::Key_Return);
+    });
+    const auto printer = desktop.OpenPrinter("Report");
+    ASSERT_NE(printer, nullptr);
+    EXPECT_EQ(printer->outputFileName(), folder.filePath("beam.pdf"));
+    EXPECT_EQ(printer->docName(), "Report");
 }
 
 TEST_F(GuiTest, ASecondCopyInTheSameFolderIsFound) {

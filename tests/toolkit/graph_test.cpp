@@ -10,6 +10,7 @@
 #include "tests/support/time_limit.h"
 #include "toolkit/form.h"
 #include "toolkit/picture_box.h"
+#include "toolkit/picture_file.h"
 
 namespace trabeon {
 namespace {
@@ -140,8 +141,9 @@ TEST_F(DrawTest, TheClipboardPictureIsSharpAndUpToDate) {
     Plot({{0, 0}, {3, 10}, {6, 0}});
     graph().SetDrawAction(DrawActions::CopyToClipboard);
     const QImage copied = outside.clipboardPicture;
-    EXPECT_EQ(copied.devicePixelRatio(), 2);
-    EXPECT_GE(copied.width(), 2 * graph().Widget()->width());
+    EXPECT_EQ(copied.devicePixelRatio(), 4);
+    EXPECT_NEAR(copied.dotsPerMeterX() * 0.0254, 384, 0.1);
+    EXPECT_GE(copied.width(), 4 * graph().Widget()->width());
     EXPECT_GT(CurvePixels(copied), 500);
 }
 
@@ -306,16 +308,19 @@ TEST_F(DrawTest, ABoxTakesThePictureOfAnotherScaledToItself) {
     EXPECT_FALSE(small.StretchFrom(page)) << "there is no room";
 }
 
-TEST_F(DrawTest, ThePictureOfTheBoxIsTwiceAsSharpAndWithoutItsBorder) {
+TEST_F(DrawTest, ThePictureOfTheBoxIsSharpAndWithoutItsBorder) {
     PictureBox& box = picture();
     box.SetBorder(false);
     box.Line(0, 750, 3135, 750, QBColor(4));
     box.CopyToClipboard();
     const QImage copied = outside.clipboardPicture;
-    EXPECT_EQ(copied.size(), QSize(2 * 209, 2 * 105));
-    EXPECT_EQ(copied.devicePixelRatio(), 2);
-    EXPECT_EQ(copied.pixelColor(200, 100), QColor(0x800000));
-    EXPECT_EQ(copied.pixelColor(200, 20), QColor(Qt::white));
+    EXPECT_EQ(copied.size(), QSize(4 * 209, 4 * 105));
+    EXPECT_EQ(copied.devicePixelRatio(), 4);
+    EXPECT_EQ(copied.pixelColor(400, 200), QColor(0x800000));
+    EXPECT_EQ(copied.pixelColor(400, 40), QColor(Qt::white));
+    EXPECT_EQ(QImage::fromData(PngOf(copied)), copied) << "nothing is lost in a file";
+    box.SetWidth(2000 * TwipsPerPixel);
+    EXPECT_EQ(box.Picture().width(), 5000) << "300 dots an inch on any paper";
 }
 
 }  // namespace
