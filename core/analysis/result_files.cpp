@@ -92,10 +92,11 @@ void writeMaxima(ReplacingFile& file, const Analysis& analysis) {
 }
 
 std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
-                                      const AnalysisSettings& settings, AnalysisOutputs outputs) {
+                                      const AnalysisSettings& settings,
+                                      const AnalysisOutputs& outputs) {
     FileSet files(folder);
     std::optional<BalanceTableWriter> table;
-    outputs.tableRow = [&](const TableRow& row) {
+    const auto writeRow = [&](const TableRow& row) {
         if (!table)
             table.emplace(files.add(working_file::balanceTable));
         table->write(row);
@@ -104,7 +105,7 @@ std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
         outputs.refuse(*failure);
         return std::nullopt;
     }
-    auto analysis = analyse(readBeamRows(folder), settings, outputs);
+    auto analysis = analyse(readBeamRows(folder), settings, writeRow, outputs);
     if (!analysis)
         return std::nullopt;
     writeStations(files.add(working_file::stations), *analysis);

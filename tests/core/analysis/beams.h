@@ -49,8 +49,8 @@ inline Analysed analysed(const BeamRows& rows, const AnalysisSettings& settings 
     Analysed told;
     told.analysis = analyse(
         rows, settings,
+        [&](const TableRow& row) { told.table.emplace_back(row.cells.begin(), row.cells.end()); },
         {[&](const Message& message) { told.messages.push_back(message.text); },
-         [&](const TableRow& row) { told.table.emplace_back(row.cells.begin(), row.cells.end()); },
          [&](double value) { told.progress.push_back(value); }});
     return told;
 }
