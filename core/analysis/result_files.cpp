@@ -45,12 +45,14 @@ void writeRow(ReplacingFile& file, const Station& station) {
 }
 
 /// The load files in normal form, and the scratch twins that the regrouping leaves behind. A second
-/// analysis finds them so.
+/// analysis finds them so, and leaves them alone.
 template <class Load>
-void writeLoads(FileSet& files, const MemberLoads<Load>& loads) {
+void writeLoads(FileSet& files, const std::filesystem::path& folder,
+                const MemberLoads<Load>& loads) {
     const auto text = textOf(loads.rows, Description::bare);
-    files.put(Load::Row::scratch, text);
-    files.put(Load::Row::file, text);
+    for (const auto name : {Load::Row::scratch, Load::Row::file})
+        if (readWhole(folder / name) != text)
+            files.add(name).write(text);
 }
 
 }  // namespace
@@ -110,8 +112,8 @@ std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
         return std::nullopt;
     writeStations(files.add(working_file::stations), *analysis);
     writeMaxima(files.add(working_file::maxima), *analysis);
-    writeLoads(files, analysis->points);
-    writeLoads(files, analysis->udls);
+    writeLoads(files, folder, analysis->points);
+    writeLoads(files, folder, analysis->udls);
     if (const auto failure = files.commit()) {
         outputs.refuse(*failure);
         return std::nullopt;
