@@ -12,11 +12,10 @@ std::size_t operandCount(const CommandForm& form) {
            static_cast<std::size_t>(std::count(form.operands.begin(), form.operands.end(), ' '));
 }
 
-const CommandForm* formOf(std::string_view command) {
-    const auto& forms = commandForms();
-    const auto found = std::find_if(forms.begin(), forms.end(),
+const CommandForm* formOf(std::string_view command, const std::vector<CommandForm>& commands) {
+    const auto found = std::find_if(commands.begin(), commands.end(),
                                     [&](const CommandForm& form) { return form.name == command; });
-    return found == forms.end() ? nullptr : &*found;
+    return found == commands.end() ? nullptr : &*found;
 }
 
 /// An option as the form shows it; nothing if the command has no such option.
@@ -37,54 +36,11 @@ std::string usageOf(const CommandForm& form) {
 
 }  // namespace
 
-const std::vector<CommandForm>& commandForms() {
-    static const std::vector<CommandForm> forms{
-        {"run",
-         "FILE.TB",
-         {"--divisions N", "--places N", "--out DIR"},
-         "Analyses a project and shows the balance table, the moments, the maxima and the "
-         "reactions; "
-         "with dimensions, also the governing sections of its design. The "
-         "result files go to DIR, or to a folder beside the project that is named after it.",
-         "trabeon-batch run examples/two-span-floor-beam.TB"},
-        {"analyse",
-         "DIR",
-         {"--divisions N", "--places N"},
-         "Analyses the beam whose working files stand in a folder, and leaves the result files "
-         "there.",
-         "trabeon-batch analyse work --divisions 20"},
-        {"design",
-         "DIR",
-         {"--divisions N", "--cover MM", "--link MM", "--aggregate MM", "--no-restrict"},
-         "Designs the sections of the analysed beam in a folder, at the divisions of its analysis, "
-         "and "
-         "leaves the design results there.",
-         "trabeon-batch design work --aggregate 20"},
-        {"tables",
-         "DIR",
-         {},
-         "Writes the tables of bar areas and link resistances into a folder.",
-         "trabeon-batch tables work"},
-        {"unpack",
-         "FILE.TB DIR",
-         {},
-         "Takes a project file apart into the working files of a folder.",
-         "trabeon-batch unpack examples/two-span-floor-beam.TB work"},
-        {"pack",
-         "DIR FILE.TB",
-         {"--title T", "--designer D", "--beam B"},
-         "Packs the working files of a folder into a project file.",
-         "trabeon-batch pack work beam.TB --title \"Warehouse\" --designer \"A. Engineer\" --beam "
-         "B1"},
-    };
-    return forms;
-}
-
-std::string helpText() {
+std::string helpText(const std::vector<CommandForm>& commands) {
     std::string text =
         "Analyses continuous beams by Hardy Cross moment distribution and designs their\n"
         "reinforced concrete sections to BS 8110, without a window.\n";
-    for (const auto& form : commandForms())
+    for (const auto& form : commands)
         text += "\n" + usageOf(form) + "\n    " + std::string(form.purpose) +
                 "\n    Example: " + std::string(form.example) + "\n";
     return text +
@@ -116,16 +72,17 @@ Failure CommandLine::readNumber(std::string_view name, double& value) const {
     return std::nullopt;
 }
 
-Outcome<CommandLine> readCommandLine(const std::vector<std::string>& words) {
+Outcome<CommandLine> readCommandLine(const std::vector<std::string>& words,
+                                     const std::vector<CommandForm>& commands) {
     constexpr auto seeHelp = " See trabeon-batch --help.";
     if (std::find(words.begin(), words.end(), "--help") != words.end())
-        return CommandLine{"--help", {}, {}};
+        return CommandLine{};
     if (words.empty())
         return Refusal{std::string("A command is missing.") + seeHelp};
-    const auto* form = formOf(words[0]);
+    const auto* form = formOf(words[0], commands);
     if (form == nullptr)
         return Refusal{"There is no command \"" + words[0] + "\"." + seeHelp};
-    CommandLine line{words[0], {}, {}};
+    CommandLine line{form, {}, {}};
     for (std::size_t i = 1; i < words.size(); ++i) {
         const auto& word = words[i];
         if (!word.starts_with("--")) {

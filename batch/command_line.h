@@ -10,25 +10,14 @@
 
 namespace trabeon {
 
-/// A command as users call it.
-struct CommandForm {
-    std::string_view name;
-    std::string_view operands;  // as the help shows them: "DIR FILE.TB"
-    std::vector<std::string_view>
-        options;  // as the help shows them: "--places N" takes a value, "--no-restrict" none
-    std::string_view purpose;
-    std::string_view example;
-};
+/// Exit codes: 0 done, 1 refused, 2 wrong usage.
+enum class Exit { done = 0, refused = 1, usage = 2 };
 
-/// All commands of trabeon-batch.
-[[nodiscard]] const std::vector<CommandForm>& commandForms();
-
-/// What `--help` prints.
-[[nodiscard]] std::string helpText();
+struct CommandForm;
 
 /// A command line that fits one of the forms.
 struct CommandLine {
-    std::string command;
+    const CommandForm* command = nullptr;  // none: "--help"
     std::vector<std::string> operands;
     std::vector<std::pair<std::string, std::string>> options;  // name with its dashes, value
 
@@ -38,8 +27,24 @@ struct CommandLine {
     [[nodiscard]] Failure readNumber(std::string_view name, double& value) const;
 };
 
-/// Reads the words behind the program's name. "--help" anywhere is the command "--help". Options
-/// stand anywhere behind the command, as "--name value" or "--name=value"; the last one counts.
-[[nodiscard]] Outcome<CommandLine> readCommandLine(const std::vector<std::string>& words);
+/// A command as users call it, and what carries it out.
+struct CommandForm {
+    std::string_view name;
+    Exit (*carryOut)(const CommandLine& line);
+    std::string_view operands;  // as the help shows them: "DIR FILE.TB"
+    std::vector<std::string_view>
+        options;  // as the help shows them: "--places N" takes a value, "--no-restrict" none
+    std::string_view purpose;
+    std::string_view example;
+};
+
+/// What `--help` prints.
+[[nodiscard]] std::string helpText(const std::vector<CommandForm>& commands);
+
+/// Reads the words behind the program's name by the commands, which must outlive the line. "--help"
+/// anywhere is no command. Options stand anywhere behind the command, as "--name value" or
+/// "--name=value"; the last one counts.
+[[nodiscard]] Outcome<CommandLine> readCommandLine(const std::vector<std::string>& words,
+                                                   const std::vector<CommandForm>& commands);
 
 }  // namespace trabeon

@@ -93,7 +93,7 @@ std::optional<Analysis> analysed(const fs::path& folder, const AnalysisSettings&
         complain(message.text);
     };
     outputs.progress = std::move(progress);
-    return analyseFolder(folder, settings, std::move(outputs));
+    return analyseFolder(folder, settings, outputs);
 }
 
 Exit analyseCommand(const CommandLine& line) {
@@ -246,20 +246,59 @@ void complain(std::string_view sentence) {
     std::fprintf(stderr, "%s\n", line.c_str());
 }
 
+const std::vector<CommandForm>& commands() {
+    static const std::vector<CommandForm> forms{
+        {"run",
+         runCommand,
+         "FILE.TB",
+         {"--divisions N", "--places N", "--out DIR"},
+         "Analyses a project and shows the balance table, the moments, the maxima and the "
+         "reactions; "
+         "with dimensions, also the governing sections of its design. The "
+         "result files go to DIR, or to a folder beside the project that is named after it.",
+         "trabeon-batch run examples/two-span-floor-beam.TB"},
+        {"analyse",
+         analyseCommand,
+         "DIR",
+         {"--divisions N", "--places N"},
+         "Analyses the beam whose working files stand in a folder, and leaves the result files "
+         "there.",
+         "trabeon-batch analyse work --divisions 20"},
+        {"design",
+         designCommand,
+         "DIR",
+         {"--divisions N", "--cover MM", "--link MM", "--aggregate MM", "--no-restrict"},
+         "Designs the sections of the analysed beam in a folder, at the divisions of its analysis, "
+         "and "
+         "leaves the design results there.",
+         "trabeon-batch design work --aggregate 20"},
+        {"tables",
+         tablesCommand,
+         "DIR",
+         {},
+         "Writes the tables of bar areas and link resistances into a folder.",
+         "trabeon-batch tables work"},
+        {"unpack",
+         unpackCommand,
+         "FILE.TB DIR",
+         {},
+         "Takes a project file apart into the working files of a folder.",
+         "trabeon-batch unpack examples/two-span-floor-beam.TB work"},
+        {"pack",
+         packCommand,
+         "DIR FILE.TB",
+         {"--title T", "--designer D", "--beam B"},
+         "Packs the working files of a folder into a project file.",
+         "trabeon-batch pack work beam.TB --title \"Warehouse\" --designer \"A. Engineer\" --beam "
+         "B1"},
+    };
+    return forms;
+}
+
 Exit carryOut(const CommandLine& line) {
-    if (line.command == "analyse")
-        return analyseCommand(line);
-    if (line.command == "design")
-        return designCommand(line);
-    if (line.command == "tables")
-        return tablesCommand(line);
-    if (line.command == "unpack")
-        return unpackCommand(line);
-    if (line.command == "pack")
-        return packCommand(line);
-    if (line.command == "run")
-        return runCommand(line);
-    std::fputs(helpText().c_str(), stdout);
+    if (line.command != nullptr)
+        return line.command->carryOut(line);
+    std::fputs(helpText(commands()).c_str(), stdout);
     return Exit::done;
 }
 

@@ -5,8 +5,8 @@
 
 namespace trabeon {
 
-/// Exit codes: 0 done, 1 refused, 2 wrong usage.
-enum class Exit { done = 0, refused = 1, usage = 2 };
+/// All commands: each name stands here once, with its form and its function.
+[[nodiscard]] const std::vector<CommandForm>& commands();
 
 /// Carries a command out; reasons go to standard error, one a line.
 [[nodiscard]] Exit carryOut(const CommandLine& line);

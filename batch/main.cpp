@@ -10,7 +10,7 @@ namespace {
 using namespace trabeon;
 
 Exit run(const std::vector<std::string>& words) {
-    const auto line = readCommandLine(words);
+    const auto line = readCommandLine(words, commands());
     if (line)
         return carryOut(*line);
     complain("trabeon-batch: " + line.refusal().sentence);

@@ -11,7 +11,6 @@
 #include <algorithm>
 
 #include "toolkit/control.h"
-#include "toolkit/forms.h"
 #include "toolkit/mdi_window.h"
 
 namespace trabeon {
@@ -156,14 +155,14 @@ void Form::Resize(int pixelsWide, int pixelsHigh) {
         layout->activate();
 }
 
-void Form::Load(Forms& forms, MdiWindow& window) {
-    forms_ = &forms;
+void Form::Load(std::function<void()> unload, MdiWindow& window) {
+    unload_ = std::move(unload);
     window_ = &window;
     if (border_ != FormBorder::FixedDialog)
         window.Area().addSubWindow(static_cast<ChildFrame*>(Widget()), ChildFlags(border_));
     Form_Load();
     loaded_ = true;
-    if (!forms_)
+    if (!unload_)
         return;  // it was unloaded on the way
     Form_Resize();
     if (!hidden_ && border_ != FormBorder::FixedDialog)
@@ -171,12 +170,12 @@ void Form::Load(Forms& forms, MdiWindow& window) {
 }
 
 void Form::Resized() {
-    if (loaded_ && forms_)
+    if (loaded_ && unload_)
         Form_Resize();
 }
 
 void Form::Show() {
-    if (!forms_)
+    if (!unload_)
         return;
     hidden_ = false;
     if (border_ == FormBorder::FixedDialog) {
@@ -233,12 +232,12 @@ void Form::SetState(WindowState state) {
 }
 
 void Form::Unload() {
-    if (forms_)
-        forms_->Unload(*this);
+    if (const auto unload = unload_)  // a copy: Retire drops the other while it runs
+        unload();
 }
 
 void Form::Retire() {
-    forms_ = nullptr;
+    unload_ = nullptr;
     Hide();
     if (border_ != FormBorder::FixedDialog)
         window_->Area().removeSubWindow(Widget());

@@ -73,7 +73,8 @@ class Form : public Placement, public Container {
     class ChildFrame;
     class DialogFrame;
 
-    void Load(Forms& forms, MdiWindow& window);
+    // `unload` takes the form out of its registry.
+    void Load(std::function<void()> unload, MdiWindow& window);
     void Resized();
     void ShowDialog();
     // Out of sight for good.
@@ -81,8 +82,8 @@ class Form : public Placement, public Container {
 
     FormBorder border_;
     Body* body_;
-    Forms* forms_ = nullptr;
     MdiWindow* window_ = nullptr;
+    std::function<void()> unload_;  // empty before and behind the form's time in a registry
     std::function<void()> endDialog_;
     std::pair<int, int> wantedInside_;  // twips, until the form first shows
     const Control* first_ = nullptr;

@@ -48,7 +48,7 @@ Form& Forms::Load(const std::string& name) {
     Form& form = *made;
     // In the registry before its load event runs, which may touch it again through other forms.
     open_.push_back({name, std::move(made)});
-    form.Load(*this, window_);
+    form.Load([this, &form] { Unload(form); }, window_);
     return form;
 }
 

@@ -55,7 +55,6 @@ class Forms {
     void UnloadAll();
 
   private:
-    friend class Form;
     struct Entry {
         std::string name;
         std::unique_ptr<Form> form;

@@ -16,14 +16,14 @@ constexpr QSize LeastPicture(320, 200);
 }  // namespace
 
 Graph::Graph(Container& parent, const GraphTitles& titles)
-    : Control(new Plot(titles, parent.Canvas())) {
+    : Control(new GraphPlot(titles, parent.Canvas())) {
     SetAccessibleName(titles.title);
 }
 
 Graph::~Graph() = default;
 
-Graph::Plot& Graph::Inner() const {
-    return *static_cast<Plot*>(Widget());
+GraphPlot& Graph::Inner() const {
+    return *static_cast<GraphPlot*>(Widget());
 }
 
 void Graph::SetAutoAdvance(bool advances) {
@@ -32,7 +32,7 @@ void Graph::SetAutoAdvance(bool advances) {
 
 // Room is made as points are written: a count may be far beyond what ever comes.
 void Graph::SetPointCount(int count) {
-    Plot& plot = Inner();
+    GraphPlot& plot = Inner();
     plot.count = std::max(0, count);
     if (plot.points.size() > static_cast<std::size_t>(plot.count))
         plot.points.resize(static_cast<std::size_t>(plot.count));
@@ -50,7 +50,7 @@ void Graph::SetPointIndex(int index) {
 }
 
 GraphPoint* Graph::Addressed() {
-    Plot& plot = Inner();
+    GraphPlot& plot = Inner();
     if (plot.count == 0)
         return nullptr;
     if (plot.points.size() < static_cast<std::size_t>(index_))

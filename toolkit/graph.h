@@ -6,27 +6,13 @@
 #include <vector>
 
 #include "toolkit/control.h"
+#include "toolkit/graph_values.h"
 
 class QImage;
 
 namespace trabeon {
 
-struct GraphTitles {
-    std::string title;
-    std::string x;
-    std::string value;
-};
-
-// A place on the x axis, as a joint of the beam.
-struct GraphMark {
-    double x;
-    std::string label;
-};
-
-struct GraphPoint {
-    double x = 0;
-    double y = 0;
-};
+class GraphPlot;
 
 enum class DrawActions { Redraw = 3, CopyToClipboard = 4 };
 
@@ -67,8 +53,7 @@ class Graph : public Control {
     std::string LeastLabel() const;
 
   private:
-    class Plot;
-    Plot& Inner() const;
+    GraphPlot& Inner() const;
     GraphPoint* Addressed();  // null while there are no points
 
     bool autoAdvance_ = false;

@@ -26,7 +26,7 @@ void SetPixel(QCPItemText& item, const QPointF& at) {
 
 }  // namespace
 
-void Graph::Plot::FindExtremes() {
+void GraphPlot::FindExtremes() {
     const auto& curve = *graph(0)->data();
     extremes_->data()->clear();
     greatest->setText({});
@@ -50,7 +50,7 @@ void Graph::Plot::FindExtremes() {
 }
 
 // Gives the height that the two take. In a small chart they share a line, if it is long enough.
-int Graph::Plot::FitTitles() {
+int GraphPlot::FitTitles() {
     const bool roomy = IsRoomy();
     const bool titled = viewport().height() >= 70;
     title_->setFont(FontNamed("Arial", roomy ? 10 : 8, true));
@@ -69,7 +69,7 @@ int Graph::Plot::FitTitles() {
 }
 
 // Leaves out labels that would stand on one another, and lines that would become a grey area.
-void Graph::Plot::FitMarks() {
+void GraphPlot::FitMarks() {
     constexpr double LeastApart = 8;
     xAxis2->setVisible(!marks.empty());
     xAxis2->setTickLabels(!marks.empty());
@@ -93,7 +93,7 @@ void Graph::Plot::FitMarks() {
     markTicks_->setTicks(ticks);
 }
 
-QRectF Graph::Plot::PlaceLabel(QCPItemText& label, const Point& at, bool above) {
+QRectF GraphPlot::PlaceLabel(QCPItemText& label, const Point& at, bool above) {
     const QRectF area = axisRect()->rect();
     const QPointF point(xAxis->coordToPixel(at.x), yAxis->coordToPixel(at.y));
     label.setVisible(!label.text().isEmpty() && area.adjusted(-1, -1, 1, 1).contains(point));
@@ -110,7 +110,7 @@ QRectF Graph::Plot::PlaceLabel(QCPItemText& label, const Point& at, bool above) 
     return label.visible() ? box : QRectF();
 }
 
-void Graph::Plot::PlaceLabels() {
+void GraphPlot::PlaceLabels() {
     QCPItemText& upper = factor < 0 && !least->text().isEmpty() ? *least : *greatest;
     QCPItemText& lower = &upper == greatest ? *least : *greatest;
     const QRectF first = PlaceLabel(upper, top_, true);
@@ -126,7 +126,7 @@ void Graph::Plot::PlaceLabels() {
         lower.setVisible(false);
 }
 
-void Graph::Plot::ReadOut(const QPointF& mouse) {
+void GraphPlot::ReadOut(const QPointF& mouse) {
     const QRect area = axisRect()->rect();
     if (graph(0)->data()->isEmpty() || !area.contains(mouse.toPoint())) {
         HideReadOut();
@@ -147,7 +147,7 @@ void Graph::Plot::ReadOut(const QPointF& mouse) {
     Refresh();
 }
 
-void Graph::Plot::HideReadOut() {
+void GraphPlot::HideReadOut() {
     if (!readOut_->visible())
         return;
     dot_->setVisible(false);
@@ -156,7 +156,7 @@ void Graph::Plot::HideReadOut() {
     Refresh();
 }
 
-void Graph::Plot::leaveEvent(QEvent* event) {
+void GraphPlot::leaveEvent(QEvent* event) {
     QCustomPlot::leaveEvent(event);
     HideReadOut();
 }

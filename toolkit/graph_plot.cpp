@@ -47,7 +47,7 @@ QPen CurvePen(double width) {
 
 }  // namespace
 
-Graph::Plot::Plot(const GraphTitles& titles, QWidget* parent)
+GraphPlot::GraphPlot(const GraphTitles& titles, QWidget* parent)
     : QCustomPlot(parent),
       xTitle_(QString::fromStdString(titles.x)),
       valueTitle_(QString::fromStdString(titles.value)) {
@@ -57,12 +57,12 @@ Graph::Plot::Plot(const GraphTitles& titles, QWidget* parent)
     MakeCurve();
     MakeItems(titles);
     MakeMouse();
-    connect(this, &QCustomPlot::beforeReplot, this, &Plot::Prepare);
-    connect(this, &QCustomPlot::afterLayout, this, &Plot::PlaceLabels);
+    connect(this, &QCustomPlot::beforeReplot, this, &GraphPlot::Prepare);
+    connect(this, &QCustomPlot::afterLayout, this, &GraphPlot::PlaceLabels);
     Rescale();
 }
 
-void Graph::Plot::MakeCurve() {
+void GraphPlot::MakeCurve() {
     new PiecewiseGraph(xAxis, yAxis);
     extremes_ = addGraph();
     extremes_->setLineStyle(QCPGraph::lsNone);
@@ -94,7 +94,7 @@ void Graph::Plot::MakeCurve() {
             QOverload<const QCPRange&>::of(&QCPAxis::setRange));
 }
 
-QCPItemText* Graph::Plot::MakeText(const QColor& colour, double size, bool bold) {
+QCPItemText* GraphPlot::MakeText(const QColor& colour, double size, bool bold) {
     auto* text = new QCPItemText(this);
     text->setText({});  // it has one of its own
     text->setClipToAxisRect(false);
@@ -105,7 +105,7 @@ QCPItemText* Graph::Plot::MakeText(const QColor& colour, double size, bool bold)
     return text;
 }
 
-void Graph::Plot::MakeItems(const GraphTitles& titles) {
+void GraphPlot::MakeItems(const GraphTitles& titles) {
     auto* zero = new QCPItemStraightLine(this);
     zero->point1->setCoords(0, 0);
     zero->point2->setCoords(1, 0);
@@ -133,7 +133,7 @@ void Graph::Plot::MakeItems(const GraphTitles& titles) {
     readOut_->setVisible(false);
 }
 
-void Graph::Plot::MakeMouse() {
+void GraphPlot::MakeMouse() {
     setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
     connect(this, &QCustomPlot::mouseWheel, this, [this] { zoomed_ = true; });
     connect(this, &QCustomPlot::mouseMove, this, [this](const QMouseEvent* event) {
@@ -148,7 +148,7 @@ void Graph::Plot::MakeMouse() {
     setMouseTracking(true);
 }
 
-void Graph::Plot::Redraw() {
+void GraphPlot::Redraw() {
     zoomed_ = false;
     const bool isDue = isVisible() && !size().isEmpty() &&
                        (!sinceRedraw_.isValid() || sinceRedraw_.elapsed() >= FrameMs);
@@ -163,7 +163,7 @@ void Graph::Plot::Redraw() {
 
 // One call waits at most. The chart's own queue takes another one after each immediate replot, and
 // a long handler would leave hundreds.
-void Graph::Plot::Refresh() {
+void GraphPlot::Refresh() {
     stale_ = true;
     if (std::exchange(waiting_, true))
         return;
@@ -178,12 +178,12 @@ void Graph::Plot::Refresh() {
         Qt::QueuedConnection);
 }
 
-void Graph::Plot::resizeEvent(QResizeEvent* event) {
+void GraphPlot::resizeEvent(QResizeEvent* event) {
     if (!size().isEmpty())
         QCustomPlot::resizeEvent(event);
 }
 
-void Graph::Plot::Prepare() {
+void GraphPlot::Prepare() {
     TakeData();
     FindExtremes();
     FitToSize();
@@ -193,7 +193,7 @@ void Graph::Plot::Prepare() {
     FitMarks();
 }
 
-void Graph::Plot::TakeData() {
+void GraphPlot::TakeData() {
     QVector<QCPGraphData> curve;
     curve.reserve(shown);
     for (int i = 0; i < shown; ++i) {
@@ -209,12 +209,12 @@ void Graph::Plot::TakeData() {
     values_->factor = factor;
 }
 
-bool Graph::Plot::IsRoomy() const {
+bool GraphPlot::IsRoomy() const {
     return viewport().height() >= 170;
 }
 
 // A small chart gives up what it can do without, first its axis titles.
-void Graph::Plot::FitToSize() {
+void GraphPlot::FitToSize() {
     const bool roomy = IsRoomy();
     xAxis->setLabel(roomy ? xTitle_ : QString());
     yAxis->setLabel(roomy ? valueTitle_ : QString());
@@ -226,7 +226,7 @@ void Graph::Plot::FitToSize() {
 
 // Many points to a pixel make a block of colour anyway: there a hair line without a fill looks the
 // same and costs a fiftieth.
-void Graph::Plot::FitCurve() {
+void GraphPlot::FitCurve() {
     constexpr double ManyPerPixel = 6;
     const auto& curve = *graph(0)->data();
     const double whole =
@@ -237,7 +237,7 @@ void Graph::Plot::FitCurve() {
     graph(0)->setBrush(dense ? QBrush() : QColor(Curve.red(), Curve.green(), Curve.blue(), 38));
 }
 
-void Graph::Plot::Rescale() {
+void GraphPlot::Rescale() {
     const auto& curve = *graph(0)->data();
     QCPRange x(0, 1), y(-1, 1);
     if (!curve.isEmpty()) {
@@ -258,7 +258,7 @@ void Graph::Plot::Rescale() {
     yAxis->setRange(y.lower - margin, y.upper + margin);
 }
 
-QImage Graph::Plot::PictureOf(QSize size, double ratio) {
+QImage GraphPlot::PictureOf(QSize size, double ratio) {
     HideReadOut();
     const QRect onScreen = viewport();
     setViewport(QRect(QPoint(0, 0), size));

@@ -5,14 +5,14 @@
 
 #include <vector>
 
-#include "toolkit/graph.h"
 #include "toolkit/graph_axes.h"
+#include "toolkit/graph_values.h"
 
 namespace trabeon {
 
-class Graph::Plot : public QCustomPlot {
+class GraphPlot : public QCustomPlot {
   public:
-    Plot(const GraphTitles& titles, QWidget* parent);
+    GraphPlot(const GraphTitles& titles, QWidget* parent);
 
     using Point = GraphPoint;
     int count = 0;              // of the points that were told of

@@ -45,7 +45,7 @@ Failure unfit(const std::vector<SpanMaximum>& maxima) {
 
 /// The calculation from a sound structure on.
 Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
-                            const AnalysisOutputs& outputs) {
+                            const TableSink& tableRow, const AnalysisOutputs& outputs) {
     if (auto failure = unfit(settings))
         return *failure;
     auto beam = beamOf(rows.joints, rows.members);
@@ -64,7 +64,7 @@ Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
     const auto FEM = fixedEndMoments(*beam, *udls, *points);
     if (auto failure = unfit(FEM))
         return *failure;
-    auto Final = relax(*beam, FEM, outputs.tableRow, [&] { outputs.progress(50); });
+    auto Final = relax(*beam, FEM, tableRow, [&] { outputs.progress(50); });
     if (!Final)
         return Final.refusal();
 
@@ -103,11 +103,11 @@ BeamRows readBeamRows(const std::filesystem::path& folder) {
 }
 
 std::optional<Analysis> analyse(BeamRows rows, const AnalysisSettings& settings,
-                                const AnalysisOutputs& outputs) {
+                                const TableSink& tableRow, const AnalysisOutputs& outputs) {
     outputs.progress(0);
     if (!structureHolds(rows, outputs.message))
         return std::nullopt;
-    auto analysis = calculate(std::move(rows), settings, outputs);
+    auto analysis = calculate(std::move(rows), settings, tableRow, outputs);
     if (analysis)
         return std::move(*analysis);
     outputs.refuse(analysis.refusal());

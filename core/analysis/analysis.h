@@ -37,11 +37,10 @@ struct AnalysisSettings {
 /// Refuses settings outside their limits.
 [[nodiscard]] Failure unfit(const AnalysisSettings& settings);
 
-/// What an analysis tells while it runs. `progress` gets 0, then 50 when the moments have settled,
-/// then 50 + 50 i / n when span i of n is searched.
+/// What an analysis tells its user while it runs. `progress` gets 0, then 50 when the moments have
+/// settled, then 50 + 50 i / n when span i of n is searched.
 struct AnalysisOutputs {
     MessageSink message;
-    TableSink tableRow = [](const TableRow&) {};
     std::function<void(double)> progress = [](double) {};
 
     void refuse(const Refusal& why) const { message({why.sentence, 48, "Trabeon"}); }
@@ -63,9 +62,10 @@ struct Analysis {
     }
 };
 
-/// Nothing if the structure breaks a rule or a value cannot be calculated: then a message was
-/// shown.
+/// The balance table goes to `tableRow` as it comes up. Nothing if the structure breaks a rule or a
+/// value cannot be calculated: then a message was shown.
 [[nodiscard]] std::optional<Analysis> analyse(BeamRows rows, const AnalysisSettings& settings,
+                                              const TableSink& tableRow,
                                               const AnalysisOutputs& outputs);
 
 }  // namespace trabeon

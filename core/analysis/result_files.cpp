@@ -45,12 +45,14 @@ void writeRow(ReplacingFile& file, const Station& station) {
 }
 
 /// The load files in normal form, and the scratch twins that the regrouping leaves behind. A second
-/// analysis finds them so.
+/// analysis finds them so, and leaves them alone.
 template <class Load>
-void writeLoads(FileSet& files, const MemberLoads<Load>& loads) {
+void writeLoads(FileSet& files, const std::filesystem::path& folder,
+                const MemberLoads<Load>& loads) {
     const auto text = textOf(loads.rows, Description::bare);
-    files.put(Load::Row::scratch, text);
-    files.put(Load::Row::file, text);
+    for (const auto name : {Load::Row::scratch, Load::Row::file})
+        if (readWhole(folder / name) != text)
+            files.add(name).write(text);
 }
 
 }  // namespace
@@ -92,10 +94,11 @@ void writeMaxima(ReplacingFile& file, const Analysis& analysis) {
 }
 
 std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
-                                      const AnalysisSettings& settings, AnalysisOutputs outputs) {
+                                      const AnalysisSettings& settings,
+                                      const AnalysisOutputs& outputs) {
     FileSet files(folder);
     std::optional<BalanceTableWriter> table;
-    outputs.tableRow = [&](const TableRow& row) {
+    const auto writeRow = [&](const TableRow& row) {
         if (!table)
             table.emplace(files.add(working_file::balanceTable));
         table->write(row);
@@ -104,13 +107,13 @@ std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
         outputs.refuse(*failure);
         return std::nullopt;
     }
-    auto analysis = analyse(readBeamRows(folder), settings, outputs);
+    auto analysis = analyse(readBeamRows(folder), settings, writeRow, outputs);
     if (!analysis)
         return std::nullopt;
     writeStations(files.add(working_file::stations), *analysis);
     writeMaxima(files.add(working_file::maxima), *analysis);
-    writeLoads(files, analysis->points);
-    writeLoads(files, analysis->udls);
+    writeLoads(files, folder, analysis->points);
+    writeLoads(files, folder, analysis->udls);
     if (const auto failure = files.commit()) {
         outputs.refuse(*failure);
         return std::nullopt;

@@ -28,10 +28,9 @@ void writeMaxima(ReplacingFile& file, const Analysis& analysis);
 
 /// Analyses the beam whose rows stand in a working folder. Rewrites "Point.txt" and "Udl.txt" in
 /// normal form, "TB.txt", "BM.txt" and "BMMax.txt", all of them or, if anything fails before the
-/// first is replaced, none; whatever failed has been told to `message`. The table's rows go to the
-/// file; `outputs.tableRow` is not used.
+/// first is replaced, none; whatever failed has been told to `message`.
 [[nodiscard]] std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
                                                     const AnalysisSettings& settings,
-                                                    AnalysisOutputs outputs);
+                                                    const AnalysisOutputs& outputs);
 
 }  // namespace trabeon

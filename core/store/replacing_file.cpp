@@ -3,8 +3,6 @@
 #include <cerrno>
 #include <utility>
 
-#include "core/store/working_files.h"
-
 namespace trabeon {
 namespace {
 
@@ -107,11 +105,6 @@ Refusal ReplacingFile::refusal() const {
             std::generic_category().message(error_) +
             "). What stood there before is unchanged; make room or choose another folder, then try "
             "again."};
-}
-
-void FileSet::put(std::string_view name, std::string_view text) {
-    if (readWhole(folder_ / name) != text)
-        add(name).write(text);
 }
 
 Failure FileSet::commit() {

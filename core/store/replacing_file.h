@@ -63,9 +63,6 @@ class FileSet {
 
     ReplacingFile& add(std::string_view name) { return files_.emplace_back(folder_ / name); }
 
-    /// The whole content of one file. If it stands there already, the file is left alone.
-    void put(std::string_view name, std::string_view text);
-
     /// Every file takes its place, in the order in which they were added.
     [[nodiscard]] Failure commit();
 

@@ -121,12 +121,17 @@ bool frmTrabeon::FileSave() {
     return true;
 }
 
-void frmTrabeon::FileSaveAs() {
+CommonDialog& frmTrabeon::projectDialog(const char* title, int flags) {
     auto& dialog = context_.CommonDialog1;
-    const auto former = dialog.FileName;
     dialog.Filter = projectFilter;
-    dialog.DialogTitle = "Save Trabeon File";
-    dialog.Flags = saveFlags;
+    dialog.DialogTitle = title;
+    dialog.Flags = flags;
+    return dialog;
+}
+
+void frmTrabeon::FileSaveAs() {
+    auto& dialog = projectDialog("Save Trabeon File", saveFlags);
+    const auto former = dialog.FileName;
     if (!dialog.ShowSave())
         return;
     if (FileSave())
@@ -136,11 +141,8 @@ void frmTrabeon::FileSaveAs() {
 }
 
 bool frmTrabeon::FileOpen() {
-    auto& dialog = context_.CommonDialog1;
+    auto& dialog = projectDialog("Open Trabeon File", openFlags);
     const auto former = dialog.FileName;
-    dialog.Filter = projectFilter;
-    dialog.DialogTitle = "Open Trabeon File";
-    dialog.Flags = openFlags;
     if (!dialog.ShowOpen())
         return false;
     const auto title = unpackProject(dialog.FileName, context_.folder);

@@ -52,6 +52,7 @@ class frmTrabeon {
     void QueryUnload(bool& cancel);
     void Unload(bool& cancel);
     void openPage(const char* name);
+    CommonDialog& projectDialog(const char* title, int flags);
     void fillTitle(const ProjectTitle& title);
     void setProjectName(std::string_view name);
     [[nodiscard]] bool folderIsWritable() const;

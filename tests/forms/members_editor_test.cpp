@@ -1,10 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <ctime>
-
 #include "forms/input/frmMembers.h"
 #include "tests/support/editor_fixture.h"
-#include "tests/support/time_limit.h"
 
 namespace trabeon::test {
 namespace {
@@ -13,6 +10,11 @@ class MembersEditor : public EditorTest {
   protected:
     MembersEditor() {
         Start();
+        Reopen();
+    }
+    void Reopen() {
+        forms().Unload("frmMembers");
+        Settle();
         members = &Open<frmMembers>("&Structure|&Members...");
     }
     std::string File() { return folder.read("Member.txt"); }
@@ -37,10 +39,9 @@ TEST_F(MembersEditor, EnterThroughTheBoxesAddsAndBeginsAgain) {
     ClickRow(members->ListView1, 1);
     Click(members->cmdRemove);
     EXPECT_EQ(File(), " 1,200,2.5,4.20,\"hall, east\"\r\n 2,200,2.5,4.20,\"None\"\r\n");
-    EXPECT_EQ(members->txtLength.Text(), "4.20");
 }
 
-TEST_F(MembersEditor, AValueThatReadsAsZeroIsRefusedInSilence) {
+TEST_F(MembersEditor, ZeroIsRefusedInSilenceAndBoxesTakeDigitsAndPoints) {
     for (const auto* keys :
          {"\n2\n6\n\n", "0.0\n2\n6\n\n", ".\n2\n6\n\n", "200\n0\n6\n\n", "200\n2\n\b\n\n"}) {
         Keys("\b");
@@ -50,17 +51,10 @@ TEST_F(MembersEditor, AValueThatReadsAsZeroIsRefusedInSilence) {
     }
     Click(members->cmdAddJoint);
     EXPECT_TRUE(members->txtYM.HasFocus());
-    EXPECT_EQ(File(), "");
-}
-
-TEST_F(MembersEditor, BoxesTakeDigitsAndPointsAndPasteIsNotFiltered) {
-    Keys("-1a2.3 .4e5\b6");
-    EXPECT_EQ(members->txtYM.Text(), "12.3.46");
-    Keys("\n2\n");
-    Paste("6\"\r\n,5");
-    EXPECT_EQ(members->txtLength.Text(), "6,5");
+    Keys("-1a2.3 .4e5\b6\n2\n");
+    Paste("6\"\r\n,5");  // is not filtered, and one field still
     Keys("\n\n");
-    EXPECT_EQ(File(), " 1,12.3.46,2,\"6,5\",\"None\"\r\n");  // one field still
+    EXPECT_EQ(File(), " 1,12.3.46,2,\"6,5\",\"None\"\r\n");
     EXPECT_EQ(Shown(members->ListView1, 4), (Texts{"6,5"}));
 }
 
@@ -87,49 +81,30 @@ TEST_F(MembersEditor, TheListIsReachedByTabAndRemoveByShiftTabFromIt) {
     Keys("200\n2\n6\n\n3\n\n\n\n\t\t\t\t\t");
     EXPECT_TRUE(members->ListView1.HasFocus());
     Key(Qt::Key_Up);
-    EXPECT_TRUE(members->cmdRemove.Enabled());
     Key(Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_TRUE(members->cmdRemove.HasFocus());
     Keys(" ");
     EXPECT_EQ(File(), " 1,3,2,6,\"None\"\r\n");
     EXPECT_TRUE(members->ListView1.HasFocus());
     Key(Qt::Key_Home);
-    Key(Qt::Key_R, Qt::AltModifier);
+    Alt(Qt::Key_R);
     EXPECT_EQ(File(), "");
-    Key(Qt::Key_D, Qt::AltModifier);
+    Alt(Qt::Key_D);
     EXPECT_TRUE(forms().IsLoaded("frmDiagram"));
 }
 
-/// Milliseconds of this process, whatever else the machine does.
-template <class Work>
-double Cost(Work work) {
-    const auto begin = std::clock();
-    work();
-    QApplication::processEvents();
-    return 1000.0 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
-}
-
 TEST_F(MembersEditor, AddAndRemoveStayQuickWithTwoThousandRows) {
-    std::string rows;
-    for (int i = 1; i <= 2000; ++i)
-        rows += std::to_string(i) + ",200,2,6,\"a description of the usual length\"\r\n";
-    folder.write("Member.txt", rows);
-    members->Unload();
-    Settle();
-    members = &Open<frmMembers>("&Structure|&Members...");
+    folder.write("Member.txt", MemberRows(2000));
+    Reopen();
     Keys("200\n2\n6\n");
     const double add = Cost([] { Keys("\n"); });
-    EXPECT_EQ(members->ListView1.ListItems.Count(), 2001);
     ClickRow(members->ListView1, 2001);
     const double remove = Cost([this] { members->cmdRemove.Press(); });
-    EXPECT_EQ(members->ListView1.ListItems.Count(), 2000);
     ClickTitle(members->ListView1, 1);
     const double sorted = Cost([this] { DoubleClickRow(members->ListView1, 1); });
     EXPECT_EQ(members->ListView1.ListItems.Count(), 1999);
     for (const double cost : {add, remove, sorted})
         EXPECT_LT(cost, limit(100));
-    std::printf("2,000 rows: Add %.0f ms, Remove %.0f ms, Remove while sorted %.0f ms\n", add,
-                remove, sorted);
 }
 
 }  // namespace

@@ -74,18 +74,17 @@ TEST_F(Options, ChangeTurnsTheConventionAndItsPicture) {
     std::filesystem::copy(PICTURES, folder.path());
     Start();
     auto& options = Open();
-    EXPECT_TRUE(options.WebMoment.HasPicture());
-    EXPECT_TRUE(options.WebShear.HasPicture());
-    EXPECT_EQ(options.lblMOption.Caption(), "Option B");
-    for (const auto* now : {"Option A", "Option B"}) {
-        Click(options.cmdChangeM);
-        EXPECT_EQ(options.lblMOption.Caption(), now);
-        EXPECT_EQ(options.lblSOption.Caption(), "Option B");
-        EXPECT_TRUE(options.WebMoment.HasPicture());
+    const std::function<void()> presses[] = {[&] { Click(options.cmdChangeM); },
+                                             [&] { Click(options.cmdChangeM); },
+                                             [&] { Click(options.cmdChangeS); }};
+    std::string conventions;
+    for (const auto& press : presses) {
+        EXPECT_TRUE(options.WebMoment.HasPicture() && options.WebShear.HasPicture());
+        press();
+        conventions += options.lblMOption.Caption() + options.lblSOption.Caption() + ' ';
     }
-    Click(options.cmdChangeS);
-    EXPECT_EQ(options.lblSOption.Caption(), "Option A");
-    EXPECT_TRUE(options.WebShear.HasPicture());
+    EXPECT_EQ(conventions, "Option AOption B Option BOption B Option BOption A ");
+    EXPECT_TRUE(options.WebMoment.HasPicture() && options.WebShear.HasPicture());
 }
 
 TEST_F(Options, ClosedFormComesBackWithItsDefaultsAndResultsStay) {
@@ -105,43 +104,28 @@ TEST_F(Options, ClosedFormComesBackWithItsDefaultsAndResultsStay) {
 
 /// A form that notes when it goes.
 std::string unloaded;
-template <char Letter>
+constexpr const char* resultForms[] = {"frmShear1",      "frmMoment1", "frmContinuousTB",
+                                       "frmContinuousS", "frmBMData",  "frmSData",
+                                       "frmAnalysis"};
+template <int Number>
 struct Result : Form {
-    static const char* const Name;
+    static constexpr const char* Name = resultForms[Number];
     explicit Result(Context&) : Form("Result") {}
-    ~Result() override { unloaded += Letter; }
+    ~Result() override { unloaded += std::to_string(Number); }
 };
-template <>
-const char* const Result<'s'>::Name = "frmShear1";
-template <>
-const char* const Result<'m'>::Name = "frmMoment1";
-template <>
-const char* const Result<'t'>::Name = "frmContinuousTB";
-template <>
-const char* const Result<'c'>::Name = "frmContinuousS";
-template <>
-const char* const Result<'b'>::Name = "frmBMData";
-template <>
-const char* const Result<'d'>::Name = "frmSData";
-template <>
-const char* const Result<'a'>::Name = "frmAnalysis";
 
 TEST_F(Options, ResultFormsGoInTheirOrder) {
     Start();
-    forms().Register<Result<'a'>>(context());
-    forms().Register<Result<'b'>>(context());
-    forms().Register<Result<'c'>>(context());
-    forms().Register<Result<'d'>>(context());
-    forms().Register<Result<'m'>>(context());
-    forms().Register<Result<'s'>>(context());
-    forms().Register<Result<'t'>>(context());
-    for (const auto* form : {"frmAnalysis", "frmBMData", "frmContinuousS", "frmContinuousTB",
-                             "frmMoment1", "frmSData", "frmShear1"})
-        forms().Show(form);
+    [&]<int... Number>(std::integer_sequence<int, Number...>) {
+        (forms().Register<Result<Number>>(context()), ...);
+    }
+    (std::make_integer_sequence<int, 7>());
+    for (const int number : {6, 4, 3, 2, 1, 5, 0})
+        forms().Show(resultForms[number]);
     unloaded.clear();
     DisablePlot(context());
     Settle();
-    EXPECT_EQ(unloaded, "smtcbda");
+    EXPECT_EQ(unloaded, "0123456");
 }
 
 }  // namespace

@@ -5,12 +5,16 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
+#include <QLabel>
 #include <QTreeWidget>
+#include <ctime>
 #include <string>
 #include <vector>
 
 #include "tests/support/program_fixture.h"
+#include "tests/support/time_limit.h"
 #include "toolkit/list_view.h"
+#include "toolkit/picture_box.h"
 
 namespace trabeon::test {
 
@@ -41,6 +45,7 @@ class EditorTest : public ProgramTest {
     static void Key(Qt::Key key, Qt::KeyboardModifiers held = {}) {
         QTest::keyClick(QApplication::focusWidget(), key, held);
     }
+    static void Alt(Qt::Key key) { Key(key, Qt::AltModifier); }
     /// Takes the place of what the box with the focus has selected.
     static void Paste(const QString& text) {
         QGuiApplication::clipboard()->setText(text);
@@ -79,12 +84,67 @@ class EditorTest : public ProgramTest {
     }
     using Texts = std::vector<std::string>;
 
-    /// From here on a rewrite of that file fails.
-    void BlockWriting(const std::string& scratch) {
-        std::filesystem::create_directory(folder / (scratch + ".new"));
-        outside.ExpectMsgBox("\"" + (folder / scratch).string() +
+    static std::string MemberRows(int count) {
+        std::string rows;
+        for (int i = 1; i <= count; ++i)
+            rows += std::to_string(i) + ",200,2,6,\"a description of the usual length\"\r\n";
+        return rows;
+    }
+
+    /// Milliseconds of this process, whatever else the machine does.
+    template <class Work>
+    static double Cost(Work work) {
+        const auto begin = std::clock();
+        work();
+        QApplication::processEvents();
+        return 1000.0 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
+    }
+
+    /// The one question that follows says that a file cannot be written.
+    void ExpectUnwritten(const std::string& name) {
+        outside.ExpectMsgBox("\"" + (folder / name).string() +
                              "\" could not be written (Is a directory). What stood there before is "
                              "unchanged; make room or choose another folder, then try again.");
+    }
+    /// From here on a rewrite of that file fails, and the next one says so.
+    void BlockWriting(const std::string& name) {
+        std::filesystem::create_directory(folder / (name + ".new"));
+        ExpectUnwritten(name);
+    }
+
+    /// Every control stands inside its form and none on another; captions are not cut.
+    static void ExpectTidy(const Form& form) {
+        SCOPED_TRACE(form.Caption());
+        const QList<QWidget*> placed =
+            form.Canvas()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+        for (const auto* widget : placed) {
+            const auto* name = widget->metaObject()->className();
+            EXPECT_TRUE(form.Canvas()->rect().contains(widget->geometry())) << name;
+            for (const auto* other : placed)
+                EXPECT_TRUE(widget == other || !widget->geometry().intersects(other->geometry()))
+                    << name << " on " << other->metaObject()->className();
+        }
+        for (const auto* label : form.Canvas()->findChildren<QLabel*>())
+            EXPECT_LE(label->sizeHint().width(), label->width()) << label->text().toStdString();
+    }
+    /// All columns show.
+    static void ExpectFits(const ListView& list) {
+        EXPECT_LE(Tree(list).header()->length(), Tree(list).viewport()->width());
+    }
+
+    static std::vector<Stroke> StrokesOf(const PictureBox& picture, Stroke::Kind kind) {
+        std::vector<Stroke> found;
+        for (const auto& stroke : picture.Drawn())
+            if (stroke.kind == kind)
+                found.push_back(stroke);
+        return found;
+    }
+    static void ExpectLine(const Stroke& stroke, double x1, double y1, double x2, double y2) {
+        EXPECT_EQ(stroke.kind, Stroke::Kind::Line);
+        const double got[] = {stroke.x1, stroke.y1, stroke.x2, stroke.y2};
+        const double expected[] = {x1, y1, x2, y2};
+        for (int k = 0; k < 4; ++k)
+            EXPECT_NEAR(got[k], expected[k], 1e-6) << "number " << k;
     }
 };
 

@@ -109,14 +109,14 @@ TEST_F(FormsTest, TheFirstTouchLoadsAndBringsUp) {
     EXPECT_EQ(forms.PlaceOf("frmSecond"), nullptr);
     forms.Show("frmFirst");
     EXPECT_EQ(run.log, Log{"first loads"});
-}
-
-TEST_F(FormsTest, AFormThatHidesItselfOnLoadStaysOutOfSightUntilShown) {
-    run.hideOnLoad = true;
+    forms.Unload("frmFirst");
+    run.hideOnLoad = true;  // stays out of sight until shown
     EXPECT_FALSE(forms.Get<frmFirst>().Visible());
-    EXPECT_TRUE(forms.IsLoaded("frmFirst"));
     forms.Show("frmFirst");
     EXPECT_TRUE(forms.Get<frmFirst>().Visible());
+    forms.Unload("frmNobody");
+    EXPECT_FALSE(forms.IsLoaded("frmNobody") || forms.IsRegistered("frmNobody"));
+    EXPECT_TRUE(forms.IsRegistered("frmSecond"));
 }
 
 TEST_F(FormsTest, LoadMayTouchOtherFormsAndItself) {
@@ -136,21 +136,18 @@ TEST_F(FormsTest, AHiddenFormKeepsItsTextsAnUnloadedOneLosesThem) {
     EXPECT_EQ(forms.Get<frmFirst>().text.Text(), "default");
 }
 
-TEST_F(FormsTest, AFormUnloadsItselfInItsOwnClick) {
+TEST_F(FormsTest, AFormUnloadsItselfInItsOwnClickAndByItsCloseBox) {
     forms.Get<frmFirst>().cmdClose.Press();
     EXPECT_FALSE(forms.IsLoaded("frmFirst"));
     EXPECT_EQ(run.log, (Log{"first loads", "closed with still here"}));
     Settle();
     EXPECT_EQ(run.log.back(), "first gone");
     EXPECT_TRUE(window.Area().subWindowList().isEmpty());
-}
-
-TEST_F(FormsTest, TheCloseBoxUnloads) {
-    forms.Show("frmFirst");
-    forms.Get<frmFirst>().Widget()->close();
-    EXPECT_FALSE(forms.IsLoaded("frmFirst"));
+    forms.Show("frmSecond");
+    forms.Get<frmSecond>().Widget()->close();
+    EXPECT_FALSE(forms.IsLoaded("frmSecond"));
     Settle();
-    EXPECT_EQ(run.log.back(), "first gone");
+    EXPECT_EQ(run.log.back(), "second gone");
 }
 
 TEST_F(FormsTest, UnloadAllTakesTheLastLoadedFirstAndTheHiddenToo) {
@@ -164,24 +161,15 @@ TEST_F(FormsTest, UnloadAllTakesTheLastLoadedFirstAndTheHiddenToo) {
     EXPECT_EQ(run.log, (Log{"first loads", "second loads", "second gone", "first gone"}));
 }
 
-TEST_F(FormsTest, NamesThatAreNotLoadedAreLeftAlone) {
-    forms.Unload("frmFirst");
-    forms.Unload("frmNobody");
-    EXPECT_FALSE(forms.IsLoaded("frmNobody"));
-    EXPECT_FALSE(forms.IsRegistered("frmNobody"));
-    EXPECT_TRUE(forms.IsRegistered("frmFirst"));
-    EXPECT_TRUE(run.log.empty());
-}
-
 TEST_F(FormsTest, ShowBringsToTheFrontAndHidingBringsUpTheOneBefore) {
+    const auto inFront = [this] { return window.Area().activeSubWindow()->windowTitle(); };
     forms.Show("frmFirst");
     forms.Show("frmSecond");
-    QMdiArea& area = window.Area();
-    EXPECT_EQ(area.activeSubWindow()->windowTitle(), "Second");
+    EXPECT_EQ(inFront(), "Second");
     forms.Show("frmFirst");
-    EXPECT_EQ(area.activeSubWindow()->windowTitle(), "First");
+    EXPECT_EQ(inFront(), "First");
     forms.Get<frmFirst>().Hide();
-    EXPECT_EQ(area.activeSubWindow()->windowTitle(), "Second");
+    EXPECT_EQ(inFront(), "Second");
 }
 
 TEST_F(FormsTest, AFormKeepsItsFocusWhileAnotherIsInFront) {
@@ -196,11 +184,8 @@ TEST_F(FormsTest, AFormKeepsItsFocusWhileAnotherIsInFront) {
 
 TEST_F(FormsTest, PlaceIsTheOuterOneAndResizeTellsTheInnerOne) {
     frmFirst& first = forms.Get<frmFirst>();
-    EXPECT_EQ(first.Left(), 150);
-    EXPECT_EQ(first.Top(), 300);
-    EXPECT_EQ(first.Width(), 4500);
-    EXPECT_EQ(first.Height(), 3000);
-    ASSERT_FALSE(first.sizes.empty());
+    EXPECT_EQ((std::vector{first.Left(), first.Top(), first.Width(), first.Height()}),
+              (std::vector{150, 300, 4500, 3000}));
     const auto before = first.sizes.back();
     EXPECT_LT(before.first, 4500);
     EXPECT_LT(before.second, 3000 - 300);
@@ -209,16 +194,12 @@ TEST_F(FormsTest, PlaceIsTheOuterOneAndResizeTellsTheInnerOne) {
     first.SetScaleSize(6690, 4485);
     EXPECT_EQ(first.sizes.back(), std::make_pair(6690, 4485));
     first.Move(0, 0, -100, -100);
-    EXPECT_GE(first.sizes.back().first, 0);
-    EXPECT_GE(first.sizes.back().second, 0);
-}
-
-TEST_F(FormsTest, AToolWindowCannotBeSizedAndHasACloseBoxOnly) {
-    QWidget* frame = forms.Get<frmSecond>().Widget();
-    EXPECT_EQ(frame->minimumSize(), frame->maximumSize());
-    EXPECT_TRUE(frame->windowFlags() & Qt::WindowCloseButtonHint);
-    EXPECT_FALSE(frame->windowFlags() &
-                 (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint));
+    EXPECT_GE(std::min(first.sizes.back().first, first.sizes.back().second), 0);
+    const QWidget& tool =
+        *forms.Get<frmSecond>().Widget();  // cannot be sized, has a close box only
+    EXPECT_EQ(tool.minimumSize(), tool.maximumSize());
+    EXPECT_EQ(tool.windowFlags() & (Qt::WindowCloseButtonHint | Qt::WindowMinMaxButtonsHint),
+              Qt::WindowCloseButtonHint);
 }
 
 TEST_F(FormsTest, TheUserCannotMakeAFormSmallerThanItAllows) {

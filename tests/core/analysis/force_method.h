@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "tests/core/analysis/beam_builder.h"
+#include "core/analysis/analysis.h"
 
 namespace trabeon {
 
@@ -15,8 +15,7 @@ struct Force {
 
 /// The part of a distributed load between two places as forces at the three places of Gauss: exact
 /// for every influence that is a polynomial of degree 4 or less there.
-inline void addPart(std::vector<Force>& forces, const BeamBuilder::Udl& load, double from,
-                    double to) {
+inline void addPart(std::vector<Force>& forces, const UdlLoad& load, double from, double to) {
     const double middle = (from + to) / 2, half = (to - from) / 2;
     for (int k = -1; k <= 1; ++k) {
         const double s = middle + half * k * std::sqrt(0.6);
@@ -26,36 +25,38 @@ inline void addPart(std::vector<Force>& forces, const BeamBuilder::Udl& load, do
 }
 
 /// The loads of a member as forces, distributed ones cut at x.
-inline std::vector<Force> forcesOn(const BeamBuilder& beam, std::size_t member, double x = 0) {
+inline std::vector<Force> forcesOn(const Analysis& analysis, std::size_t member, double x = 0) {
     std::vector<Force> forces;
-    for (const auto& load : beam.points)
-        if (load.member == member)
-            forces.push_back({load.a, load.P});
-    for (const auto& load : beam.udls)
-        if (load.member == member) {
-            const double end = load.a + load.b, cut = std::clamp(x, load.a, end);
-            addPart(forces, load, load.a, cut);
-            addPart(forces, load, cut, end);
-        }
+    for (const auto& load : analysis.points.on(member))
+        forces.push_back({load.a, load.P});
+    for (const auto& load : analysis.udls.on(member)) {
+        const double end = load.a + load.b, cut = std::clamp(x, load.a, end);
+        addPart(forces, load, load.a, cut);
+        addPart(forces, load, cut, end);
+    }
     return forces;
 }
 
 /// The moments over the joints, sagging positive: at a clamped or continuous joint the rotations
 /// of the simple spans beside it must close; over the root of a cantilever the moment is known.
-inline std::vector<double> jointMoments(const BeamBuilder& beam) {
-    const auto n = beam.members.size();
+inline std::vector<double> jointMoments(const Analysis& analysis) {
+    const auto& [Supports, EndCount, SupportType, MemberE, MemberI, Length, Stiffness] =
+        analysis.beam;
+    const auto n = Supports - 1;
+    const bool free[] = {SupportType[1] == Joint::cantilever,
+                         SupportType[Supports] == Joint::cantilever};
     std::vector<double> before(n + 1), own(n + 1), after(n + 1), right(n + 1), tip(n + 1);
     for (std::size_t i = 1; i <= n; ++i) {
-        const auto& [L, E, I] = beam.members[i - 1];
-        own[i - 1] += L / (3 * E * I);
-        own[i] += L / (3 * E * I);
-        after[i - 1] = before[i] = L / (6 * E * I);
-        for (const auto& [s, F] : forcesOn(beam, i)) {
-            right[i - 1] -= F * s * (L - s) * (2 * L - s) / (6 * L * E * I);
-            right[i] -= F * s * (L - s) * (L + s) / (6 * L * E * I);
-            if (i == n && beam.joints[n] == cantilever)
+        const double L = Length[i], EI = MemberE[i] * MemberI[i];
+        own[i - 1] += L / (3 * EI);
+        own[i] += L / (3 * EI);
+        after[i - 1] = before[i] = L / (6 * EI);
+        for (const auto& [s, F] : forcesOn(analysis, i)) {
+            right[i - 1] -= F * s * (L - s) * (2 * L - s) / (6 * L * EI);
+            right[i] -= F * s * (L - s) * (L + s) / (6 * L * EI);
+            if (i == n && free[1])
                 tip[n - 1] -= F * s;
-            if (i == 1 && beam.joints[0] == cantilever)
+            if (i == 1 && free[0])
                 tip[1] -= F * (L - s);
         }
     }
@@ -65,11 +66,11 @@ inline std::vector<double> jointMoments(const BeamBuilder& beam) {
         right[joint] = moment;
     };
     for (const std::size_t joint : {std::size_t{0}, n})
-        if (beam.joints[joint] != fixed)
+        if (SupportType[joint + 1] != Joint::fixed)
             give(joint, 0);
-    if (beam.joints.front() == cantilever)
+    if (free[0])
         give(1, tip[1]);
-    if (beam.joints.back() == cantilever)
+    if (free[1])
         give(n - 1, tip[n - 1]);
     for (std::size_t j = 1; j <= n; ++j) {
         const double part = before[j] / own[j - 1];

@@ -12,27 +12,19 @@ namespace {
 
 using test::TemporaryFolder;
 
-std::string project(const std::string& joints, const std::string& rest) {
-    return "WARNNING! DO NOT CHANGE CAPITALISED TEXT. JUST CHANGE NUMBERS AS TEXT SERVES AS "
-           "INDICATORS FOR THIS "
-           "DATA FILE\r\nTITLE\r\n\"Mill, west\"\r\n\"Annonymous\"\r\n\"B1\"\r\n"
-           "JOINTS - Joint No_ Joint Type And Description\r\n" +
-           joints + "MEMBERS - Member No_ E_ I_ L And Description\r\n" + rest;
-}
-
-const std::string joints = "1,Fixed,\"None\"\r\n2,Fixed,\"\"\r\n";
-const std::string rest =
-    "1,200,2,6,\"a, b\"\r\n"
+const std::string whole =
+    "WARNNING! DO NOT CHANGE CAPITALISED TEXT. JUST CHANGE NUMBERS AS TEXT SERVES AS INDICATORS FOR "
+    "THIS DATA FILE\r\n"
+    "TITLE\r\n\"Mill, west\"\r\n\"Annonymous\"\r\n\"B1\"\r\n"
+    "JOINTS - Joint No_ Joint Type And Description\r\n1,Fixed,\"None\"\r\n2,Fixed,\"\"\r\n"
+    "MEMBERS - Member No_ E_ I_ L And Description\r\n1,200,2,6,\"a, b\"\r\n"
     "LOADING - Point Load - Member No_ Distance From Left Support_ Intensity and Description\r\n"
     "1,3,50,\"None\"\r\n"
     "LOADING - UDL Load - Member No_ Distance From Left Support_ Width of Load_ Intensity w1_ "
-    "Intensity w2 and "
-    "Description\r\n"
+    "Intensity w2 and Description\r\n"
     "1,0,1,0,0,\"Zero Load\"\r\n"
-    "TRABEON RESULTS\r\n"
-    "JOINT     000000001     000000002     \r\n"
-    "BEAM DIMENSIONS\r\n"
-    "1,1,300,500,450,30,460,200000,250,6\r\n";
+    "TRABEON RESULTS\r\nJOINT     000000001     000000002     \r\n"
+    "BEAM DIMENSIONS\r\n1,1,300,500,450,30,460,200000,250,6\r\n";
 
 const std::map<std::string, std::string> unpacked{
     {"Joint.txt", "1,Fixed,None\r\n2,Fixed,\r\n"},
@@ -42,50 +34,50 @@ const std::map<std::string, std::string> unpacked{
     {"TB.txt", "JOINT     000000001     000000002     \r\n"},
     {"BeamDim.txt", "1,1,300,500,450,30,460,200000,250,6\r\n"}};
 
-TEST(ProjectFile, OpenThenSaveGivesTheSameLines) {
-    const TemporaryFolder folder, work;
-    folder.write("a.TB", project(joints, rest));
+struct ProjectFile : testing::Test {
+    TemporaryFolder folder, work;
+
+    /// The refusal of a text as a project file, nothing if it was unpacked.
+    std::string Refusal(const std::string& text) {
+        folder.write("a.TB", text);
+        const auto title = unpackProject(folder / "a.TB", work.path());
+        return title ? "" : title.refusal().sentence;
+    }
+    std::string With(const std::string& from, const std::string& to) {
+        auto text = whole;
+        return text.replace(text.find(from), from.size(), to);
+    }
+};
+
+TEST_F(ProjectFile, OpenThenSaveGivesTheSameLines) {
+    folder.write("a.TB", whole);
     const auto title = unpackProject(folder / "a.TB", work.path());
     ASSERT_TRUE(title) << title.refusal().sentence;
-    EXPECT_EQ(title->project, "Mill, west");
-    EXPECT_EQ(title->beamName, "B1");
+    EXPECT_EQ(title->project + title->designer + title->beamName, "Mill, westAnnonymousB1");
     EXPECT_EQ(work.contents(), unpacked);
     EXPECT_FALSE(packProject(work.path(), *title, folder / "b.TB"));
-    EXPECT_EQ(folder.read("b.TB"), project(joints, rest));
-}
-
-TEST(ProjectFile, LfLineEndsAndOtherHeadingTextsAreReadAsWell) {
-    const TemporaryFolder folder, work;
-    auto text = project(joints, rest);
-    std::erase(text, '\r');
-    text.replace(text.find("MEMBERS -"), 9, "Mine now ");
-    folder.write("a.TB", text);
-    EXPECT_TRUE(unpackProject(folder / "a.TB", work.path()));
+    EXPECT_EQ(folder.read("b.TB"), whole);
+    auto other = With("MEMBERS -", "Mine now ");  // headings are known by their first letters,
+    std::erase(other, '\r');                      // and LF ends a line too
+    EXPECT_EQ(Refusal(other), "");
     EXPECT_EQ(work.contents(), unpacked);
 }
 
-TEST(ProjectFile, NewProjectHasAllHeadingsAndNothingBetween) {
-    const TemporaryFolder work, folder;
+TEST_F(ProjectFile, NewProjectHasAllHeadingsAndNothingBetween) {
     CreateNFile(work.path());
     EXPECT_FALSE(packProject(work.path(), {}, folder / "new.TB"));
     const auto text = folder.read("new.TB");
     EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 11);
     EXPECT_NE(text.find("\"Untitled\"\r\n\"Annonymous\"\r\n\"Beam Name\"\r\n"), std::string::npos);
     const auto before = work.contents();
-    EXPECT_TRUE(unpackProject(folder / "new.TB", work.path()));
+    EXPECT_EQ(Refusal(text), "");
     EXPECT_EQ(work.contents(), before);
 }
 
-TEST(ProjectFile, RefusedOnesNameTheLineAndChangeNothing) {
-    const TemporaryFolder folder, work;
+TEST_F(ProjectFile, RefusedOnesNameTheLineAndChangeNothing) {
     work.write("Joint.txt", "1,Fixed,\"mine\"\r\n");
     const auto before = work.contents();
-    const auto whole = project(joints, rest);
     const auto upTo = [&](const char* text) { return whole.substr(0, whole.find(text)); };
-    const auto with = [&](const char* from, const char* to) {
-        auto text = whole;
-        return text.replace(text.find(from), std::string(from).size(), to);
-    };
     const std::pair<std::string, const char*> rows[] = {
         {"", "line 1: the file ends where the warning was expected"},
         {upTo("\"B1\""), "line 5: the file ends where the beam name was expected"},
@@ -95,52 +87,43 @@ TEST(ProjectFile, RefusedOnesNameTheLineAndChangeNothing) {
          "line 15: the file ends where a distributed load row or the heading \"TRABEON RESULTS\""},
         {upTo("BEAM DIM"),
          "line 17: the file ends where a line of results or the heading \"BEAM DIMENSIONS\""},
-        {with("1,200,2,6,\"a, b\"", "1,200,2"),
-         "line 10: a member row or the heading \"LOADING - Point Load\" was "
-         "expected; a row has 5 fields, this line has 3"},
-        {with("2,Fixed,\"\"", "2,Fixed,a,b"),
-         "line 8: a joint row or the heading \"MEMBERS\" was expected; a row has "
-         "3 fields, this line has more than 3"},
-        {with("1,0,1,0,0", "1,0,1"), "line 14: a distributed load row"},
-        {with(",250,6\r\n", ",250\r\n"),
+        {With("1,200,2,6,\"a, b\"", "1,200,2"),
+         "line 10: a member row or the heading \"LOADING - Point Load\" was expected; a row has 5 "
+         "fields, this line has 3"},
+        {With("2,Fixed,\"\"", "2,Fixed,a,b"),
+         "line 8: a joint row or the heading \"MEMBERS\" was expected; a row has 3 fields, this "
+         "line has more than 3"},
+        {With(",250,6\r\n", ",250\r\n"),
          "line 18: a row of beam dimensions was expected; a row has 10 fields, this line has 9"},
     };
     for (const auto& [text, sentence] : rows) {
-        folder.write("a.TB", text);
-        const auto title = unpackProject(folder / "a.TB", work.path());
-        ASSERT_FALSE(title) << sentence;
-        EXPECT_NE(title.refusal().sentence.find("a.TB\" is not a whole project file: " +
-                                                std::string(sentence)),
+        const auto refusal = Refusal(text);
+        EXPECT_NE(refusal.find("a.TB\" is not a whole project file: " + std::string(sentence)),
                   std::string::npos)
-            << title.refusal().sentence;
+            << refusal << " where expected: " << sentence;
         EXPECT_EQ(work.contents(), before);
     }
     EXPECT_FALSE(unpackProject(folder / "none.TB", work.path()));
 }
 
-TEST(ProjectFile, WhatCouldNotBeOpenedAgainIsNotSaved) {
-    const TemporaryFolder work, folder;
+TEST_F(ProjectFile, WhatCannotBeSavedOrOpenedAgainLeavesTheOldFile) {
     CreateNFile(work.path());
     folder.write("a.TB", "old");
+    const auto failure = [&](const ProjectTitle& title = {}) {
+        const auto why = packProject(work.path(), title, folder / "a.TB");
+        EXPECT_EQ(folder.read("a.TB"), "old");
+        return why ? why->sentence : "";
+    };
+    EXPECT_NE(failure({"a \"quoted\" title", "", ""}), "");
     work.write("BeamDim.txt", "1,1,300\r\n");
-    const auto failure = packProject(work.path(), {}, folder / "a.TB");
-    ASSERT_TRUE(failure);
-    EXPECT_NE(failure->sentence.find("a row of beam dimensions was expected"), std::string::npos)
-        << failure->sentence;
+    EXPECT_NE(failure().find("a row of beam dimensions was expected"), std::string::npos);
     work.write("BeamDim.txt", "");
+    std::filesystem::create_directory(folder / "a.TB.new");
+    EXPECT_NE(failure(), "");
+    std::filesystem::remove(folder / "a.TB.new");
     std::filesystem::remove(work / "Joint.txt");
     std::filesystem::create_directory(work / "Joint.txt");
-    EXPECT_TRUE(packProject(work.path(), {}, folder / "a.TB"));
-    EXPECT_EQ(folder.read("a.TB"), "old");
-}
-
-TEST(ProjectFile, FailedSaveLeavesTheOldFile) {
-    const TemporaryFolder work, folder;
-    folder.write("a.TB", "old");
-    EXPECT_TRUE(packProject(work.path(), {"a \"quoted\" title", "", ""}, folder / "a.TB"));
-    std::filesystem::create_directory(folder / "a.TB.new");
-    EXPECT_TRUE(packProject(work.path(), {}, folder / "a.TB"));
-    EXPECT_EQ(folder.read("a.TB"), "old");
+    EXPECT_NE(failure(), "");
 }
 
 }  // namespace

@@ -1,9 +1,13 @@
+// The station file row by row, and the curves of a diagram from it.
 #include "core/store/station_reader.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <sstream>
 #include <string>
+
+#include "core/analysis/diagram_curve.h"
 
 namespace trabeon {
 namespace {
@@ -25,17 +29,11 @@ std::vector<std::string> walk(const std::string& text, std::size_t rowsPerMember
     return rows;
 }
 
-TEST(StationReader, KnowsTheRowsOfAMemberFromDivisions) {
-    EXPECT_EQ(stationRowsOf(10), 12);
-    EXPECT_EQ(stationRowsOf(10.9), 12);
-    EXPECT_EQ(stationRowsOf(0), 2);
-    EXPECT_EQ(stationRowsOf(-1), 1);
-    EXPECT_EQ(stationRowsOf(-7), 0);
-    EXPECT_EQ(stationRowsOf(10'000), 10'002);
-    EXPECT_EQ(stationRowsOf(INFINITY), 10'002);
-}
-
 TEST(StationReader, WalksByPositionWhateverTheHeadingsSay) {
+    const std::pair<double, std::size_t> rowCounts[] = {
+        {10, 12}, {10.9, 12}, {-1, 1}, {-7, 0}, {10'000, 10'002}, {INFINITY, 10'002}};
+    for (const auto& [Divisions, count] : rowCounts)
+        EXPECT_EQ(stationRowsOf(Divisions), count);
     const std::vector<std::string> rows{
         "1.1 0.00E+00|1.00E+00|2.00E+00", "1.2 3.00E+00|-4.00E+00|-5.00E+00",
         "2.1 0.00E+00|6.00E+00|7.00E+00", "2.2 9.00E+00|8.00E+00|-1.00E-01"};
@@ -44,27 +42,62 @@ TEST(StationReader, WalksByPositionWhateverTheHeadingsSay) {
     other.replace(0, 6, "Span 9");
     other.resize(other.size() - 2);  // no line end at the end
     EXPECT_EQ(walk(other, 2), rows);
-    EXPECT_TRUE(walk(twoMembers, 0).empty());
+    EXPECT_EQ(stationRows(twoMembers, 2, 2)[1].moment, "8.00E+00");
+    EXPECT_EQ(stationRows(twoMembers, 2, 0).size() + stationRows(twoMembers, 2, 3).size(), 0);
 }
 
 TEST(StationReader, EndsWhereTheFileDoesOrNoLongerFits) {
-    EXPECT_TRUE(walk("", 2).empty());
-    EXPECT_TRUE(walk("Span 1 \r\n", 2).empty());
+    const auto upTo = [](std::size_t end) { return twoMembers.substr(0, end); };
+    EXPECT_EQ(walk("", 2).size() + walk("Span 1 \r\n", 2).size() + walk(twoMembers, 0).size(), 0);
     EXPECT_EQ(walk(twoMembers, 1).size(), 1);  // a row stands where a heading should
     EXPECT_EQ(walk(twoMembers, 3).size(), 2);  // a heading stands where a row should
-    const auto short1 = twoMembers.substr(0, twoMembers.rfind(','));
-    EXPECT_EQ(walk(short1, 2).size(), 3);
-    const auto short2 = twoMembers.substr(0, twoMembers.rfind("9.00E+00") + 8);
-    EXPECT_EQ(walk(short2, 2).size(), 3);
+    EXPECT_EQ(walk(upTo(twoMembers.rfind(',')), 2).size(), 3);
+    EXPECT_EQ(walk(upTo(twoMembers.rfind("9.00E+00") + 8), 2).size(), 3);
     EXPECT_EQ(walk("9,1,2,3\r\n", 1).size(), 0);  // no heading, whatever may be read behind it
     EXPECT_EQ(walk("Span 1 \r\n1,2,3,4\r\n1,2,3\r\n", 2).size(), 0);
 }
 
-TEST(StationReader, GivesTheRowsOfOneMember) {
-    EXPECT_EQ(stationRows(twoMembers, 2, 2).size(), 2);
-    EXPECT_EQ(stationRows(twoMembers, 2, 2)[1].moment, "8.00E+00");
-    EXPECT_TRUE(stationRows(twoMembers, 2, 0).empty());
-    EXPECT_TRUE(stationRows(twoMembers, 2, 3).empty());
+const std::string threeMembers =
+    "Span 1 \r\n0.00E+00,1,-1\r\n2.00E+00,2,-2\r\n4.00E+00,3,-3\r\n"
+    "Span 2 \r\n0.00E+00,4,-4\r\n2.50E-01,5,-5\r\n5.00E-01,6,-6\r\n"
+    "Span 3 \r\n0.00E+00,7,-7\r\n0.00E+00,8,-8\r\n1.00E+00,9,-9\r\n";
+
+/// "x:value" of each point, "(x:left|right)" of each joint, and whether more was asked for.
+std::string textOf(const DiagramCurve& curve) {
+    std::ostringstream text;
+    for (const auto& [x, value] : curve.points)
+        text << x << ':' << value << ' ';
+    for (const auto& [x, left, right] : curve.joints)
+        text << '(' << x << ':' << left << '|' << right << ") ";
+    text << (curve.whole ? "whole" : "cut");
+    return text.str();
+}
+std::string span(const std::string& file, StationField field, std::size_t member) {
+    return textOf(spanCurve(file, 3, field, member));
+}
+std::string beam(const std::string& file, StationField field,
+                 const std::vector<std::size_t>& members) {
+    return textOf(beamCurve(file, 3, field, members));
+}
+
+TEST(DiagramCurve, LaysMembersEndToEndAsFarAsTheFileGoes) {
+    constexpr auto moment = &StationRow::moment, shear = &StationRow::shear;
+    EXPECT_EQ(span(threeMembers, moment, 2), "0:4 0.25:5 0.5:6 whole");
+    EXPECT_EQ(span(threeMembers, shear, 3), "0:-7 0:-8 1:-9 whole");
+    EXPECT_EQ(beam(threeMembers, shear, {1, 2, 3}),
+              "0:-1 2:-2 4:-3 4:-4 4.25:-5 4.5:-6 4.5:-7 4.5:-8 5.5:-9 "
+              "(0:0|1) (4:2|2) (4.5:3|3) (5.5:4|0) whole");
+    EXPECT_EQ(beam(threeMembers, moment, {1, 3}),  // a member left out takes no room
+              "0:1 2:2 4:3 4:7 4:8 5:9 (0:0|1) (4:2|3) (5:4|0) whole");
+    EXPECT_EQ(beam(threeMembers, moment, {3}), "0:7 0:8 1:9 (0:0|3) (1:4|0) whole");
+    EXPECT_EQ(textOf(beamCurve("Span 1 \r\n3,1,0\r\n1,2,0\r\n", 2, moment, {1})),
+              "3:1 5:2 (0:0|1) (5:2|0) whole");  // never back where an old file runs back
+    const auto cut = threeMembers.substr(0, threeMembers.find("5.00E-01"));
+    EXPECT_EQ(beam(cut, moment, {1, 2, 3}), "0:1 2:2 4:3 4:4 4.25:5 (0:0|1) (4:2|2) cut");
+    EXPECT_EQ(span(cut, moment, 2), "0:4 0.25:5 cut");
+    EXPECT_FALSE(beamCurve(threeMembers, 3, moment, {2, 4}).whole);
+    EXPECT_TRUE(spanCurve("", 3, moment, 1).points.empty());
+    EXPECT_TRUE(beamCurve("", 3, moment, {1}).points.empty());
 }
 
 }  // namespace

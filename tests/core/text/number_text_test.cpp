@@ -1,19 +1,18 @@
 #include "core/text/number_text.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
 #include <bit>
-#include <cmath>
 #include <limits>
 #include <random>
 
-#include "core/text/decimal.h"
 #include "core/text/number_masks.h"
+#include "tests/support/table.h"
 
 namespace trabeon {
 namespace {
 
+using test::Row;
+using Cells = std::vector<test::Cell>;
 using PutMask = char* (*)(char*, double);
 
 std::string masked(PutMask mask, double value) {
@@ -21,16 +20,26 @@ std::string masked(PutMask mask, double value) {
     return {text.data(), mask(text.data(), value)};
 }
 
-TEST(LeadingNumber, IsTheLongestDecimalNumberAtTheStart) {
-    const std::pair<const char*, double> rows[] = {
-        {"1.2.3", 1.2},    {"-", 0},      {"", 0},       {"   ", 0},           {".", 0},
-        {"-.", 0},         {".5", 0.5},   {"5.", 5},     {"  -7.25kN", -7.25}, {"+3", 3},
-        {"1.50E+00", 1.5}, {"2e3", 2000}, {"2E", 2},     {"2E+", 2},           {"2E-1x", 0.2},
-        {"0x10", 0},       {"inf", 0},    {"nan", 0},    {"\t1", 0},           {"1,5", 1},
-        {"1 2", 1},        {"--1", 0},    {"1E-400", 0}, {"0E99999", 0},       {"0.0000", 0},
-    };
-    for (const auto& [text, value] : rows)
-        EXPECT_EQ(leadingNumber(text), value) << '"' << text << '"';
+test::Formulas::mapped_type column(PutMask mask) {
+    return [mask](const Row& row) { return Cells{masked(mask, row(0))}; };
+}
+
+Cells wholeNumber(const Row& row) {
+    const auto number = numberOfWholeText(row[0]);
+    return number ? Cells{*number} : Cells{"none"};
+}
+
+TEST(Numbers, AgreeWithTheirTables) {
+    test::expectTables(
+        TABLES "/text/numbers.csv",
+        {{"leadingNumber", [](const Row& row) { return Cells{leadingNumber(row[0])}; }},
+         {"numberOfWholeText", wholeNumber},
+         {"generatedText", [](const Row& row) { return Cells{generatedText(row(0))}; }},
+         {"threeFigures", [](const Row& row) { return Cells{threeFigures(row(0))}; }},
+         {"putSignedThreeFigures", column(putSignedThreeFigures)},
+         {"putPercent", column(putPercent)},
+         {"putNineDigits", column(putNineDigits)}});
+    EXPECT_EQ(printForm(6), " 6 ");
 }
 
 TEST(LeadingNumber, TooLargeForADoubleReadsAsInfinity) {
@@ -40,69 +49,6 @@ TEST(LeadingNumber, TooLargeForADoubleReadsAsInfinity) {
     EXPECT_EQ(leadingNumber(std::string(400, '9')), infinity);
     EXPECT_EQ(leadingNumber("0." + std::string(400, '0') + "1"), 0);
     EXPECT_EQ(leadingNumber("0." + std::string(400, '0') + "1E800"), infinity);
-}
-
-TEST(NumberOfWholeText, IsANumberFromEndToEnd) {
-    EXPECT_EQ(numberOfWholeText(" 3.5 "), 3.5);
-    for (const auto* text : {"", " ", "3x", "1.2.3", "three"})
-        EXPECT_FALSE(numberOfWholeText(text)) << text;
-}
-
-TEST(GeneratedText, HasAtMostFifteenDigitsAndABlankForASign) {
-    const std::pair<double, const char*> rows[] = {
-        {3, " 3"},
-        {0, " 0"},
-        {-0.0, " 0"},
-        {-1.5, "-1.5"},
-        {0.386, " 0.386"},
-        {0.1 + 0.2, " 0.3"},
-        {1.0 / 3, " 0.333333333333333"},
-        {2.0 / 3, " 0.666666666666667"},
-        {100000, " 100000"},
-        {123456789012345, " 123456789012345"},
-        {999999999999999, " 999999999999999"},
-        {999999999999999.9, " 1E+15"},
-        {1e15, " 1E+15"},
-        {1234567890123445, " 1.23456789012345E+15"},   // a tie in the 16th digit goes up
-        {-1234567890123435, "-1.23456789012344E+15"},  // and away from zero
-        {0.0001, " 0.0001"},
-        {0.00012345, " 0.00012345"},
-        {0.00001, " 1E-05"},
-        {-2.5e-7, "-2.5E-07"},
-        {1.7976931348623157e308, " 1.79769313486232E+308"},
-        {5e-324, " 4.94065645841247E-324"},
-    };
-    for (const auto& [value, text] : rows)
-        EXPECT_EQ(generatedText(value), text);
-    EXPECT_EQ(printForm(6), " 6 ");
-}
-
-TEST(ThreeFigures, RoundOnFifteenDigitsATieAwayFromZero) {
-    const std::pair<double, const char*> rows[] = {
-        {0, "0.00E+00"},
-        {-0.0, "0.00E+00"},
-        {12.345, "1.23E+01"},
-        {-0.045, "-4.50E-02"},
-        {2.345, "2.35E+00"},  // below the tie as a double, on it in 15 digits
-        {2.3449999999999, "2.34E+00"},
-        {1.005, "1.01E+00"},
-        {-30.25, "-3.03E+01"},
-        {9.994999, "9.99E+00"},
-        {9.995, "1.00E+01"},
-        {999.5, "1.00E+03"},
-        {0.0099999, "1.00E-02"},
-        {1e100, "1.00E+100"},
-        {1e-99, "1.00E-99"},
-        {1e23, "1.00E+23"},
-        {9.99e-101, "9.99E-101"},
-        {5e-324, "4.94E-324"},
-    };
-    for (const auto& [value, text] : rows)
-        EXPECT_EQ(threeFigures(value), text) << value;
-    EXPECT_EQ(masked(putSignedThreeFigures, 0), "+0.00E+00");
-    EXPECT_EQ(masked(putSignedThreeFigures, -0.0), "+0.00E+00");
-    EXPECT_EQ(masked(putSignedThreeFigures, 54), "+5.40E+01");
-    EXPECT_EQ(masked(putSignedThreeFigures, -0.01), "-1.00E-02");
 }
 
 TEST(ThreeFigures, FastWayAgreesWithThePlainOne) {
@@ -131,20 +77,6 @@ TEST(ThreeFigures, FastWayAgreesWithThePlainOne) {
             if (std::isfinite(value))
                 check(value);
     }
-}
-
-TEST(TableMasks, FillTheirColumns) {
-    EXPECT_EQ(masked(putPercent, 0), "00.00000%");
-    EXPECT_EQ(masked(putPercent, 1), "100.00000%");
-    EXPECT_EQ(masked(putPercent, 0.5), "50.00000%");
-    EXPECT_EQ(masked(putPercent, 1.0 / 3), "33.33333%");
-    EXPECT_EQ(masked(putPercent, 5.0 / 9), "55.55556%");
-    EXPECT_EQ(masked(putPercent, 0.00000005), "00.00001%");
-    EXPECT_EQ(masked(putPercent, 0.0000000499999), "00.00000%");
-    EXPECT_EQ(masked(putPercent, 0.99999995), "100.00000%");
-    EXPECT_EQ(masked(putNineDigits, 1), "000000001");
-    EXPECT_EQ(masked(putNineDigits, 999999999), "999999999");
-    EXPECT_EQ(masked(putNineDigits, 1234567890), "1234567890");
 }
 
 }  // namespace

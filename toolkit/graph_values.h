@@ -1,0 +1,25 @@
+// What a chart is made of.
+#pragma once
+
+#include <string>
+
+namespace trabeon {
+
+struct GraphTitles {
+    std::string title;
+    std::string x;
+    std::string value;
+};
+
+// A place on the x axis, as a joint of the beam.
+struct GraphMark {
+    double x;
+    std::string label;
+};
+
+struct GraphPoint {
+    double x = 0;
+    double y = 0;
+};
+
+}  // namespace trabeon
