@@ -30,7 +30,7 @@ start_print_server() {
 }
 open_preview() {
     active "Print Preview" && return
-    click 349 53  # the menu of the report, which stands at the right edge
+    click 597 53  # the menu of the report, which stands beside the diagram
     key Down Return
     sleep 0.5
     active "Print Preview"
