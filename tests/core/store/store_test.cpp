@@ -124,6 +124,16 @@ TEST(RowEditing, FullDiskLeavesTheUsersRows) {
     EXPECT_EQ(folder.contents(), (std::map<std::string, std::string>{{"Joint.txt", rows}}));
 }
 
+TEST(RowEditing, ACopyThatFailsIsTold) {
+    const TemporaryFolder folder;
+    folder.write("Joint.txt", "1,Fixed,\"None\"\r\n");
+    std::filesystem::create_directory(folder / "Joint.txt.new");
+    const auto failure = addRow<JointRow>(folder.path(), 1, {" 2", "Fixed", "None"});
+    ASSERT_TRUE(failure);
+    EXPECT_NE(failure->sentence.find("Joint.txt\" could not be written"), std::string::npos);
+    EXPECT_EQ(folder.read("Joint.txt"), "1,Fixed,\"None\"\r\n");
+}
+
 TEST(FileSet, ReplacesNoFileIfOneOfThemFails) {
     const TemporaryFolder folder;
     folder.write("BM.txt", "old");
