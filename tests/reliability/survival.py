@@ -213,7 +213,10 @@ class DesktopJob(WindowJob):
         with open(read, encoding="ascii") as number:
             self.display = ":" + number.readline().strip()
         self.manager = subprocess.Popen(
-            ["openbox"], env=dict(os.environ, DISPLAY=self.display), stderr=subprocess.DEVNULL
+            ["openbox"],
+            env=dict(os.environ, DISPLAY=self.display),
+            stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL,
         )
 
     def end(self):

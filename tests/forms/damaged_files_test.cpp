@@ -102,7 +102,7 @@ class Damaged {
     std::mt19937 random_;
 };
 
-class MutatedProjects : public ProgramTest {
+class DamagedFiles : public ProgramTest {
   protected:
     static std::string example(unsigned number) {
         static const std::array names{"two-span-floor-beam.TB", "five-span-with-cantilever.TB",
@@ -124,7 +124,7 @@ class MutatedProjects : public ProgramTest {
     }
 };
 
-TEST_F(MutatedProjects, AreRefusedWithTheLineOrOpenedAndUsed) {
+TEST_F(DamagedFiles, ProjectsAreRefusedWithTheLineOrOpenedAndUsed) {
     Start();
     Opener opener;
     opener.file = example(0);
@@ -161,6 +161,43 @@ TEST_F(MutatedProjects, AreRefusedWithTheLineOrOpenedAndUsed) {
     std::printf("%u damaged project files: %u refused, %u opened\n", count, refused, opened);
     EXPECT_GT(refused, count / 5);
     EXPECT_GT(opened, count / 5);
+}
+
+// A working file changes behind the program's back, with forms open and before others read it.
+TEST_F(DamagedFiles, ScrambledWorkingFilesAreSurvivedByEveryForm) {
+    Start();
+    Opener opener;
+    const auto project = opener.file = example(1);
+    program.mnuOpen_Click();
+    forms().Get<frmAnalysis>().cmdAnalyse.Press();
+    useEveryForm();
+    unsigned refused = 0;
+    for (const auto& [name, text] : folder.contents())
+        for (const auto& scramble : {"1,2"s, "\0\xC3(,\"open"s, "BEAM\rM,L\nT,,,"s,
+                                     std::string(20'000, '9') + ",\r\n", "gone"s, "a folder"s}) {
+            SCOPED_TRACE(name + ": " + scramble.substr(0, 20));
+            program.mnuOpen_Click();
+            forms().Show("frmPoint");
+            std::filesystem::remove(folder / name);
+            if (scramble == "a folder")
+                std::filesystem::create_directory(folder / name);
+            else if (scramble != "gone")
+                folder.write(name, scramble);
+            forms().Get<frmAnalysis>().cmdAnalyse.Press();
+            useEveryForm();
+            opener.said.clear();
+            opener.file = (folder / "Job.TB").string();
+            program.FileSaveAs();
+            const bool saved = opener.said.empty();
+            refused += saved ? 0 : 1;
+            const TemporaryFolder unpacked;
+            EXPECT_EQ(saved, static_cast<bool>(unpackProject(opener.file, unpacked.path())))
+                << opener.said;
+            std::filesystem::remove(opener.file);
+            std::filesystem::remove(folder / name);
+            opener.file = project;
+        }
+    EXPECT_GT(refused, 5U);
 }
 
 }  // namespace
