@@ -55,6 +55,7 @@ Failure setAside(const fs::path& recovered) {
 }  // namespace
 
 Failure recoverRows(const fs::path& folder) {
+    finishSet(folder);
     if (!endedWithoutExit(folder))
         return std::nullopt;
     const auto project = projectIn(folder);

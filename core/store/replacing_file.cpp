@@ -4,9 +4,12 @@
 #include <utility>
 
 #include "core/store/working_files.h"
+#include "core/text/field_reader.h"
 
 namespace trabeon {
 namespace {
+
+constexpr std::string_view unfinishedSet = "Unfinished.set";
 
 std::filesystem::path besides(std::filesystem::path target) {
     return target += ".new";
@@ -80,6 +83,7 @@ Failure ReplacingFile::finish() {
         noteError();
     if (error_ != 0)
         return refusal();
+    keepPermissions(target_, fresh_);
     return std::nullopt;
 }
 
@@ -87,7 +91,6 @@ Failure ReplacingFile::commit() {
     if (auto failure = finish())
         return failure;
     std::error_code error;
-    keepPermissions(target_, fresh_);
     std::filesystem::rename(fresh_, target_, error);
     if (error) {
         error_ = error.value();
@@ -109,6 +112,15 @@ Refusal ReplacingFile::refusal() const {
             "again."};
 }
 
+FileSet::FileSet(std::filesystem::path folder) : folder_(std::move(folder)) {
+    finishSet(folder_);
+}
+
+ReplacingFile& FileSet::add(std::string_view name) {
+    (names_ += name) += '\n';
+    return files_.emplace_back(folder_ / name);
+}
+
 void FileSet::put(std::string_view name, std::string_view text) {
     if (readWhole(folder_ / name) != text)
         add(name).write(text);
@@ -118,10 +130,26 @@ Failure FileSet::commit() {
     for (auto& file : files_)
         if (auto failure = file.finish())
             return failure;
-    for (auto& file : files_)
-        if (auto failure = file.commit())
-            return failure;
-    return std::nullopt;
+    if (auto failure = replaceFile(folder_ / unfinishedSet, names_))
+        return failure;
+    Failure failure;
+    for (auto file = files_.begin(); file != files_.end() && !failure; ++file)
+        failure = file->commit();
+    MurderFile(folder_ / unfinishedSet);
+    return failure;
+}
+
+void finishSet(const std::filesystem::path& folder) {
+    const auto names = readWhole(folder / unfinishedSet);
+    if (names.empty())
+        return;
+    FieldReader reader(names);
+    while (!reader.atEnd()) {
+        const auto target = resolved(folder / reader.nextLine());
+        std::error_code missing;  // it has its place already
+        std::filesystem::rename(besides(target), target, missing);
+    }
+    MurderFile(folder / unfinishedSet);
 }
 
 Failure replaceFile(const std::filesystem::path& target, std::string_view text) {

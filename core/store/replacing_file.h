@@ -5,6 +5,7 @@
 #include <deque>
 #include <filesystem>
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "core/outcome.h"
@@ -56,12 +57,14 @@ class ReplacingFile {
 };
 
 /// New content for several files of a folder, none of which is replaced before all of it is
-/// written.
+/// written. While they are replaced their names stand in "Unfinished.set": a process that is killed
+/// then has left them all whole beside the old ones, and finishSet() goes on where it stopped.
 class FileSet {
   public:
-    explicit FileSet(std::filesystem::path folder) : folder_(std::move(folder)) {}
+    /// Finishes a set that was begun in the folder.
+    explicit FileSet(std::filesystem::path folder);
 
-    ReplacingFile& add(std::string_view name) { return files_.emplace_back(folder_ / name); }
+    ReplacingFile& add(std::string_view name);
 
     /// The whole content of one file. If it stands there already, the file is left alone.
     void put(std::string_view name, std::string_view text);
@@ -72,7 +75,12 @@ class FileSet {
   private:
     std::filesystem::path folder_;
     std::deque<ReplacingFile> files_;
+    std::string names_;  // each on a line
 };
+
+/// To be called before the files of a folder are read that a killed process may have left. Silent,
+/// also where nothing was begun.
+void finishSet(const std::filesystem::path& folder);
 
 /// Replaces a file by this text in one go.
 [[nodiscard]] Failure replaceFile(const std::filesystem::path& target, std::string_view text);

@@ -8,6 +8,7 @@ renamed, removed), or for N steps evenly spread over it: killed there, and once 
 is full from there on. What must hold:
 
   - every file is whole: absent, as it was, or as a job without a fault leaves it at some time;
+  - files that change as one are all old or all new, once the next start has finished that;
   - after a kill the same command does its work, or the program starts again and "Recovered.TB"
     holds every row that the killed run had in its files;
   - a full disk is told in a sentence that names the file.
@@ -44,6 +45,16 @@ def files(folder):
         for path in folder.iterdir()
         if path.suffix in (".txt", ".tmp", ".TB")
     }
+
+
+def finished(folder):
+    """The same as the next start finds them: a set of files that was killed half-way is finished."""
+    found, unfinished = files(folder), folder / "Unfinished.set"
+    for name in unfinished.read_text().split() if unfinished.exists() else []:
+        fresh = folder / f"{name}.new"
+        if fresh.exists():
+            found[name] = fresh.read_bytes()
+    return found
 
 
 def rows(text, width):
@@ -128,13 +139,16 @@ class BatchJob(Job):
         shutil.copy(SMALL, folder / "Job.TB")
         with open(folder / "Udl.txt", "ab") as loads:
             loads.write(b' 2,1,2,5,7,"one more"\r\n')
+        self.begin = files(folder)
 
     def command(self, folder):
         words = [str(word).replace("DIR", str(folder)) for word in self.words]
         return [self.programs.batch, *words]
 
     def checkAfterKill(self, folder, before, final):
-        """The command that was killed can be given again."""
+        """Its files changed as one, and the command that was killed can be given again."""
+        if self.name in ("unpack", "analyse") and before not in (self.begin, final):
+            raise Broken("some files are old and some are new")
         if self.programs.run(self.command(folder), folder).returncode != 0:
             raise Broken("the command is refused after the kill")
         if files(folder) != final:
@@ -354,7 +368,8 @@ class Trial:
             return False
         if result.returncode != -signal.SIGKILL:
             raise Broken(f"ended with {result.returncode}")
-        found = files(self.folder)
+        check_whole(files(self.folder), self.allowed)
+        found = finished(self.folder)
         check_whole(found, self.allowed)
         self.job.checkAfterKill(self.folder, found, self.final)
         return True

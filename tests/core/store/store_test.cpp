@@ -162,6 +162,17 @@ TEST(FileSet, ATargetThatCannotBeReplacedIsFoundBeforeAnyOther) {
     EXPECT_EQ(folder.contents(), (std::map<std::string, std::string>{{"BM.txt", "old"}}));
 }
 
+TEST(FileSet, OneThatWasKilledWhileItsFilesTookTheirPlacesIsFinished) {
+    const TemporaryFolder folder;
+    folder.write("BM.txt", "new");  // has its place already
+    folder.write("TB.txt", "old");
+    folder.write("TB.txt.new", "new");
+    folder.write("Unfinished.set", "BM.txt\nTB.txt\n");
+    const FileSet next(folder.path());
+    EXPECT_EQ(folder.contents(),
+              (std::map<std::string, std::string>{{"BM.txt", "new"}, {"TB.txt", "new"}}));
+}
+
 TEST(ReplacingFile, KeepsLinksAndPermissions) {
     namespace fs = std::filesystem;
     const TemporaryFolder folder;
