@@ -212,14 +212,13 @@ class DesktopJob(WindowJob):
         for left in list(files(folder)) + ["trabeon.lock"]:
             (folder / left).unlink(missing_ok=True)
         super().prepare(folder)
-        bin = folder / "bin"
-        bin.mkdir()
-        (bin / "xdg-open").write_text("#!/bin/sh\n")
-        (bin / "xdg-open").chmod(0o755)
+        browser = folder / "bin" / "xdg-open"
+        browser.parent.mkdir()
+        browser.write_text("#!/bin/sh\n")
+        browser.chmod(0o755)
         read, write = os.pipe()
-        screen = ["-screen", "0", "1366x768x24"]
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), *screen],
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24"],
             pass_fds=[write],
             stderr=subprocess.DEVNULL,
         )
@@ -233,6 +232,9 @@ class DesktopJob(WindowJob):
             stderr=subprocess.DEVNULL,
         )
 
+        while self.manager.poll() is None and not self.xdotool("get_desktop"):
+            time.sleep(0.05)
+
     def end(self):
         for process in self.manager, self.server:
             process.kill()
@@ -244,6 +246,8 @@ class DesktopJob(WindowJob):
             DISPLAY=self.display,
             QT_QPA_PLATFORM="xcb",
             PATH=f"{folder}/bin:{os.environ['PATH']}",
+            HOME=str(folder),
+            XDG_RUNTIME_DIR=str(folder),
         )
         self.running = subprocess.Popen(
             [folder / "trabeon"], env=environment, stderr=subprocess.DEVNULL
