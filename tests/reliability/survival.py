@@ -38,6 +38,10 @@ class Broken(Exception):
     """What did not hold."""
 
 
+class Unanswered(Broken):
+    """A window that keys did not reach, or a program that hangs; three times running it is that."""
+
+
 def files(folder):
     """Every working file and project of a folder; a "NAME.new" is what a killed run was writing."""
     return {
@@ -217,8 +221,8 @@ class DesktopJob(WindowJob):
         browser.write_text("#!/bin/sh\n")
         browser.chmod(0o755)
         read, write = os.pipe()
-        self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24"],
+        self.server = subprocess.Popen(  # one that is reset when its first clients have gone loses others
+            ["Xvfb", "-noreset", "-displayfd", str(write), "-screen", "0", "1366x768x24"],
             pass_fds=[write],
             stderr=subprocess.DEVNULL,
         )
@@ -263,14 +267,15 @@ class DesktopJob(WindowJob):
     def until(self, holds, keys=(), text=""):
         """Sends keys and a text until a condition holds; False if the program ended instead.
 
-        A key that comes before the window has the focus is lost, so they are sent again now and then.
+        A key that comes before a window has the focus is lost, so they are sent again now and then.
         """
         for turn in range(1200):
             if self.running.poll() is not None:
                 return False
             if holds():
                 return True
-            if turn % 160 == 0:
+            if turn % 80 == 0:
+                self.xdotool("getactivewindow", "windowfocus")
                 if keys:
                     self.xdotool("key", "--clearmodifiers", "--delay", "40", *keys)
                 if text:
@@ -279,7 +284,7 @@ class DesktopJob(WindowJob):
             time.sleep(0.025)
         shown = self.xdotool("getactivewindow", "getwindowname")
         self.running.kill()
-        raise Broken(f'the program does not answer; "{shown}" is active')
+        raise Unanswered(f'the program does not answer; "{shown}" is active')
 
     def active(self, begin, *keys, text=""):
         def holds():
@@ -313,8 +318,12 @@ class DesktopJob(WindowJob):
 
     def startAgain(self, folder):
         self.start(folder)
-        inputs = [folder / name for name in INPUTS]
-        self.until(lambda: all(file.exists() and file.stat().st_size == 0 for file in inputs))
+        unfinished, inputs = folder / "Unfinished.set", [folder / name for name in INPUTS]
+
+        def emptied():
+            return all(file.exists() and file.stat().st_size == 0 for file in inputs)
+
+        self.until(lambda: not unfinished.exists() and emptied())
         self.running.kill()
         self.running.wait()
 
@@ -394,12 +403,21 @@ def chosen(steps, points):
     return sorted({1 + round(i * (steps - 1) / (points - 1)) for i in range(points)})
 
 
+def answered(act):
+    for _ in range(2):
+        try:
+            return act()
+        except Unanswered:
+            pass
+    return act()
+
+
 def judge(trial, points):
     told, broken = [0, 0], []
     for at in chosen(trial.steps, points):
         for which, act in enumerate((trial.killed, trial.filled)[: 1 + trial.job.filled]):
             try:
-                told[which] += act(at)
+                told[which] += answered(lambda act=act, at=at: act(at))
             except (Broken, subprocess.TimeoutExpired) as what:
                 broken.append(f"{trial.job.name}, {act.__name__} at step {at}: {what}")
     return trial.steps, told[0], told[1], broken
