@@ -12,6 +12,7 @@
 #include "core/analysis/result_files.h"
 #include "core/design/reinforcement_tables.h"
 #include "core/design/shear.h"
+#include "core/store/file_set.h"
 #include "core/store/project_file.h"
 
 namespace trabeon {
@@ -133,6 +134,7 @@ Exit designCommand(const CommandLine& line) {
         return refused(*failure);
     if (auto failure = unfitForDesign(Divisions, *misc))
         return refused(*failure);
+    finishSet(folder);
     const auto data = readDesignData(folder, Divisions);
     if (auto failure = unfitStations(data))
         return refused(*failure);
@@ -176,6 +178,7 @@ Exit packCommand(const CommandLine& line) {
     const auto& folder = line.operands[0];
     if (auto failure = unfitFolder(folder))
         return refused(*failure);
+    finishSet(folder);
     if (!fs::exists(fs::path(folder) / working_file::joint))
         return refused({"\"" + folder + "\" holds no beam: there is no Joint.txt in it."});
     const ProjectTitle untitled;

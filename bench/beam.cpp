@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <string>
 
-#include "core/store/replacing_file.h"
+#include "core/store/file_set.h"
 #include "core/store/working_files.h"
 
 namespace {

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "core/analysis/result_files.h"
+#include "core/store/file_set.h"
 #include "core/store/project_file.h"
 #include "fuzz/require.h"
 #include "fuzz/same_rows.h"

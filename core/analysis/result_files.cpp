@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "core/store/file_set.h"
 #include "core/text/number_masks.h"
 #include "core/text/number_text.h"
 

@@ -3,43 +3,11 @@
 #include <algorithm>
 #include <array>
 
-#include "core/store/replacing_file.h"
+#include "core/store/file_set.h"
 #include "core/store/rows.h"
 
 namespace trabeon {
 namespace {
-
-constexpr std::string_view warning =
-    "WARNNING! DO NOT CHANGE CAPITALISED TEXT. "
-    "JUST CHANGE NUMBERS AS TEXT SERVES AS INDICATORS FOR THIS DATA FILE";
-constexpr std::string_view titleHeading = "TITLE";
-constexpr std::string_view jointsHeading = "JOINTS - Joint No_ Joint Type And Description";
-constexpr std::string_view membersHeading = "MEMBERS - Member No_ E_ I_ L And Description";
-constexpr std::string_view pointsHeading =
-    "LOADING - Point Load - Member No_ Distance From Left Support_ Intensity and Description";
-constexpr std::string_view udlsHeading =
-    "LOADING - UDL Load - Member No_ Distance From Left Support_ Width of Load_ Intensity w1_ "
-    "Intensity w2 and Description";
-constexpr std::string_view resultsHeading = "TRABEON RESULTS";
-constexpr std::string_view dimensionsHeading = "BEAM DIMENSIONS";
-
-void appendLine(std::string& text, std::string_view line) {
-    (text += line) += "\r\n";
-}
-
-/// Every line of a file, each with the one line end that all files have.
-std::string wholeLines(std::string_view file) {
-    std::string lines;
-    FieldReader reader(file);
-    while (!reader.atEnd())
-        appendLine(lines, reader.nextLine());
-    return lines;
-}
-
-template <class Row>
-std::string packedRows(std::string_view file) {
-    return textOf(rowsOf<Row>(file), Description::quoted);
-}
 
 /// Numbers and types stand bare wherever they are written, which loses the blanks at their ends: in
 /// quotes they are lost at once, so that a row read again is the same row, and a heading a heading.
@@ -189,28 +157,6 @@ bool breaksAField(std::string_view title) {
 
 }  // namespace
 
-std::string packedText(const Project& project) {
-    std::string text;
-    appendLine(text, warning);
-    appendLine(text, titleHeading);
-    for (const auto& title :
-         {project.title.project, project.title.designer, project.title.beamName})
-        appendLine(text, '"' + title + '"');
-    appendLine(text, jointsHeading);
-    text += packedRows<JointRow>(project.joints);
-    appendLine(text, membersHeading);
-    text += packedRows<MemberRow>(project.members);
-    appendLine(text, pointsHeading);
-    text += packedRows<PointRow>(project.points);
-    appendLine(text, udlsHeading);
-    text += packedRows<UdlRow>(project.udls);
-    appendLine(text, resultsHeading);
-    text += wholeLines(project.balanceTable);
-    appendLine(text, dimensionsHeading);
-    text += wholeLines(project.beamDimensions);
-    return text;
-}
-
 Outcome<Project> unpackedProject(std::string_view text) {
     return Unpacker(text).project();
 }
@@ -250,25 +196,33 @@ std::string captionName(std::string_view fullPath) {
     return std::string(first == fullPath.npos ? fullPath : fullPath.substr(first + 1));
 }
 
+Outcome<Project> projectIn(const std::filesystem::path& folder) {
+    Project project;
+    for (const auto& [name, text] : packedFiles) {
+        if (auto failure = unreadable(folder / name))
+            return *failure;
+        project.*text = readWhole(folder / name);
+    }
+    return project;
+}
+
 Failure packProject(const std::filesystem::path& folder, const ProjectTitle& title,
                     const std::filesystem::path& file) {
-    Project project{title, {}, {}, {}, {}, {}, {}};
     for (const auto& text : {title.project, title.designer, title.beamName})
         if (breaksAField(text))
             return Refusal{"The title text " + text +
                            " holds a double quote or a line end. Take it out, then save again."};
-    for (const auto& [name, text] : packedFiles) {
-        if (auto failure = unreadable(folder / name))
-            return failure;
-        project.*text = readWhole(folder / name);
-    }
-    const auto packed = packedText(project);
-    if (const auto again = unpackedProject(packed); !again)
+    auto project = projectIn(folder);
+    if (!project)
+        return project.refusal();
+    project->title = title;
+    const auto text = packedText(*project);
+    if (const auto again = unpackedProject(text); !again)
         return Refusal{
             "The project was not saved, for it could not be opened again: of what would "
             "be written, " +
             again.refusal().sentence + ". Mend that row, then save again."};
-    return replaceFile(file, packed);
+    return replaceFile(file, text);
 }
 
 }  // namespace trabeon

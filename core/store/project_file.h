@@ -24,6 +24,10 @@ struct Project {
 /// The project file's text. Descriptions stand in double quotes, numbers without a blank in front.
 [[nodiscard]] std::string packedText(const Project& project);
 
+/// The same of rows that may have been scrambled: a line that is no row stands as it is, so that
+/// nothing is lost and opening names it.
+[[nodiscard]] std::string rescuedText(const Project& project);
+
 /// Takes a project file's text apart. Refuses a text that lacks a heading or ends inside a row,
 /// with the line (counting from 1) and what was expected there. Headings are known by their first
 /// letters alone, and numbers are taken as they stand. LF line ends are read as well.
@@ -36,6 +40,10 @@ struct Project {
 /// stays as it was.
 [[nodiscard]] Failure writeWorkingFiles(const Project& project,
                                         const std::filesystem::path& folder);
+
+/// The working files' texts as they stand in a folder, under the title of a new project; missing
+/// ones are empty. Refuses files that cannot be read.
+[[nodiscard]] Outcome<Project> projectIn(const std::filesystem::path& folder);
 
 /// Packs the working files of a folder. Refuses a title text that holds a double quote or a line
 /// end, working files that cannot be read or would make a project that cannot be opened again, and

@@ -78,6 +78,7 @@ Failure ReplacingFile::finish() {
         noteError();
     if (error_ != 0)
         return refusal();
+    keepPermissions(target_, fresh_);
     return std::nullopt;
 }
 
@@ -85,7 +86,6 @@ Failure ReplacingFile::commit() {
     if (auto failure = finish())
         return failure;
     std::error_code error;
-    keepPermissions(target_, fresh_);
     std::filesystem::rename(fresh_, target_, error);
     if (error) {
         error_ = error.value();
@@ -107,14 +107,10 @@ Refusal ReplacingFile::refusal() const {
             "again."};
 }
 
-Failure FileSet::commit() {
-    for (auto& file : files_)
-        if (auto failure = file.finish())
-            return failure;
-    for (auto& file : files_)
-        if (auto failure = file.commit())
-            return failure;
-    return std::nullopt;
+void replaceByLeftBehind(const std::filesystem::path& target) {
+    const auto file = resolved(target);
+    std::error_code missing;
+    std::filesystem::rename(besides(file), file, missing);
 }
 
 Failure replaceFile(const std::filesystem::path& target, std::string_view text) {

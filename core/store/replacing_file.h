@@ -2,9 +2,9 @@
 #pragma once
 
 #include <cstdio>
-#include <deque>
 #include <filesystem>
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "core/outcome.h"
@@ -55,21 +55,9 @@ class ReplacingFile {
     bool committed_ = false;
 };
 
-/// New content for several files of a folder, none of which is replaced before all of it is
-/// written.
-class FileSet {
-  public:
-    explicit FileSet(std::filesystem::path folder) : folder_(std::move(folder)) {}
-
-    ReplacingFile& add(std::string_view name) { return files_.emplace_back(folder_ / name); }
-
-    /// Every file takes its place, in the order in which they were added.
-    [[nodiscard]] Failure commit();
-
-  private:
-    std::filesystem::path folder_;
-    std::deque<ReplacingFile> files_;
-};
+/// What a killed process had written whole beside the target takes its place. Silent, also where
+/// nothing was left.
+void replaceByLeftBehind(const std::filesystem::path& target);
 
 /// Replaces a file by this text in one go.
 [[nodiscard]] Failure replaceFile(const std::filesystem::path& target, std::string_view text);

@@ -20,9 +20,14 @@ template <class Row>
     if (auto failure = unreadable(folder / Row::file))
         return failure;
     const auto scratch = folder / Row::scratch;
-    if (auto failure = replaceFile(scratch, textOf(rows, Description::quoted)))
+    const auto text = textOf(rows, Description::quoted);
+    if (auto failure = replaceFile(scratch, text))
         return failure;
     DuplicateFile(scratch, folder / Row::file);
+    if (readWhole(folder / Row::file) != text)  // the copy is silent
+        return Refusal{"\"" + (folder / Row::file).string() +
+                       "\" could not be written. It holds the rows that it held before; make room "
+                       "on its disk, then try again."};
     return std::nullopt;
 }
 

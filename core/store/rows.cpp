@@ -11,6 +11,10 @@ bool endsAField(char c) {
 
 }  // namespace
 
+void appendLine(std::string& text, std::string_view line) {
+    (text += line) += "\r\n";
+}
+
 void appendField(std::string& text, std::string_view field) {
     if (std::any_of(field.begin(), field.end(), endsAField))
         appendQuoted(text, field);

@@ -83,6 +83,9 @@ void appendBare(std::string& text, std::string_view description);
 /// edited by hand, and stays bare: quotes would cut it.
 void appendQuoted(std::string& text, std::string_view field);
 
+/// A line as it stands, with the one line end that all files have.
+void appendLine(std::string& text, std::string_view line);
+
 /// How a writer puts the description: the editors and the project file quote it, others do not.
 enum class Description { quoted, bare };
 

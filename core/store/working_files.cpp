@@ -72,7 +72,8 @@ void MurderFile(const std::filesystem::path& file) {
 
 void CreateNFile(const std::filesystem::path& folder) {
     for (const auto name : projectFiles)
-        static_cast<void>(replaceFile(folder / name, {}));
+        if (replaceFile(folder / name, {}))  // rather none than the rows of another project
+            MurderFile(folder / name);
 }
 
 }  // namespace trabeon

@@ -1,6 +1,7 @@
 #include "forms/main/frmTrabeon.h"
 
 #include "core/store/project_file.h"
+#include "core/store/recovery.h"
 #include "core/store/replacing_file.h"
 #include "core/store/working_files.h"
 #include "forms/design/frmBeamDesign.h"
@@ -77,9 +78,15 @@ bool frmTrabeon::Start() {
     }
     CenterForm(window_);
     if (!folderIsWritable()) {
-        warn("Trabeon keeps its working files in its own folder, \"" + context_.folder.string() +
-             "\", and cannot write there. Move the program to a folder of yours, then start it "
-             "again.");
+        warn(
+            "Trabeon keeps its working files in its own folder, \"" + context_.folder.string() +
+            "\", and cannot write there. Move the program to a folder of yours, or make room on its "
+            "disk, then start it again.");
+        return false;
+    }
+    if (const auto failure = recoverRows(context_.folder)) {
+        warn("The rows of the last run, which ended without Exit, cannot be kept: " +
+             failure->sentence);
         return false;
     }
     CreateNFile(context_.folder);
@@ -89,7 +96,7 @@ bool frmTrabeon::Start() {
 
 bool frmTrabeon::folderIsWritable() const {
     const auto probe = context_.folder / "Writable.tmp";
-    if (replaceFile(probe, {}))
+    if (replaceFile(probe, "x"))  // a full disk takes an empty file
         return false;
     MurderFile(probe);
     return true;

@@ -83,6 +83,27 @@ TEST_F(MainWindow, StartOpensTheManualAndEmptiesTheSevenFiles) {
     QTest::keyClick(&window(), Qt::Key_F1);
 }
 
+TEST_F(MainWindow, StartKeepsTheRowsOfARunWithoutExit) {
+    folder.write("Joint.txt", " 1,Fixed,\"left by a former run\"\r\n");
+    fs::create_directory(folder / "Recovered.TB.new");
+    outside.ExpectDocument((folder / "Contents and Index.htm").string());
+    outside.ExpectCopyCheck(false);
+    outside.ExpectMsgBox(
+        "The rows of the last run, which ended without Exit, cannot be kept: \"" +
+        (folder / "Recovered.TB").string() +
+        "\" could not be written (Is a directory). What stood there before is unchanged; make room "
+        "or choose another folder, then try again.");
+    EXPECT_FALSE(program.Start());
+    EXPECT_NE(folder.read("Joint.txt"), "");
+    fs::remove(folder / "Recovered.TB.new");
+    Start();
+    EXPECT_EQ(folder.read("Joint.txt"), "");
+    outside.ExpectOpen(openDialog, (folder / "Recovered.TB").string());
+    Choose("&File|&Open");
+    EXPECT_EQ(folder.read("Joint.txt"), "1,Fixed,left by a former run\r\n");
+    EXPECT_EQ(context().dataChanged, 0);
+}
+
 TEST_F(MainWindow, SecondCopyEndsBeforeItTouchesAFile) {
     folder.write("Joint.txt", "1,Fixed,\"of the running copy\"\r\n");
     const auto before = folder.contents();
@@ -101,7 +122,8 @@ TEST_F(MainWindow, UnwritableFolderIsToldAtTheStart) {
     outside.ExpectCopyCheck(false);
     outside.ExpectMsgBox(
         "Trabeon keeps its working files in its own folder, \"" + folder.path().string() +
-        "\", and cannot write there. Move the program to a folder of yours, then start it again.");
+        "\", and cannot write there. Move the program to a folder of yours, or make room on its disk, then "
+        "start it again.");
     EXPECT_FALSE(program.Start());
 }
 

@@ -3,6 +3,7 @@
 
 #include <csignal>
 
+#include "core/store/file_set.h"
 #include "core/store/row_editing.h"
 #include "core/store/rows.h"
 #include "core/store/working_files.h"
@@ -123,6 +124,16 @@ TEST(RowEditing, AFailureLeavesTheUsersRows) {
     EXPECT_TRUE(folder.contents().empty());
 }
 
+TEST(RowEditing, ACopyThatFailsIsTold) {
+    const TemporaryFolder folder;
+    folder.write("Joint.txt", "1,Fixed,\"None\"\r\n");
+    std::filesystem::create_directory(folder / "Joint.txt.new");
+    const auto failure = addRow<JointRow>(folder.path(), 1, {" 2", "Fixed", "None"});
+    ASSERT_TRUE(failure);
+    EXPECT_NE(failure->sentence.find("Joint.txt\" could not be written"), std::string::npos);
+    EXPECT_EQ(folder.read("Joint.txt"), "1,Fixed,\"None\"\r\n");
+}
+
 TEST(FileSet, ReplacesNoFileIfOneOfThemFails) {
     for (const auto* inTheWay : {"TB.txt.new", "TB.txt"}) {
         const TemporaryFolder folder;
@@ -136,6 +147,17 @@ TEST(FileSet, ReplacesNoFileIfOneOfThemFails) {
         EXPECT_NE(failure->sentence.find("Is a directory"), std::string::npos) << failure->sentence;
         EXPECT_EQ(folder.read("BM.txt"), "old") << inTheWay;
     }
+}
+
+TEST(FileSet, OneThatWasKilledWhileItsFilesTookTheirPlacesIsFinished) {
+    const TemporaryFolder folder;
+    folder.write("BM.txt", "new");  // has its place already
+    folder.write("TB.txt", "old");
+    folder.write("TB.txt.new", "new");
+    folder.write("Unfinished.set", "BM.txt\nTB.txt\n");
+    const FileSet next(folder.path());
+    EXPECT_EQ(folder.contents(),
+              (std::map<std::string, std::string>{{"BM.txt", "new"}, {"TB.txt", "new"}}));
 }
 
 TEST(ReplacingFile, KeepsLinksAndPermissions) {

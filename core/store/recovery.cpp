@@ -1,0 +1,73 @@
+#include "core/store/recovery.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "core/store/file_set.h"
+#include "core/store/project_file.h"
+#include "core/store/working_files.h"
+#include "core/text/field_reader.h"
+
+namespace trabeon {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Exit deletes these; the beam dimensions stay behind each run.
+bool endedWithoutExit(const fs::path& folder) {
+    constexpr std::array exitTakes{working_file::joint, working_file::member, working_file::point,
+                                   working_file::udl, working_file::balanceTable};
+    return std::any_of(exitTakes.begin(), exitTakes.end(), [&](std::string_view name) {
+        std::error_code missing;
+        return fs::exists(folder / name, missing);
+    });
+}
+
+/// Whether every line of a text stands in the other, in the same order.
+bool stands(std::string_view text, std::string_view other) {
+    FieldReader wanted(text), found(other);
+    while (!wanted.atEnd()) {
+        const auto line = wanted.nextLine();
+        do
+            if (found.atEnd())
+                return false;
+        while (found.nextLine() != line);
+    }
+    return true;
+}
+
+/// Keeps what an earlier start has recovered, under the first free name.
+Failure setAside(const fs::path& recovered) {
+    std::error_code error;
+    if (!fs::exists(fs::symlink_status(recovered, error)))
+        return std::nullopt;
+    auto kept = recovered;
+    for (int number = 2; fs::exists(fs::symlink_status(kept, error)); ++number)
+        kept.replace_filename("Recovered " + std::to_string(number) + ".TB");
+    fs::rename(recovered, kept, error);
+    if (!error)
+        return std::nullopt;
+    return Refusal{"\"" + recovered.string() + "\" of an earlier run could not be renamed (" +
+                   error.message() + "). Move it away, then start again."};
+}
+
+}  // namespace
+
+Failure recoverRows(const fs::path& folder) {
+    finishSet(folder);
+    if (!endedWithoutExit(folder))
+        return std::nullopt;
+    const auto project = projectIn(folder);
+    if (!project)
+        return project.refusal();
+    const auto text = rescuedText(*project);
+    const auto target = folder / recoveredProject;
+    if (stands(text, packedText({})) || stands(text, readWhole(target)))
+        return std::nullopt;
+    if (auto failure = setAside(target))
+        return failure;
+    return replaceFile(target, text);
+}
+
+}  // namespace trabeon

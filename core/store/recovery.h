@@ -1,0 +1,23 @@
+// What a run that ended without Exit left in the working folder, saved before it is emptied.
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+#include "core/outcome.h"
+
+namespace trabeon {
+
+inline constexpr std::string_view recoveredProject = "Recovered.TB";
+
+/// Packs the rows of a run that did not come to Exit into "Recovered.TB" beside them; the title is
+/// lost. Nothing is done if there was an Exit, which leaves none of the files that it deletes, or
+/// if all that would be packed is empty or stands in "Recovered.TB" already, as after a start that
+/// was killed while it emptied the files. Lines that are no rows are packed as they stand, so that
+/// they can be mended by hand. Another "Recovered.TB" that is there is kept under the first free
+/// name of "Recovered 2.TB", "Recovered 3.TB" ...
+///
+/// Refuses files that cannot be read or written: they must not be emptied then.
+[[nodiscard]] Failure recoverRows(const std::filesystem::path& folder);
+
+}  // namespace trabeon

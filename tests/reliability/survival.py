@@ -1,0 +1,460 @@
+#!/usr/bin/env python3
+"""Kills the programs at every step of their jobs, fills the disk under them, and counts what survived.
+
+    survival.py BUILD [--points N] [--jobs NAME ...]
+
+BUILD is a build folder. A job is done once for each step (a file opened, half written, closed,
+renamed, removed), or for N steps evenly spread over it: killed there, and once more with a disk that
+is full from there on. What must hold:
+
+  - every file is whole: absent, as it was, or as a job without a fault leaves it at some time;
+  - files that change as one are all old or all new, once the next start has finished that;
+  - after a kill the same command does its work, or the program starts again and "Recovered.TB"
+    holds every row that the killed run had in its files;
+  - a full disk is told in a sentence that names the file.
+
+The job "desktop" is the real program in a window that keys from outside drive; it is only killed.
+Ends with a table, and with 1 if anything did not hold.
+"""
+
+import argparse
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+HERE = pathlib.Path(__file__).resolve().parent
+EXAMPLES = HERE.parent.parent / "examples"
+SMALL, LARGE = EXAMPLES / "two-span-floor-beam.TB", EXAMPLES / "five-span-with-cantilever.TB"
+INPUTS = {"Joint.txt": 3, "Member.txt": 5, "Point.txt": 4, "Udl.txt": 6, "BeamDim.txt": 10}
+TIMEOUT = 60
+
+
+class Broken(Exception):
+    """What did not hold."""
+
+
+class Unanswered(Broken):
+    """A window that keys did not reach, or a program that hangs; three times running it is that."""
+
+
+def files(folder):
+    """Every working file and project of a folder; a "NAME.new" is what a killed run was writing."""
+    return {
+        path.name: path.read_bytes()
+        for path in folder.iterdir()
+        if path.suffix in (".txt", ".tmp", ".TB")
+    }
+
+
+def finished(folder):
+    """The same as the next start finds them: a set of files that was killed half-way is finished."""
+    found, unfinished = files(folder), folder / "Unfinished.set"
+    for name in unfinished.read_text().split() if unfinished.exists() else []:
+        fresh = folder / f"{name}.new"
+        if fresh.exists():
+            found[name] = fresh.read_bytes()
+    return found
+
+
+def rows(text, width):
+    """The rows of a file, as the field reader has them."""
+    fields, at = [], 0
+    while at < len(text):
+        while text[at : at + 1] == b" ":
+            at += 1
+        if text[at : at + 1] == b'"':
+            end = text.index(b'"', at + 1)
+            fields.append(text[at + 1 : end])
+            at = end + 1
+        else:
+            end = min(i for i in (text.find(b",", at), text.find(b"\r", at), len(text)) if i >= 0)
+            fields.append(text[at:end].rstrip(b" "))
+            at = end
+        at += 2 if text[at : at + 2] == b"\r\n" else 1
+    if len(fields) % width:
+        raise Broken("half a row")
+    return [tuple(fields[i : i + width]) for i in range(0, len(fields), width)]
+
+
+class Programs:
+    def __init__(self, build):
+        self.batch = build / "batch" / "trabeon-batch"
+        self.window = build / "tests" / "reliability" / "window_job"
+        self.faults = build / "tests" / "reliability" / "libfaults.so"
+        self.desktop = build / "trabeon"
+
+    def environment(self, folder, kind="", at=0, record=""):
+        environment = dict(
+            os.environ,
+            QT_QPA_PLATFORM="offscreen",
+            ASAN_OPTIONS="verify_asan_link_order=0:detect_leaks=0",
+        )
+        if kind:
+            environment.update(
+                LD_PRELOAD=str(self.faults),
+                FAULT_FOLDER=str(folder),
+                FAULT_KIND=kind,
+                FAULT_AT=str(at),
+                FAULT_RECORD=str(record),
+            )
+        return environment
+
+    def run(self, command, folder, *fault):
+        return subprocess.run(
+            [str(word) for word in command],
+            env=self.environment(folder, *fault),
+            capture_output=True,
+            timeout=TIMEOUT,
+            check=False,
+        )
+
+
+class Job:
+    """What is done in a folder, and what must hold behind a fault."""
+
+    filled = True  # the disk is filled under it too
+
+    def __init__(self, programs):
+        self.programs = programs
+
+    def run(self, folder, *fault):
+        return self.programs.run(self.command(folder), folder, *fault)
+
+    def end(self):
+        """Behind the last run."""
+
+
+class BatchJob(Job):
+    """A command of trabeon-batch on a folder that holds an older project and its results."""
+
+    def __init__(self, programs, name, *words):
+        super().__init__(programs)
+        self.name, self.words = name, words
+
+    def prepare(self, folder):
+        batch = self.programs.batch
+        for command in ("unpack", SMALL, folder), ("analyse", folder):
+            self.programs.run([batch, *command], folder)
+        shutil.copy(SMALL, folder / "Job.TB")
+        with open(folder / "Udl.txt", "ab") as loads:
+            loads.write(b' 2,1,2,5,7,"one more"\r\n')
+        self.begin = files(folder)
+
+    def command(self, folder):
+        words = [str(word).replace("DIR", str(folder)) for word in self.words]
+        return [self.programs.batch, *words]
+
+    def checkAfterKill(self, folder, before, final):
+        """Its files changed as one, and the command that was killed can be given again."""
+        if self.name in ("unpack", "analyse") and before not in (self.begin, final):
+            raise Broken("some files are old and some are new")
+        if self.programs.run(self.command(folder), folder).returncode != 0:
+            raise Broken("the command is refused after the kill")
+        if files(folder) != final:
+            raise Broken("the command has another outcome after the kill")
+
+    def checkFullDisk(self, folder, result, left, allowed):
+        if result.returncode != 1:
+            raise Broken(f"ended with {result.returncode}")
+        check_whole(left, allowed)
+        check_told(folder, result.stderr)
+
+
+class WindowJob(Job):
+    """The program's own windows: open, analyse, edit, save, analyse, design, save, New, Exit."""
+
+    name = "window"
+
+    def prepare(self, folder):
+        shutil.copy(SMALL, folder / "Example.TB")
+
+    def command(self, folder):
+        return [self.programs.window, folder]
+
+    def checkAfterKill(self, folder, before, final):
+        """The program starts again, and what it recovers is what the killed run had."""
+        had = {name: before.get(name, b"") for name in INPUTS}
+        wanted = {name: rows(text, INPUTS[name]) for name, text in had.items()}
+        self.startAgain(folder)
+        if not any(wanted.values()) or "Joint.txt" not in before:
+            return
+        with tempfile.TemporaryDirectory() as opened:
+            unpack = [self.programs.batch, "unpack", folder / "Recovered.TB", opened]
+            if self.programs.run(unpack, folder).returncode != 0:
+                raise Broken("Recovered.TB does not open")
+            found = files(pathlib.Path(opened))
+        if {name: rows(found[name], INPUTS[name]) for name in INPUTS} != wanted:
+            raise Broken("Recovered.TB has other rows than the killed run")
+
+    def startAgain(self, folder):
+        result = self.programs.run([self.programs.window, folder, "start"], folder)
+        if result.returncode != 0 or result.stdout:
+            raise Broken(f"the next start says {result.stdout!r}")
+
+    def checkFullDisk(self, folder, result, left, allowed):
+        """Of the rows any may be missing that could not be added, but each is whole."""
+        for name, width in INPUTS.items():
+            rows(left.get(name, b""), width)
+        if result.returncode not in (0, 1):
+            raise Broken(f"ended with {result.returncode}")
+        if result.returncode == 1 or b"flag 1" in result.stdout:
+            check_told(folder, result.stdout)
+
+
+class DesktopJob(WindowJob):
+    """The real program under a window manager: Open, Analyse, Save, Exit, all by keys."""
+
+    name, filled = "desktop", False
+
+    def prepare(self, folder):
+        shutil.copytree(self.programs.desktop, folder, dirs_exist_ok=True)
+        for left in list(files(folder)) + ["trabeon.lock"]:
+            (folder / left).unlink(missing_ok=True)
+        super().prepare(folder)
+        browser = folder / "bin" / "xdg-open"
+        browser.parent.mkdir()
+        browser.write_text("#!/bin/sh\n")
+        browser.chmod(0o755)
+        read, write = os.pipe()
+        self.server = subprocess.Popen(  # one that is reset when its first clients have gone loses others
+            ["Xvfb", "-noreset", "-displayfd", str(write), "-screen", "0", "1366x768x24"],
+            pass_fds=[write],
+            stderr=subprocess.DEVNULL,
+        )
+        os.close(write)
+        with open(read, encoding="ascii") as number:
+            self.display = ":" + number.readline().strip()
+        self.manager = subprocess.Popen(
+            ["openbox"],
+            env=dict(os.environ, DISPLAY=self.display),
+            stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL,
+        )
+
+        while self.manager.poll() is None and not self.xdotool("get_desktop"):
+            time.sleep(0.05)
+
+    def end(self):
+        for process in self.manager, self.server:
+            process.kill()
+            process.wait()
+
+    def start(self, folder, *fault):
+        environment = self.programs.environment(folder, *fault)
+        environment.update(
+            DISPLAY=self.display,
+            QT_QPA_PLATFORM="xcb",
+            PATH=f"{folder}/bin:{os.environ['PATH']}",
+            HOME=str(folder),
+            XDG_RUNTIME_DIR=str(folder),
+        )
+        self.running = subprocess.Popen(
+            [folder / "trabeon"], env=environment, stderr=subprocess.DEVNULL
+        )
+
+    def xdotool(self, *words):
+        environment = dict(os.environ, DISPLAY=self.display)
+        result = subprocess.run(
+            ["xdotool", *words], env=environment, capture_output=True, text=True, check=False
+        )
+        return result.stdout.strip()
+
+    def until(self, holds, keys=(), text=""):
+        """Sends keys and a text until a condition holds; False if the program ended instead.
+
+        A key that comes before a window has the focus is lost, so they are sent again now and then.
+        """
+        for turn in range(1200):
+            if self.running.poll() is not None:
+                return False
+            if holds():
+                return True
+            if turn % 80 == 0:
+                self.xdotool("getactivewindow", "windowfocus")
+                if keys:
+                    self.xdotool("key", "--clearmodifiers", "--delay", "40", *keys)
+                if text:
+                    self.xdotool("type", "--clearmodifiers", "--delay", "8", str(text))
+                    self.xdotool("key", "--clearmodifiers", "Return")
+            time.sleep(0.025)
+        shown = self.xdotool("getactivewindow", "getwindowname")
+        self.running.kill()
+        raise Unanswered(f'the program does not answer; "{shown}" is active')
+
+    def active(self, begin, *keys, text=""):
+        def holds():
+            return self.xdotool("getactivewindow", "getwindowname").startswith(begin)
+
+        return self.until(holds, keys, text)
+
+    def run(self, folder, *fault):
+        self.start(folder, *fault)
+        project, stations = folder / "Example.TB", folder / "BM.txt"
+        opened = "Trabeon - " + str(project)[1:]
+        before = project.stat().st_mtime_ns
+
+        def analysed():
+            return stations.stat().st_size > 0
+
+        def saved():
+            return project.stat().st_mtime_ns != before
+
+        for done in (
+            lambda: self.active("Trabeon - Untitled"),
+            lambda: self.active("Open Trabeon File", "ctrl+o"),
+            lambda: self.active(opened, "ctrl+a", text=project),
+            lambda: self.until(analysed, ["alt+s", "a", "space"]),
+            lambda: self.until(saved, ["ctrl+s"]),
+            lambda: self.until(lambda: False, ["alt+f", "x"]),
+        ):
+            if not done():
+                break
+        return subprocess.CompletedProcess("", self.running.wait(), b"", b"")
+
+    def startAgain(self, folder):
+        self.start(folder)
+        unfinished, inputs = folder / "Unfinished.set", [folder / name for name in INPUTS]
+
+        def emptied():
+            return all(file.exists() and file.stat().st_size == 0 for file in inputs)
+
+        self.until(lambda: not unfinished.exists() and emptied())
+        self.running.kill()
+        self.running.wait()
+
+
+def check_told(folder, said):
+    if b"could not be written" not in said and b"cannot write there" not in said:
+        raise Broken(f"no sentence tells of the full disk: {said!r}")
+    if str(folder).encode() not in said:
+        raise Broken(f"the sentence names no file: {said!r}")
+
+
+def check_whole(found, allowed):
+    for name, text in found.items():
+        if name not in allowed:
+            raise Broken(f"{name} should not be there")
+        if text not in allowed[name]:
+            raise Broken(f"{name} is neither old nor new: {text[-60:]!r}")
+    for name in allowed.keys() - found.keys():
+        if None not in allowed[name]:
+            raise Broken(f"{name} is gone")
+
+
+class Trial:
+    """One job, done again and again from the same beginning."""
+
+    def __init__(self, job, home):
+        self.job, self.folder = job, home / "folder"
+        self.begin, record = home / "begin", home / "record"
+        self.begin.mkdir(parents=True)
+        record.mkdir()
+        job.prepare(self.begin)
+        result = self.run("record", record=record)
+        if result.returncode != 0:
+            raise Broken(f"the job does not work: {result.stdout!r} {result.stderr!r}")
+        self.steps = int(record.with_suffix(".steps").read_text())
+        self.final = files(self.folder)
+        before = files(self.begin)
+        states = [before, self.final]
+        states += [{path.name.split("-", 1)[1]: path.read_bytes()} for path in record.iterdir()]
+        names = set().union(*states)
+        self.allowed = {name: {state[name] for state in states if name in state} for name in names}
+        for name in names:
+            if name not in before or name not in self.final:
+                self.allowed[name].add(None)
+
+    def run(self, kind, at=0, record=""):
+        shutil.rmtree(self.folder, ignore_errors=True)
+        shutil.copytree(self.begin, self.folder)
+        return self.job.run(self.folder, kind, at, record)
+
+    def killed(self, at):
+        """False: the job came to its end before that step."""
+        result = self.run("kill", at)
+        if result.returncode == 0:
+            return False
+        if result.returncode != -signal.SIGKILL:
+            raise Broken(f"ended with {result.returncode}")
+        check_whole(files(self.folder), self.allowed)
+        found = finished(self.folder)
+        check_whole(found, self.allowed)
+        self.job.checkAfterKill(self.folder, found, self.final)
+        return True
+
+    def filled(self, at):
+        """False: the job needed no room any more."""
+        result = self.run("full", at)
+        found = files(self.folder)
+        if result.returncode == 0 and found == self.final:
+            return False
+        self.job.checkFullDisk(self.folder, result, found, self.allowed)
+        return True
+
+
+def chosen(steps, points):
+    if points <= 0 or points >= steps:
+        return range(1, steps + 1)
+    return sorted({1 + round(i * (steps - 1) / (points - 1)) for i in range(points)})
+
+
+def answered(act):
+    for _ in range(2):
+        try:
+            return act()
+        except Unanswered:
+            pass
+    return act()
+
+
+def judge(trial, points):
+    told, broken = [0, 0], []
+    for at in chosen(trial.steps, points):
+        for which, act in enumerate((trial.killed, trial.filled)[: 1 + trial.job.filled]):
+            try:
+                told[which] += answered(lambda act=act, at=at: act(at))
+            except (Broken, subprocess.TimeoutExpired) as what:
+                broken.append(f"{trial.job.name}, {act.__name__} at step {at}: {what}")
+    return trial.steps, told[0], told[1], broken
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("build", type=pathlib.Path)
+    parser.add_argument("--points", type=int, default=0, help="steps of each job; 0: every one")
+    parser.add_argument("--jobs", nargs="*", help="names of the jobs to do")
+    arguments = parser.parse_args()
+    programs = Programs(arguments.build.resolve())
+    jobs = [
+        BatchJob(programs, "unpack", "unpack", LARGE, "DIR"),
+        BatchJob(programs, "analyse", "analyse", "DIR"),
+        BatchJob(programs, "design", "design", "DIR"),
+        BatchJob(programs, "tables", "tables", "DIR"),
+        BatchJob(programs, "pack", "pack", "DIR", "DIR/Job.TB"),
+        BatchJob(programs, "run", "run", LARGE, "--out", "DIR"),
+        WindowJob(programs),
+        DesktopJob(programs),
+    ]
+    failed = False
+    print(f"{'job':10}{'steps':>8}{'killed':>8}{'full':>8}{'broken':>8}")
+    for job in jobs:
+        if arguments.jobs and job.name not in arguments.jobs:
+            continue
+        with tempfile.TemporaryDirectory() as home:
+            try:
+                steps, killed, full, broken = judge(Trial(job, pathlib.Path(home)), arguments.points)
+            finally:
+                job.end()
+        print(f"{job.name:10}{steps:8}{killed:8}{full:8}{len(broken):8}", flush=True)
+        print("".join(f"  {line}\n" for line in broken), end="")
+        failed = failed or bool(broken) or killed == 0
+    return int(failed)
+
+
+if __name__ == "__main__":
+    sys.exit(main())
