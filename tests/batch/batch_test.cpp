@@ -1,10 +1,7 @@
 // trabeon-batch as a user calls it: words in, exit code, texts and files out.
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <csignal>
 #include <sstream>
 #include <vector>
 
@@ -15,7 +12,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using test::batch;
-using test::start;
 using test::TemporaryFolder;
 
 /// A beam of equal spans of 6 under 12, pinned at both ends.
@@ -68,37 +64,6 @@ TEST(Analyse, FullDiskLeavesEveryOldFileWhole) {
             << limit << answer.err;
         EXPECT_EQ(folder.contents(), before) << limit;
     }
-}
-
-TEST(Analyse, KilledProcessLeavesEachFileOldOrNew) {
-    const TemporaryFolder folder, untouched, output;
-    writeBeam(folder, 2000);
-    const auto old = folder.contents();
-    for (const auto& [name, text] : old)
-        untouched.write(name, text);
-    ASSERT_EQ(batch({"analyse", untouched.path().string()}).exit, 0);
-    const auto fresh = untouched.contents();
-    int killed = 0;
-    for (useconds_t delay = 0; delay < 40'000; delay += 500) {
-        for (const auto& [name, text] : fresh)
-            fs::remove(folder / name);
-        for (const auto& [name, text] : old)
-            folder.write(name, text);
-        const pid_t child = start(output, {"analyse", folder.path().string()});
-        usleep(delay);
-        kill(child, SIGKILL);
-        int status = 0;
-        waitpid(child, &status, 0);
-        killed += WIFSIGNALED(status) ? 1 : 0;
-        for (const auto& [name, text] : folder.contents()) {
-            if (name.ends_with(".new"))
-                continue;
-            const auto before = old.find(name);
-            EXPECT_TRUE(text == fresh.at(name) || (before != old.end() && text == before->second))
-                << name;
-        }
-    }
-    EXPECT_GT(killed, 0);
 }
 
 /// Each of these stands in the text.
