@@ -70,6 +70,8 @@ void ReplacingFile::flush() {
 }
 
 Failure ReplacingFile::finish() {
+    if (finished_)
+        return std::nullopt;
     flush();
     std::error_code missing;
     if (error_ == 0 && std::filesystem::is_directory(target_, missing))
@@ -79,6 +81,7 @@ Failure ReplacingFile::finish() {
     if (error_ != 0)
         return refusal();
     keepPermissions(target_, fresh_);
+    finished_ = true;
     return std::nullopt;
 }
 

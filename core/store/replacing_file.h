@@ -52,6 +52,7 @@ class ReplacingFile {
     std::size_t used_ = 0;
     int error_ = 0;  // errno of the first failure
     bool opened_ = false;
+    bool finished_ = false;
     bool committed_ = false;
 };
 
