@@ -6,6 +6,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QPointer>
 #include <QScreen>
 
 #include "toolkit/access_keys.h"
@@ -115,6 +116,19 @@ Menu MdiWindow::AddWindowList(const std::string& caption) {
     Menu menu = AddMenu(caption);
     menu.SetFiller([area = &Area()](Menu& list) { FillWindowList(*area, list); });
     return menu;
+}
+
+std::function<void()> MdiWindow::KeptOrder() const {
+    QList<QPointer<QMdiSubWindow>> order;
+    for (QMdiSubWindow* child : Area().subWindowList(QMdiArea::StackingOrder))
+        order.append(child);
+    return [order, area = &Area(), front = QPointer(Area().activeSubWindow())] {
+        for (const auto& child : order)
+            if (child)
+                child->raise();
+        if (front)
+            area->setActiveSubWindow(front);
+    };
 }
 
 WindowState MdiWindow::State() const {

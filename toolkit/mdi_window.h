@@ -34,6 +34,9 @@ class MdiWindow : public Placement {
     // A menu of the child windows in sight; choosing one brings it to the front.
     Menu AddWindowList(const std::string& caption);
 
+    // Puts the child windows back into the order in which they stand now, the front one in front.
+    std::function<void()> KeptOrder() const;
+
     WindowState State() const;
     // Waits until the desktop has given the window its new size.
     void SetState(WindowState state);

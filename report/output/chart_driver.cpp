@@ -20,6 +20,9 @@ std::vector<bool> selectionOf(const ListBox& list) {
 
 }  // namespace
 
+ChartDriver::ChartDriver(Context& context)
+    : context_(context), restores_{context.forms.Window().KeptOrder()} {}
+
 ChartDriver::~ChartDriver() {
     for (auto restore = restores_.rbegin(); restore != restores_.rend(); ++restore)
         (*restore)();

@@ -13,8 +13,8 @@ struct Context;
 
 class ChartDriver : public ChartForms {
   public:
-    explicit ChartDriver(Context& context) : context_(context) {}
-    /// Forms that it loaded are unloaded; the others show again what they showed.
+    explicit ChartDriver(Context& context);
+    /// Forms that it loaded are unloaded; the others show again what they showed, where they stood.
     ~ChartDriver() override;
 
     int ShowSingleSpan() override;
