@@ -117,7 +117,7 @@ void ShowPage(const QString& path) {
     page->setAttribute(Qt::WA_QuitOnClose, false);
     page->setSource(QUrl::fromLocalFile(path));
     page->setWindowTitle(page->documentTitle());
-    page->resize(800, 640);
+    page->resize(840, 680);
     page->show();
 }
 
