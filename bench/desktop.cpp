@@ -24,14 +24,6 @@
 namespace trabeon {
 namespace {
 
-class Answers : public Unattended {
-  public:
-    std::string file;  // the answer to every file dialog
-    std::string AskFile(const FileQuestion&) override { return file; }
-    bool OpenDocument(const std::string&) override { return true; }
-    Paper DefaultPaper() const override { return {11906, 16838, 11506, 16438, 200, 200}; }
-};
-
 /// All that the windows still have to do, painting included.
 void settle() {
     QApplication::processEvents();
@@ -76,7 +68,7 @@ void preview(Program& program) {
     program.forms.Get<frmReport>().mnufilepreview.Choose();
 }
 
-void work(const std::string& folder, const std::string& project, Answers& answers) {
+void work(const std::string& folder, const std::string& project, Unattended& answers) {
     Program program(folder);
     auto& forms = program.forms;
     answers.file = project;
@@ -114,7 +106,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const std::string_view command = argc > 1 ? argv[1] : "";
     const Application application(argc, argv);
-    Answers answers;
+    Unattended answers;
     if (command == "window") {
         QMainWindow window;
         window.show();

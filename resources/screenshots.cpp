@@ -30,14 +30,6 @@
 namespace trabeon {
 namespace {
 
-class Photographer : public Unattended {
-  public:
-    std::string file;  // the one that a file dialog is answered with
-    std::string AskFile(const FileQuestion&) override { return file; }
-    bool OpenDocument(const std::string&) override { return true; }
-    Paper DefaultPaper() const override { return {11906, 16838, 11506, 16438, 200, 200}; }
-};
-
 void settle() {
     QApplication::processEvents();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -228,7 +220,7 @@ int run(const std::string& pictures) {
     const auto path = folder.path().toStdString();
     std::filesystem::copy(RESOURCES "/pictures", path);
     Application::SetIcon(path + "/trabeon.png");
-    Photographer outside;
+    Unattended outside;
     outside.file = EXAMPLES "/five-span-with-cantilever.TB";
     Camera camera(path, pictures);
     if (!camera.started())

@@ -1,5 +1,5 @@
 // The way out of a program that nobody watches: messages go to standard error, the clipboard is its
-// own, and nothing is asked.
+// own, and nobody is asked.
 #pragma once
 
 #include <QImage>
@@ -12,17 +12,19 @@ namespace trabeon {
 
 class Unattended : public Outside {
   public:
+    std::string file;  // the answer to every file dialog; empty: drawn back
+
     Answer MsgBox(const std::string& text, int, const std::string&) override {
         std::fprintf(stderr, "%s\n", text.c_str());
         return Answer::Cancel;
     }
-    std::string AskFile(const FileQuestion&) override { return {}; }
+    std::string AskFile(const FileQuestion&) override { return file; }
     void PutText(const std::string&) override {}
     void PutPicture(const QImage& picture) override { picture_ = picture; }
     QImage Picture() const override { return picture_; }
-    bool OpenDocument(const std::string&) override { return false; }
+    bool OpenDocument(const std::string&) override { return true; }
     std::unique_ptr<QPrinter> OpenPrinter(const std::string&) override { return nullptr; }
-    Paper DefaultPaper() const override { return {}; }
+    Paper DefaultPaper() const override { return {11906, 16838, 11506, 16438, 200, 200}; }  // A4
     bool AnotherCopyRuns(const std::string&) override { return false; }
     void End() override {}
 
