@@ -60,6 +60,18 @@ class ProgramTest : public testing::Test {
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
+    /// The one question that follows says that a file cannot be written.
+    void ExpectUnwritten(const std::string& name, const std::string& before = "") {
+        outside.ExpectMsgBox(before + "\"" + (folder / name).string() +
+                             "\" could not be written (Is a directory). What stood there before is "
+                             "unchanged; make room or choose another folder, then try again.");
+    }
+    /// From here on a rewrite of that file fails, and the next one says so.
+    void BlockWriting(const std::string& name) {
+        std::filesystem::create_directory(folder / (name + ".new"));
+        ExpectUnwritten(name);
+    }
+
     QWidget& window() { return *program.window().Widget(); }
     QMenuBar& menuBar() { return *window().findChild<QMenuBar*>(); }
     Context& context() { return program.context(); }
