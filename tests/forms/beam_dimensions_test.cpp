@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "forms/design/frmBeamDimensions.h"
 #include "forms/results/frmOptions.h"
 #include "tests/support/editor_fixture.h"

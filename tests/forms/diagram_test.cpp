@@ -1,6 +1,4 @@
 // The picture of the structure.
-#include <gtest/gtest.h>
-
 #include "forms/input/frmDiagram.h"
 #include "tests/support/editor_fixture.h"
 
@@ -79,16 +77,6 @@ TEST_F(Diagram, EachResizeReadsTheFilesAnewAndLeavesOutWhatCannotBeDrawn) {
     EXPECT_EQ(Lines("", two).size(), 1U);
     EXPECT_EQ(Lines(fixedAndInner, "").size(), 0U);
     EXPECT_EQ(Lines(fixedAndInner, "1,200,2,1e999,a\r\n").size(), 0U);
-}
-
-TEST_F(Diagram, AddToReportPastesThePictureAndClosesTheForm) {
-    int pasted = 0;
-    context().pasteIntoReport = [&] { pasted += !outside.clipboardPicture.isNull(); };
-    Click(Open<frmDiagram>().cmdReport);
-    EXPECT_EQ(pasted, 1);
-    EXPECT_EQ(outside.clipboardPicture.width(), 4 * 6690 / 15);
-    EXPECT_FALSE(forms().IsLoaded("frmDiagram"));
-    Settle();
 }
 
 }  // namespace

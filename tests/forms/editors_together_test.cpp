@@ -1,7 +1,5 @@
 // What holds for the input windows as a set: their layout, and a whole beam from empty project to
 // results.
-#include <gtest/gtest.h>
-
 #include "core/analysis/result_files.h"
 #include "forms/input/frmDiagram.h"
 #include "forms/input/frmJoints.h"
@@ -28,7 +26,6 @@ class EditorsTogether : public EditorTest {
                      listHigh + 900);
         form.Move(0, 0, 600, 600);
         EXPECT_GT(form.ListView1.Width(), 1000);  // cut off by the frame, but there
-        EXPECT_GT(form.ListView1.Height(), 500);
     }
 
     void EnterBeam() {

@@ -1,6 +1,4 @@
 // The windows of point loads and of distributed loads.
-#include <gtest/gtest.h>
-
 #include "forms/input/frmPoint.h"
 #include "forms/input/frmUDL.h"
 #include "tests/support/editor_fixture.h"
@@ -100,9 +98,9 @@ TEST_F(PointLoadEditor, TheSketchIsDrawnToTheTwip) {
         point.txtPtA.SetText(a);
         EXPECT_TRUE(drawn.empty()) << a;
     }
+    point.txtPtA.SetText("1");
     Click(point.cmdAdd);
     EXPECT_TRUE(drawn.empty());
-    point.txtPtA.SetText("1");
     for (const auto* L : {"0", "1e999"}) {
         folder.write("Member.txt", "1,200,2," + std::string(L) + ",a\r\n");
         Type(point.txtPtD, "x");

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
@@ -40,26 +38,25 @@ class MainWindow : public ProgramTest {
     bool Holds(const std::string& file, const std::string& text) {
         return folder.read(file).find(text) != std::string::npos;
     }
-    /// The caption of the form that an entry of the middle menus brings to the front.
+    /// What an entry of the middle menus brings to the front.
     QString ShownBy(QAction& entry) {
-        const auto* area = window().findChild<QMdiArea*>();
-        const auto* before = area->activeSubWindow();
         static const QStringList others{
             "&New", "&Open", "&Save", "Save &As", "E&xit", "&Contents and Index", "&Example"};
+        const auto* area = window().findChild<QMdiArea*>();
+        const auto* before = area->activeSubWindow();
         if (entry.menu() == nullptr && !others.contains(entry.text()))
             entry.trigger();
         const auto* now = area->activeSubWindow();
         return now == before ? "" : ": " + now->windowTitle();
     }
-    /// The menus, each entry with its key and the form that it brings to the front.
+    /// The menus, each entry with its key and the form that it shows.
     QString Tree(const QList<QAction*>& actions, const QString& indent) {
         QString text;
         for (auto* action : actions) {
-            text += indent + (action->isSeparator() ? "-" : action->text());
-            if (!action->shortcut().isEmpty())
-                text += " [" + action->shortcut().toString() + "]";
-            text += action->isEnabled() ? "" : " (off)";
-            text += ShownBy(*action) + '\n';
+            const auto key = action->shortcut().toString();
+            text += indent + (action->isSeparator() ? "-" : action->text()) +
+                    (key.isEmpty() ? "" : " [" + key + "]") +
+                    (action->isEnabled() ? "" : " (off)") + ShownBy(*action) + '\n';
             if (action->menu() != nullptr && action->text() != "&Window")
                 text += Tree(action->menu()->actions(), indent + "  ");
         }

@@ -162,6 +162,7 @@ TEST_F(ResultDiagrams, FollowAChangeOfTheMemberCount) {
     folder.write("Member.txt", MemberRows(2));
     Select(WholeMoment(), {1, 2, 3, 4, 5});  // the list is that of before
     EXPECT_EQ(chart.Points(), Expected({1, 2}, moment, -1));
+    EXPECT_EQ(chart.Note(), "Incomplete: analyse again");
     EXPECT_EQ(chart.PointCount(), 60);
     EXPECT_NEAR(WholeMoment().PBCBTB.Value(), 40, 1e-9);
 }
@@ -240,16 +241,6 @@ TEST_F(ResultDiagrams, AFileThatIsShortOrOfOtherDivisionsIsNotReadAskew) {
     EXPECT_EQ(MomentOf(1).size(), 12);   // of 22
     EXPECT_TRUE(MomentOf(2).empty());
     EXPECT_FALSE(forms().Get<frmOptions>().Visible());  // read, and not brought up
-}
-
-TEST_F(ResultDiagrams, AddToReportPastesTheChartOnceThereIsAReport) {
-    EXPECT_FALSE(Moment().cmdReport.Enabled());
-    int pastes = 0;
-    context().pasteIntoReport = [&] { ++pastes; };
-    ShearOf(1);
-    Click(Shear().cmdReport);
-    EXPECT_EQ(pastes, 1);
-    EXPECT_EQ(outside.clipboardPicture, Shear().GraphShear1.Picture());
 }
 
 }  // namespace

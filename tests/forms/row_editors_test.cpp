@@ -1,6 +1,4 @@
 // The windows of joints and of members. What all row editors share is tried on the joints.
-#include <gtest/gtest.h>
-
 #include "forms/input/frmJoints.h"
 #include "forms/input/frmMembers.h"
 #include "tests/support/editor_fixture.h"
