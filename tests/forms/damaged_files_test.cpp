@@ -51,11 +51,11 @@ std::string damaged(std::string text, unsigned seed) {
         const std::size_t begins[] = {at, field, field, row};
         const auto begin = begins[below(4)];
         const auto value = std::min(text.find_first_of(",\r", begin), text.size());
-        const std::size_t ends[] = {begin, value, value, value, behind(begin, "\n"), text.size()};
+        const std::size_t ends[] = {value, value, value, value, behind(begin, "\n"), text.size()};
         const auto end = ends[below(begin == row ? 5 : 6)];
         text.replace(begin, end - begin,
                      begin == row && below(2) == 0 ? other : scraps[below(scraps.size())]);
-        text.insert(begin, below(30) == 0 ? 20'000 : 0, '\0');
+        text.insert(begin, below(100) == 0 ? 20'000 : 0, '\0');
     }
     return text;
 }
