@@ -52,9 +52,9 @@ std::string damaged(std::string text, unsigned seed) {
         const auto begin = begins[below(4)];
         const auto value = std::min(text.find_first_of(",\r", begin), text.size());
         const std::size_t ends[] = {value, value, value, value, behind(begin, "\n"), text.size()};
-        const auto end = ends[below(begin == row ? 5 : 6)];
-        text.replace(begin, end - begin,
-                     begin == row && below(2) == 0 ? other : scraps[below(scraps.size())]);
+        const auto end = begin == row ? behind(row, "\n") : ends[below(6)];
+        const std::string scrap = scraps[below(scraps.size())];
+        text.replace(begin, end - begin, begin != row ? scrap : below(2) == 0 ? other : "");
         text.insert(begin, below(100) == 0 ? 20'000 : 0, '\0');
     }
     return text;
