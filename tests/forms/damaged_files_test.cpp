@@ -33,86 +33,46 @@ class Opener : public ScriptedOutside {
     std::string AskFile(const FileQuestion&) override { return file; }
 };
 
-/// A project file, and what can happen to one.
-class Damaged {
-  public:
-    Damaged(std::string text, unsigned seed) : text_(std::move(text)), random_(seed) {
-        for (auto times = 1 + below(3); times > 0; --times)
-            damage(below(11));
+/// The text after one to three damages: a stretch that begins anywhere, or with a field or a line,
+/// gives way to a scrap or to another line.
+std::string damaged(std::string text, unsigned seed) {
+    static const std::array scraps{"",     "1E999", "-1", "0", "1E308", "99999999999999999999",
+                                   "1E-9", "nan",   "x",  ",", "1E15",  "\xC3(\xFF",
+                                   "\"",   "\r",    "\n", "T", "\r\n",  "BEAM\r\n"};
+    std::mt19937 random(seed);
+    const auto below = [&](std::size_t end) { return end == 0 ? 0 : random() % end; };
+    const auto behind = [&](std::size_t from, const char* ends) {
+        return std::min(text.find_first_of(ends, from), text.size() - 1) + 1;
+    };
+    for (auto times = 1 + below(3); times > 0 && !text.empty(); --times) {
+        const auto line = behind(below(text.size()), "\n");
+        const auto other = text.substr(line, behind(line, "\n") - line);
+        const auto at = below(text.size()), field = behind(at, ",\n"), row = behind(at, "\n");
+        const std::size_t begins[] = {at, field, field, row};
+        const auto begin = begins[below(4)];
+        const auto value = std::min(text.find_first_of(",\r", begin), text.size());
+        const std::size_t ends[] = {value, value, value, value, behind(begin, "\n"), text.size()};
+        const auto end = begin == row ? behind(row, "\n") : ends[below(6)];
+        const std::string scrap = scraps[below(scraps.size())];
+        text.replace(begin, end - begin, begin != row ? scrap : below(2) == 0 ? other : "");
+        text.insert(begin, below(100) == 0 ? 20'000 : 0, '\0');
     }
-    [[nodiscard]] const std::string& text() const { return text_; }
-
-  private:
-    std::size_t below(std::size_t end) { return end == 0 ? 0 : random_() % end; }
-    std::size_t place() { return below(text_.size() + 1); }
-    /// From a place to behind the next of these characters.
-    [[nodiscard]] std::size_t behind(std::size_t from, const char* ends) const {
-        return std::min(text_.find_first_of(ends, from), text_.size() - 1) + 1;
-    }
-    void damage(std::size_t kind) {
-        static const std::array numbers{"1E999", "-1", "0",  "1E308", "nan", "99999999999999999999",
-                                        "1E-9",  "",   "\"", "x",     ",",   "1E15"};
-        static const std::array scraps{"\0\0"s, "\xC3(\xFF"s, "\r"s,
-                                       "\n"s,   "\r\n"s,      std::string(20'000, '7')};
-        if (text_.empty())
-            return;
-        const auto line = behind(place(), "\n");
-        const auto row = text_.substr(line, behind(line, "\n") - line);
-        switch (const auto at = below(text_.size()); kind) {
-            case 0:
-                text_[at] = static_cast<char>(random_());
-                break;
-            case 1:
-                text_.erase(line, row.size());
-                break;
-            case 2:
-                text_.insert(line, row);
-                break;
-            case 3:  // a line comes to stand elsewhere
-                text_.erase(line, row.size());
-                text_.insert(behind(place(), "\n"), row);
-                break;
-            case 4:
-                text_.resize(at);
-                break;
-            case 5:
-            case 6: {  // another number
-                const auto field = behind(at, ",\n");
-                const auto end = std::min(text_.find_first_of(",\r", field), text_.size());
-                text_.replace(field, end - field, numbers[below(numbers.size())]);
-                break;
-            }
-            case 7: {
-                const auto field = behind(at, ",\n");
-                text_.erase(field, behind(field, ",\n") - field);
-                break;
-            }
-            case 8:
-                text_.insert(at, scraps[below(scraps.size())]);
-                break;
-            case 9:  // a heading's first letter
-                text_[std::min(line, text_.size() - 1)] = static_cast<char>('A' + below(26));
-                break;
-            default:
-                std::erase(text_, below(2) == 0 ? '\r' : '\n');
-        }
-    }
-
-    std::string text_;
-    std::mt19937 random_;
-};
+    return text;
+}
 
 class DamagedFiles : public ProgramTest {
   protected:
+    DamagedFiles() { Start(); }
+
     static std::string example(unsigned number) {
-        static const std::array names{"two-span-floor-beam.TB", "five-span-with-cantilever.TB",
-                                      "fixed-ended-transfer-beam.TB"};
-        return std::string(EXAMPLES) + "/" + names[number % names.size()];
+        constexpr const char* names[] = {"two-span-floor-beam", "five-span-with-cantilever",
+                                         "fixed-ended-transfer-beam"};
+        return std::string(EXAMPLES) + "/" + names[number % 3] + ".TB";
     }
-    /// The working files, as a refusal must leave them.
-    std::map<std::string, std::string> working() {
+    /// What a refusal must leave as it is.
+    auto project() {
         auto files = folder.contents();
-        files.erase("Damaged.TB");
+        files["Damaged.TB"] = caption() + forms().Get<frmTitle>().Title().beamName;
         return files;
     }
     void useEveryForm() {
@@ -125,30 +85,25 @@ class DamagedFiles : public ProgramTest {
 };
 
 TEST_F(DamagedFiles, ProjectsAreRefusedWithTheLineOrOpenedAndUsed) {
-    Start();
     Opener opener;
     opener.file = example(0);
     program.mnuOpen_Click();
+    opener.file = (folder / "Damaged.TB").string();
     const auto* wanted = std::getenv("TRABEON_MUTATIONS");
     const unsigned count = wanted == nullptr ? 1000 : static_cast<unsigned>(std::atoi(wanted));
     const std::regex refusal("\".*Damaged\\.TB\" is not a whole project file: line [0-9]+: .*");
     unsigned refused = 0, opened = 0;
     for (unsigned i = 0; i < count && !HasFailure(); ++i) {
         SCOPED_TRACE("mutation " + std::to_string(i));
-        folder.write("Damaged.TB", Damaged(TemporaryFolder::readFile(example(i)), i).text());
-        opener.file = (folder / "Damaged.TB").string();
+        folder.write("Damaged.TB", damaged(TemporaryFolder::readFile(example(i)), i));
         opener.said.clear();
-        const auto before = working();
-        const auto name = caption();
-        const auto title = forms().Get<frmTitle>().Title().beamName;
+        const auto before = project();
         const auto start = std::chrono::steady_clock::now();
         program.mnuOpen_Click();
         if (!opener.said.empty()) {
             ++refused;
             EXPECT_TRUE(std::regex_match(opener.said, refusal)) << opener.said;
-            EXPECT_EQ(working(), before);
-            EXPECT_EQ(caption(), name);
-            EXPECT_EQ(forms().Get<frmTitle>().Title().beamName, title);
+            EXPECT_EQ(project(), before);
         } else {
             forms().Get<frmAnalysis>().cmdAnalyse.Press();
             if (++opened % 5 == 0)
@@ -159,15 +114,13 @@ TEST_F(DamagedFiles, ProjectsAreRefusedWithTheLineOrOpenedAndUsed) {
         EXPECT_LT(took.count(), limit(10'000));
     }
     std::printf("%u damaged project files: %u refused, %u opened\n", count, refused, opened);
-    EXPECT_GT(refused, count / 5);
-    EXPECT_GT(opened, count / 5);
+    EXPECT_GT(std::min(refused, opened), count / 5);
 }
 
 // A working file changes behind the program's back, with forms open and before others read it.
 TEST_F(DamagedFiles, ScrambledWorkingFilesAreSurvivedByEveryForm) {
-    Start();
     Opener opener;
-    const auto project = opener.file = example(1);
+    const auto whole = opener.file = example(1);
     program.mnuOpen_Click();
     forms().Get<frmAnalysis>().cmdAnalyse.Press();
     useEveryForm();
@@ -176,6 +129,7 @@ TEST_F(DamagedFiles, ScrambledWorkingFilesAreSurvivedByEveryForm) {
         for (const auto& scramble : {"1,2"s, "\0\xC3(,\"open"s, "BEAM\rM,L\nT,,,"s,
                                      std::string(20'000, '9') + ",\r\n", "gone"s, "a folder"s}) {
             SCOPED_TRACE(name + ": " + scramble.substr(0, 20));
+            opener.file = whole;
             program.mnuOpen_Click();
             forms().Show("frmPoint");
             std::filesystem::remove(folder / name);
@@ -188,14 +142,12 @@ TEST_F(DamagedFiles, ScrambledWorkingFilesAreSurvivedByEveryForm) {
             opener.said.clear();
             opener.file = (folder / "Job.TB").string();
             program.FileSaveAs();
-            const bool saved = opener.said.empty();
-            refused += saved ? 0 : 1;
+            refused += opener.said.empty() ? 0 : 1;
             const TemporaryFolder unpacked;
-            EXPECT_EQ(saved, static_cast<bool>(unpackProject(opener.file, unpacked.path())))
+            EXPECT_EQ(opener.said.empty(), bool(unpackProject(opener.file, unpacked.path())))
                 << opener.said;
             std::filesystem::remove(opener.file);
             std::filesystem::remove(folder / name);
-            opener.file = project;
         }
     EXPECT_GT(refused, 5U);
 }

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QTreeWidget>
 #include <ctime>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -15,31 +16,53 @@
 #include "tests/support/time_limit.h"
 #include "toolkit/list_view.h"
 #include "toolkit/picture_box.h"
+#include "toolkit/text_box.h"
 
 namespace trabeon::test {
 
 class EditorTest : public ProgramTest {
   protected:
+    EditorTest() { Start(); }
+
+    /// As its menu entry shows it.
     template <class F>
-    F& Open(const QString& entry) {
-        Choose(entry);
+    F& Open() {
+        forms().Show(F::Name);
         Settle();
         return forms().Get<F>();
+    }
+    /// Anew, from the files as they are now.
+    template <class F>
+    F& Reopen() {
+        forms().Unload(F::Name);
+        Settle();
+        return Open<F>();
+    }
+    /// The data-changed flag, which is 0 from then on.
+    int TakeFlag() { return std::exchange(context().dataChanged, 0); }
+    /// In twips, to a pixel.
+    static void ExpectBounds(const Placement& placed, int left, int top, int width, int height) {
+        for (const auto& [got, expected] : {std::pair{placed.Left(), left},
+                                            {placed.Top(), top},
+                                            {placed.Width(), width},
+                                            {placed.Height(), height}})
+            EXPECT_NEAR(got, expected, TwipsPerPixel);
+    }
+    static void Fill(std::initializer_list<TextBox*> boxes, const char* const* texts) {
+        for (auto* box : boxes)
+            box->SetText(*texts++);
     }
 
     /// '\n' is Enter, '\t' is Tab, '\b' is Backspace.
     static void Keys(const char* keys) {
+        static const std::map<char, Qt::Key> named{
+            {'\n', Qt::Key_Return}, {'\t', Qt::Key_Tab}, {'\b', Qt::Key_Backspace}};
         for (; *keys != 0; ++keys) {
-            QWidget* focus = QApplication::focusWidget();
-            ASSERT_NE(focus, nullptr);
-            if (*keys == '\n')
-                QTest::keyClick(focus, Qt::Key_Return);
-            else if (*keys == '\t')
-                QTest::keyClick(focus, Qt::Key_Tab);
-            else if (*keys == '\b')
-                QTest::keyClick(focus, Qt::Key_Backspace);
+            ASSERT_NE(QApplication::focusWidget(), nullptr);
+            if (const auto key = named.find(*keys); key != named.end())
+                Key(key->second);
             else
-                QTest::keyClick(focus, *keys);
+                QTest::keyClick(QApplication::focusWidget(), *keys);
         }
     }
     static void Key(Qt::Key key, Qt::KeyboardModifiers held = {}) {
@@ -56,6 +79,7 @@ class EditorTest : public ProgramTest {
         return *static_cast<QTreeWidget*>(list.Widget());
     }
     static QPoint Place(const ListView& list, int row) {
+        Tree(list).scrollToItem(Tree(list).topLevelItem(row - 1));
         return Tree(list).visualItemRect(Tree(list).topLevelItem(row - 1)).center();
     }
     static void ClickRow(const ListView& list, int row) {
@@ -75,14 +99,13 @@ class EditorTest : public ProgramTest {
         Settle();
     }
 
-    /// The texts of one column in the order that shows; column 1 is the first.
-    static std::vector<std::string> Shown(const ListView& list, int column) {
-        std::vector<std::string> texts;
+    /// The texts of one column in the order that shows, apart by bars; column 1 is the first.
+    static std::string Shown(const ListView& list, int column) {
+        std::string texts;
         for (int i = 1; i <= list.ListItems.Count(); ++i)
-            texts.push_back(list.ListItems(i).SubItems(column - 1));
+            texts += (i > 1 ? "|" : "") + list.ListItems(i).SubItems(column - 1);
         return texts;
     }
-    using Texts = std::vector<std::string>;
 
     static std::string MemberRows(int count) {
         std::string rows;
@@ -98,18 +121,6 @@ class EditorTest : public ProgramTest {
         work();
         QApplication::processEvents();
         return 1000.0 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
-    }
-
-    /// The one question that follows says that a file cannot be written.
-    void ExpectUnwritten(const std::string& name) {
-        outside.ExpectMsgBox("\"" + (folder / name).string() +
-                             "\" could not be written (Is a directory). What stood there before is "
-                             "unchanged; make room or choose another folder, then try again.");
-    }
-    /// From here on a rewrite of that file fails, and the next one says so.
-    void BlockWriting(const std::string& name) {
-        std::filesystem::create_directory(folder / (name + ".new"));
-        ExpectUnwritten(name);
     }
 
     /// Every control stands inside its form and none on another; captions are not cut.
@@ -141,10 +152,9 @@ class EditorTest : public ProgramTest {
     }
     static void ExpectLine(const Stroke& stroke, double x1, double y1, double x2, double y2) {
         EXPECT_EQ(stroke.kind, Stroke::Kind::Line);
-        const double got[] = {stroke.x1, stroke.y1, stroke.x2, stroke.y2};
-        const double expected[] = {x1, y1, x2, y2};
-        for (int k = 0; k < 4; ++k)
-            EXPECT_NEAR(got[k], expected[k], 1e-6) << "number " << k;
+        for (const auto& [got, expected] :
+             {std::pair{stroke.x1, x1}, {stroke.y1, y1}, {stroke.x2, x2}, {stroke.y2, y2}})
+            EXPECT_NEAR(got, expected, 1e-6);
     }
 };
 

@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
+#include <algorithm>
 
 #include "forms/main/frmTrabeon.h"
 #include "tests/support/scripted_outside.h"
@@ -26,26 +27,17 @@ class ProgramTest : public testing::Test {
 
     /// Chooses an entry by its captions, as "&File|&New"; it must be there and enabled.
     void Choose(const QString& path) {
-        auto* action = Entry(path);
-        ASSERT_NE(action, nullptr) << path.toStdString();
-        ASSERT_TRUE(action->isEnabled()) << path.toStdString();
-        action->trigger();
-    }
-
-    QAction* Entry(const QString& path) {
-        QList<QAction*> actions = menuBar().actions();
-        QAction* found = nullptr;
+        auto actions = menuBar().actions();
         for (const auto& caption : path.split('|')) {
-            found = nullptr;
-            for (auto* action : actions)
-                if (action->text() == caption)
-                    found = action;
-            if (found == nullptr)
-                return nullptr;
-            if (found->menu() != nullptr)
-                actions = found->menu()->actions();
+            const auto found = std::find_if(actions.begin(), actions.end(), [&](auto* action) {
+                return action->text() == caption && action->isEnabled();
+            });
+            ASSERT_NE(found, actions.end()) << path.toStdString();
+            if ((*found)->menu() == nullptr)
+                (*found)->trigger();
+            else
+                actions = (*found)->menu()->actions();
         }
-        return found;
     }
 
     static void Type(Control& control, const QString& keys) {
@@ -58,6 +50,18 @@ class ProgramTest : public testing::Test {
     static void Settle() {
         QApplication::processEvents();
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    /// The one question that follows says that a file cannot be written.
+    void ExpectUnwritten(const std::string& name, const std::string& before = "") {
+        outside.ExpectMsgBox(before + "\"" + (folder / name).string() +
+                             "\" could not be written (Is a directory). What stood there before is "
+                             "unchanged; make room or choose another folder, then try again.");
+    }
+    /// From here on a rewrite of that file fails, and the next one says so.
+    void BlockWriting(const std::string& name) {
+        std::filesystem::create_directory(folder / (name + ".new"));
+        ExpectUnwritten(name);
     }
 
     QWidget& window() { return *program.window().Widget(); }
