@@ -146,6 +146,7 @@ TEST_F(PreviewTest, TheReportsMenuHoldsTheProgramUntilItIsClosed) {
             return;
         whenShown.stop();
         EXPECT_EQ(QApplication::activeModalWidget(), Preview().Widget());
+        EXPECT_FALSE(Preview().Widget()->windowFlags() & Qt::WindowMinMaxButtonsHint);
         Preview().Widget()->activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(Preview().Widget()));
         Preview().cmdNextPage.SetFocus();

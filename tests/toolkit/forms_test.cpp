@@ -6,7 +6,6 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
-#include <QTimer>
 
 #include "tests/toolkit/controls_fixture.h"
 #include "toolkit/button.h"
@@ -65,21 +64,11 @@ class frmSecond : public Form {
     SharedRun& run_;
 };
 
-class frmAsk : public Form {
-  public:
-    static constexpr const char* Name = "frmAsk";
-    explicit frmAsk(SharedRun& run) : Form("Ask", FormBorder::FixedDialog), run_(run) {}
-    ~frmAsk() override { run_.log += "ask gone;"; }
-
-    SharedRun& run_;
-};
-
 class FormsTest : public ControlsTest {
   protected:
     FormsTest() {
         forms.Register<frmFirst>(run);
         forms.Register<frmSecond>(run);
-        forms.Register<frmAsk>(run);
     }
     ~FormsTest() override {
         forms.UnloadAll();
@@ -206,19 +195,6 @@ TEST_F(FormsTest, MenusThatShareAnAccessKeyBeginWithTheFirstEachTime) {
     }
 }
 
-TEST_F(FormsTest, ADialogHoldsTheCallerUntilItIsUnloaded) {
-    QTimer::singleShot(0, [this] {
-        run.log += "in dialog;";
-        const auto buttons = Qt::CustomizeWindowHint | Qt::WindowMinMaxButtonsHint;
-        EXPECT_EQ(forms.Get<frmAsk>().Widget()->windowFlags() & buttons, Qt::CustomizeWindowHint);
-        forms.Unload("frmAsk");
-    });
-    forms.Show("frmAsk");
-    EXPECT_FALSE(forms.IsLoaded("frmAsk"));
-    Settle();
-    EXPECT_EQ(run.log, "in dialog;ask gone;");
-}
-
 TEST_F(FormsTest, TheWindowMenuListsTheFormsInSight) {
     window.AddWindowList("&Window");
     QMenu* menu = Bar().actions().last()->menu();
@@ -237,20 +213,6 @@ TEST_F(FormsTest, TheWindowMenuListsTheFormsInSight) {
     EXPECT_EQ(captions(), "&1 First, &2 Second");
     menu->actions().first()->trigger();
     EXPECT_EQ(InFront(), "First");
-}
-
-TEST_F(FormsTest, ClosingTheWindowAsksQueryUnloadThenUnload) {
-    std::string log = {};
-    window.QueryUnload = [&](bool&) { log += "query;"; };
-    window.Unload = [&](bool& cancel) {
-        cancel = log == "query;";  // the first time
-        log += cancel ? "refuse;" : "unload;";
-    };
-    window.Close();
-    EXPECT_TRUE(window.Widget()->isVisible());
-    window.Close();
-    EXPECT_FALSE(window.Widget()->isVisible());
-    EXPECT_EQ(log, "query;refuse;query;unload;");
 }
 
 TEST_F(FormsTest, WindowsFillTheirPlaceAndGoBackToTheirSize) {
