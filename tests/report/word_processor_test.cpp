@@ -38,5 +38,17 @@ TEST_F(ReportTest, PreviewPdfAndWordProcessorShowTheSamePages) {
     }
 }
 
+TEST_F(ReportTest, ThePrintLeavesAnInchFromTheEdgesOfTheSheet) {
+    if (!canReadDocuments())
+        GTEST_SKIP() << "needs poppler-utils";
+    Add(601, 930);
+    ASSERT_TRUE(Print(RTB()).printed);
+    const auto path = QString::fromStdString(folder.path().string());
+    run("pdftoppm", {"-r", "96", "-png", "-singlefile", path + "/out.pdf", path + "/page"});
+    const QRect ink = inkOf(QImage(path + "/page.png"));
+    EXPECT_LE((ink.topLeft() - QPoint(97, 97)).manhattanLength(), 2);
+    EXPECT_LE((ink.bottomRight() - QPoint(96 + 600, 96 + 929)).manhattanLength(), 3);
+}
+
 }  // namespace
 }  // namespace trabeon::test
