@@ -63,7 +63,8 @@ TEST_F(PreviewTest, PicturesHaveThePrintableSizeTimesTheStep) {
 }
 
 TEST_F(PreviewTest, ZoomGoesByButtonsAndByTheListAndAPictureKeepsItsOffset) {
-    Preview().VScroll1.SetValue(120);
+    Press(Preview().VScroll1, Qt::Key_PageDown);
+    Press(Preview().VScroll1, Qt::Key_Down);
     Preview().HScroll1.SetValue(30);
     for (const char* scale : {"50", "75", "100", "150", "150"}) {
         Click(Preview().cmdZoomIn);
@@ -80,9 +81,9 @@ TEST_F(PreviewTest, ZoomGoesByButtonsAndByTheListAndAPictureKeepsItsOffset) {
     Preview().cboScale.SetListIndex(4);
     EXPECT_EQ(Shown(), 5);
     EXPECT_EQ(ZoomButtons(), Both(true, false));
-    EXPECT_EQ(Preview().pic5.Top(), -120 * 15);
+    EXPECT_EQ(Preview().pic5.Top(), -150 * 15);
     EXPECT_EQ(Preview().pic5.Left(), -30 * 15);
-    EXPECT_EQ(Preview().VScroll1.Value(), 120);
+    EXPECT_EQ(Preview().VScroll1.Value(), 150);
     EXPECT_EQ(Preview().HScroll1.Value(), 30);
 }
 
