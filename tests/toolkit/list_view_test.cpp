@@ -156,5 +156,11 @@ TEST_F(ListViewTest, AColouredRowWithASignKeepsItsTextAndItsHeight) {
     EXPECT_TRUE(row.icon(0).isNull());
 }
 
+TEST_F(ListViewTest, WrappedTitlesHaveRoomForTwoLines) {
+    list.SetWrapsTitles(true);
+    Settle();
+    EXPECT_GE(tree.header()->height(), 2 * tree.header()->fontMetrics().lineSpacing());
+}
+
 }  // namespace
 }  // namespace trabeon
