@@ -205,6 +205,8 @@ TEST_F(Documents, TheFileIsLandscapeLetterWithItsPictures) {
     EXPECT_TRUE(body.contains("&amp; Shear"));
     EXPECT_TRUE(Part(*docx, "word/media/picture6.png").startsWith("\x89PNG"));
     EXPECT_TRUE(Part(*docx, "word/_rels/document.xml.rels").contains("media/picture6.png"));
+    const auto wide = docxBytes({{}, {tableOf(Lines(40, "0123456789"))}});
+    EXPECT_TRUE(Part(*wide, "word/document.xml").contains("</w:tbl><w:p>")) << "or they are one";
 }
 
 }  // namespace

@@ -11,6 +11,11 @@
 
 namespace trabeon::test {
 
+constexpr auto wordStops =
+    "The Word For Windows Program Was Automatically and Purposely Exitted Due To The Programmer's "
+    "Preference in Using Lotus. However, if you would like to use Word For Windows For Your "
+    "Printing Purposes, Please Email The Programmer.";
+
 using Calls = std::vector<std::string>;
 
 class RecordingProcessor : public WordProcessor {

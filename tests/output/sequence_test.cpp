@@ -12,11 +12,6 @@
 namespace trabeon::test {
 namespace {
 
-constexpr auto stopped =
-    "The Word For Windows Program Was Automatically and Purposely Exitted Due To The Programmer's "
-    "Preference in Using Lotus. However, if you would like to use Word For Windows For Your "
-    "Printing Purposes, Please Email The Programmer.";
-
 struct Case {
     const char* file;
     OutputKinds kinds;
@@ -61,7 +56,7 @@ TEST_P(Sequence, IsTheToldOne) {
     if (one.hasBeam)
         writeBeam(folder);
     if (stops)
-        outside.ExpectMsgBox(stopped);
+        outside.ExpectMsgBox(wordStops);
     const auto end = one.isWord() ? Write<WordOutput>() : Write<LotusOutput>();
     EXPECT_EQ(end.whole, !stops);
     EXPECT_EQ(end.failure, "");

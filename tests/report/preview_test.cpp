@@ -1,5 +1,5 @@
+#include <QElapsedTimer>
 #include <QTimer>
-#include <chrono>
 
 #include "tests/report/report_fixture.h"
 #include "tests/support/time_limit.h"
@@ -22,13 +22,11 @@ class PreviewTest : public ReportTest {
         EXPECT_FALSE(Preview().picX.Visible());
         return shown;
     }
-    std::pair<bool, bool> PageButtons() {
+    using Both = std::pair<bool, bool>;
+    Both PageButtons() {
         return {Preview().cmdPrevPage.Enabled(), Preview().cmdNextPage.Enabled()};
     }
-    std::pair<bool, bool> ZoomButtons() {
-        return {Preview().cmdZoomIn.Enabled(), Preview().cmdZoomOut.Enabled()};
-    }
-    using Both = std::pair<bool, bool>;
+    Both ZoomButtons() { return {Preview().cmdZoomIn.Enabled(), Preview().cmdZoomOut.Enabled()}; }
 };
 
 TEST_F(PreviewTest, OpensOnPageOneAtAQuarter) {
@@ -50,20 +48,23 @@ TEST_F(PreviewTest, OpensOnPageOneAtAQuarter) {
 }
 
 TEST_F(PreviewTest, PicturesHaveThePrintableSizeTimesTheStep) {
-    const std::tuple<PictureBox&, int, int> sizes[] = {
-        // 11500 by 16440 twips are 767 by 1096 pixels.
-        {Preview().picX, 767, 1096}, {Preview().pic1, 939, 1342}, {Preview().pic2, 767, 1096},
-        {Preview().pic3, 575, 822},  {Preview().pic4, 383, 548},  {Preview().pic5, 192, 274}};
-    for (const auto& [box, wide, high] : sizes) {
-        EXPECT_EQ(box.Width() / 15, wide);
-        EXPECT_EQ(box.Height() / 15, high);
+    // 11500 by 16440 twips are 767 by 1096 pixels.
+    for (const auto& [box, wide, high] : {std::tuple{&Preview().picX, 767, 1096},
+                                          {&Preview().pic1, 939, 1342},
+                                          {&Preview().pic2, 767, 1096},
+                                          {&Preview().pic3, 575, 822},
+                                          {&Preview().pic4, 383, 548},
+                                          {&Preview().pic5, 192, 274}}) {
+        EXPECT_EQ(box->Width() / 15, wide);
+        EXPECT_EQ(box->Height() / 15, high);
     }
     EXPECT_EQ(Preview().DocWYSIWYG(RTB()), 9020);
     EXPECT_EQ(static_cast<QTextEdit*>(RTB().Widget())->lineWrapColumnOrWidth(), 601);
 }
 
 TEST_F(PreviewTest, ZoomGoesByButtonsAndByTheListAndAPictureKeepsItsOffset) {
-    Preview().VScroll1.SetValue(120);
+    Press(Preview().VScroll1, Qt::Key_PageDown);
+    Press(Preview().VScroll1, Qt::Key_Down);
     Preview().HScroll1.SetValue(30);
     for (const char* scale : {"50", "75", "100", "150", "150"}) {
         Click(Preview().cmdZoomIn);
@@ -75,15 +76,14 @@ TEST_F(PreviewTest, ZoomGoesByButtonsAndByTheListAndAPictureKeepsItsOffset) {
     EXPECT_EQ(ZoomButtons(), Both(false, true));
     Click(Preview().cmdZoomOut);
     EXPECT_EQ(Shown(), 2);
-    EXPECT_EQ(ZoomButtons(), Both(true, true));
     Preview().VScroll1.SetValue(1000);
     EXPECT_EQ(Preview().pic2.Top(), -1000 * 15);
     Preview().cboScale.SetListIndex(4);
     EXPECT_EQ(Shown(), 5);
     EXPECT_EQ(ZoomButtons(), Both(true, false));
-    EXPECT_EQ(Preview().pic5.Top(), -120 * 15);
+    EXPECT_EQ(Preview().pic5.Top(), -150 * 15);
     EXPECT_EQ(Preview().pic5.Left(), -30 * 15);
-    EXPECT_EQ(Preview().VScroll1.Value(), 120);
+    EXPECT_EQ(Preview().VScroll1.Value(), 150);
     EXPECT_EQ(Preview().HScroll1.Value(), 30);
 }
 
@@ -147,6 +147,7 @@ TEST_F(PreviewTest, TheReportsMenuHoldsTheProgramUntilItIsClosed) {
             return;
         whenShown.stop();
         EXPECT_EQ(QApplication::activeModalWidget(), Preview().Widget());
+        EXPECT_FALSE(Preview().Widget()->windowFlags() & Qt::WindowMinMaxButtonsHint);
         Preview().Widget()->activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(Preview().Widget()));
         Preview().cmdNextPage.SetFocus();
@@ -157,7 +158,6 @@ TEST_F(PreviewTest, TheReportsMenuHoldsTheProgramUntilItIsClosed) {
     });
     whenShown.start();
     Report().mnufilepreview.Choose();
-    EXPECT_FALSE(whenShown.isActive());
     EXPECT_FALSE(forms().IsLoaded("frmDocPreview"));
     EXPECT_TRUE(forms().IsLoaded("frmReport"));
 }
@@ -166,16 +166,12 @@ TEST_F(PreviewTest, TheReportsMenuHoldsTheProgramUntilItIsClosed) {
 TEST_F(PreviewTest, APageOfALongReportComesAtOnce) {
     AddPictures(60, 600, 400);
     ASSERT_EQ(Preview().cboPageno.ListCount(), 30);
-    using Clock = std::chrono::steady_clock;
-    double slowest = 0;
+    QElapsedTimer turning;
     for (const int page : {1, 15, 28, 29}) {
-        const auto turning = Clock::now();
+        turning.start();
         Preview().cboPageno.SetListIndex(page);
-        const std::chrono::duration<double, std::milli> turned = Clock::now() - turning;
-        slowest = std::max(slowest, turned.count());
+        EXPECT_LT(static_cast<double>(turning.elapsed()), limit(1000)) << "page " << page + 1;
     }
-    RecordProperty("slowest turn", std::to_string(slowest));
-    EXPECT_LT(slowest, limit(1000));
 }
 
 }  // namespace

@@ -1,10 +1,29 @@
-// A form for controls to be tried on.
+// The frame in sight, a form for controls to be tried on, a scripted way out.
 #pragma once
 
-#include "tests/support/gui_fixture.h"
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTest>
+
+#include "tests/support/scripted_outside.h"
+#include "toolkit/control.h"
 #include "toolkit/form.h"
+#include "toolkit/forms.h"
+#include "toolkit/mdi_window.h"
 
 namespace trabeon {
+
+// Counts how often a control is painted.
+class PaintCounter : public QObject {
+  public:
+    explicit PaintCounter(const Control& control) { control.Widget()->installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        paints += event->type() == QEvent::Paint;
+        return false;
+    }
+    int paints = 0;
+};
 
 struct Nothing {};
 
@@ -14,23 +33,40 @@ class frmBench : public Form {
     explicit frmBench(Nothing&) : Form("Bench") {}
 };
 
-class ControlsTest : public GuiTest {
+class ControlsTest : public testing::Test {
   protected:
-    ControlsTest() { forms.Register<frmBench>(nothing); }
+    ControlsTest() {
+        window.Show();
+        window.Widget()->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.Widget()));
+        forms.Register<frmBench>(nothing);
+    }
 
+    // Whatever was put off until the handlers have ended, forms that go included.
+    static void Settle() {
+        QApplication::processEvents();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
     Form& Bench() { return forms.Get<frmBench>(); }
     static void Click(const Control& control, QPoint at = {}) {
         QTest::mouseClick(control.Widget(), Qt::LeftButton, {}, at);
     }
+    static void Key(const Control& control, Qt::Key key, Qt::KeyboardModifiers held = {}) {
+        QTest::keyClick(control.Widget(), key, held);
+    }
     static void Type(const Control& control, const char* text) {
         QTest::keyClicks(control.Widget(), text);
     }
+    static QImage Face(const Control& control) { return control.Widget()->grab().toImage(); }
     // A callback that counts.
     static auto Count(int& counter) {
         return [&counter] { ++counter; };
     }
 
     Nothing nothing;
+    ScriptedOutside outside;
+    MdiWindow window{"Trabeon - Untitled"};
+    Forms forms{window};
 };
 
 }  // namespace trabeon

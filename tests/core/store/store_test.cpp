@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
+#include <algorithm>
 #include <csignal>
 
 #include "core/store/file_set.h"
+#include "core/store/replacing_file.h"
 #include "core/store/row_editing.h"
 #include "core/store/rows.h"
 #include "core/store/working_files.h"
@@ -46,10 +48,6 @@ TEST(WorkingFiles, AreEmptiedCopiedAndDeletedWithoutAWord) {
     MurderFile(folder / "Joint.txt");
     MurderFile(folder / "Joint.txt");
     EXPECT_EQ(readWhole(folder / "Joint.txt"), "");
-    const std::string large(300'001, 'x');
-    ASSERT_FALSE(replaceFile(folder / "Joint.txt", large));
-    EXPECT_EQ(readWhole(folder / "Joint.txt"), large);
-    MurderFile(folder / "Joint.txt");
     EXPECT_EQ(folder.contents().count("Joint.txt"), 0u);
 }
 
@@ -122,16 +120,13 @@ TEST(RowEditing, AFailureLeavesTheUsersRows) {
     ASSERT_TRUE(failure);
     EXPECT_NE(failure->sentence.find("Joint.txt\" cannot be read"), std::string::npos);
     EXPECT_TRUE(folder.contents().empty());
-}
-
-TEST(RowEditing, ACopyThatFailsIsTold) {
-    const TemporaryFolder folder;
-    folder.write("Joint.txt", "1,Fixed,\"None\"\r\n");
+    std::filesystem::remove(folder / "Joint.txt");
+    folder.write("Joint.txt", rows);
     std::filesystem::create_directory(folder / "Joint.txt.new");
-    const auto failure = addRow<JointRow>(folder.path(), 1, {" 2", "Fixed", "None"});
+    failure = addRow<JointRow>(folder.path(), 1, {" 2", "Fixed", "None"});
     ASSERT_TRUE(failure);
     EXPECT_NE(failure->sentence.find("Joint.txt\" could not be written"), std::string::npos);
-    EXPECT_EQ(folder.read("Joint.txt"), "1,Fixed,\"None\"\r\n");
+    EXPECT_EQ(folder.read("Joint.txt"), rows);
 }
 
 TEST(FileSet, ReplacesNoFileIfOneOfThemFails) {
@@ -158,6 +153,21 @@ TEST(FileSet, OneThatWasKilledWhileItsFilesTookTheirPlacesIsFinished) {
     const FileSet next(folder.path());
     EXPECT_EQ(folder.contents(),
               (std::map<std::string, std::string>{{"BM.txt", "new"}, {"TB.txt", "new"}}));
+}
+
+TEST(ReplacingFile, HoldsALongFileThatCameInPieces) {
+    const TemporaryFolder folder;
+    ReplacingFile file(folder / "BM.txt");
+    std::string whole;
+    for (int i = 0; i < 50'000; ++i) {
+        const auto piece = std::to_string(i) + "\r\n";
+        file.advance(std::copy(piece.begin(), piece.end(), file.room(piece.size())));
+        whole += piece;
+    }
+    const std::string large(300'001, 'x');  // more than the buffer holds
+    file.write(large);
+    ASSERT_FALSE(file.commit());
+    EXPECT_EQ(readWhole(folder / "BM.txt"), whole + large);
 }
 
 TEST(ReplacingFile, KeepsLinksAndPermissions) {
