@@ -36,7 +36,7 @@ start_program() {
     export PATH=$work/bin:$PATH XDG_RUNTIME_DIR=$work HOME=$work QT_QPA_PLATFORM=xcb
 
     exec 3<> "$work/display"
-    Xvfb -displayfd 3 -screen 0 1366x768x24 >/dev/null 2>&1 &
+    Xvfb -noreset -displayfd 3 -screen 0 1366x768x24 >/dev/null 2>&1 &
     until_true test -s "$work/display"
     export DISPLAY=:$(head -n 1 "$work/display")
     openbox >/dev/null 2>&1 &

@@ -1,5 +1,8 @@
 #include "report/output/frmPrintOptions.h"
 
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
 #include "forms/main/frmTitle.h"
 #include "forms/results/frmAnalysis.h"
 #include "forms/results/frmMoment1.h"
@@ -114,13 +117,17 @@ TEST_F(PrintOptions, LotusSavesAndOpensTheWholeDocument) {
     EXPECT_EQ(program.window().State(), WindowState::Normal);
 }
 
-TEST_F(PrintOptions, AnOpenDiagramShowsItsMemberAgain) {
+TEST_F(PrintOptions, AnOpenDiagramShowsItsMemberAgainBehindTheOptions) {
     auto& form = Open();
     AnalyseExample();
     auto& diagram = forms().Get<frmMoment1>();
     diagram.cboMember.SetListIndex(0);
+    forms().Show("frmPrintOptions");
+    const auto* front = program.window().Area().activeSubWindow();
     outside.ExpectSave("Save the Document", "");  // the user draws back: nothing is left
     Click(form.cmdLotus);
+    EXPECT_EQ(program.window().Area().activeSubWindow(), front);
+    EXPECT_EQ(program.window().Area().subWindowList(QMdiArea::StackingOrder).last(), front);
     ASSERT_EQ(forms().Loaded<frmMoment1>(), &diagram);
     EXPECT_TRUE(diagram.Visible());
     EXPECT_EQ(diagram.cboMember.ListIndex(), 0);
