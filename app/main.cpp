@@ -2,6 +2,7 @@
 #include <cstdio>
 #include <exception>
 
+#include "core/store/temporary_file.h"
 #include "forms/main/frmTrabeon.h"
 #include "report/output/frmPrintOptions.h"
 #include "report/registration.h"
@@ -10,6 +11,7 @@
 
 int main(int argc, char** argv) try {
     using namespace trabeon;
+    prepareSignals();
     Application application(argc, argv);
     const Desktop desktop;
     const auto folder = Application::Folder();

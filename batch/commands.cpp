@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 
@@ -13,6 +14,8 @@
 #include "core/design/reinforcement_tables.h"
 #include "core/design/shear.h"
 #include "core/store/file_set.h"
+#include "core/store/folder_lock.h"
+#include "core/store/folder_record.h"
 #include "core/store/project_file.h"
 
 namespace trabeon {
@@ -41,10 +44,17 @@ Exit wrongUsage(const Refusal& refusal) {
     return Exit::usage;
 }
 
-Failure unfitFolder(const std::string& folder) {
+/// How long a command waits for another program that is at work in its folder.
+constexpr std::chrono::seconds patience{3};
+
+/// Takes a folder for this command alone, and finishes what a killed one has left there.
+Failure enter(const fs::path& folder, FolderLock& lock) {
     std::error_code error;
     if (!fs::is_directory(folder, error))
-        return Refusal{"\"" + folder + "\" is not a folder."};
+        return Refusal{"\"" + folder.string() + "\" is not a folder."};
+    if (auto failure = lock.take(folder, patience))
+        return failure;
+    finishSet(folder);
     return std::nullopt;
 }
 
@@ -102,7 +112,8 @@ Exit analyseCommand(const CommandLine& line) {
     if (!settings)
         return wrongUsage(settings.refusal());
     const auto& folder = line.operands[0];
-    if (auto failure = unfitFolder(folder))
+    FolderLock lock;
+    if (auto failure = enter(folder, lock))
         return refused(*failure);
     return analysed(folder, *settings, [](double) {}) ? Exit::done : Exit::refused;
 }
@@ -130,11 +141,11 @@ Exit designCommand(const CommandLine& line) {
     if (!misc)
         return wrongUsage(misc.refusal());
     const fs::path folder = line.operands[0];
-    if (auto failure = unfitFolder(folder.string()))
-        return refused(*failure);
     if (auto failure = unfitForDesign(Divisions, *misc))
         return refused(*failure);
-    finishSet(folder);
+    FolderLock lock;
+    if (auto failure = enter(folder, lock))
+        return refused(*failure);
     const auto data = readDesignData(folder, Divisions);
     if (auto failure = unfitStations(data))
         return refused(*failure);
@@ -147,7 +158,8 @@ Exit designCommand(const CommandLine& line) {
 
 Exit tablesCommand(const CommandLine& line) {
     const auto& folder = line.operands[0];
-    if (auto failure = unfitFolder(folder))
+    FolderLock lock;
+    if (auto failure = enter(folder, lock))
         return refused(*failure);
     if (auto failure = writeSteelAreas(folder))
         return refused(*failure);
@@ -155,8 +167,8 @@ Exit tablesCommand(const CommandLine& line) {
     return failure ? refused(*failure) : Exit::done;
 }
 
-/// Reads and checks the project before it makes the folder.
-Outcome<Project> unpackInto(const std::string& file, const fs::path& folder) {
+/// Reads and checks the project before it makes and takes the folder.
+Outcome<Project> unpackInto(const std::string& file, const fs::path& folder, FolderLock& lock) {
     auto project = readProject(file);
     if (!project)
         return project;
@@ -164,29 +176,34 @@ Outcome<Project> unpackInto(const std::string& file, const fs::path& folder) {
     fs::create_directories(folder, error);
     if (!fs::is_directory(folder, error))
         return Refusal{"The folder \"" + folder.string() + "\" cannot be made. Name another one."};
+    if (auto failure = enter(folder, lock))
+        return *failure;
+    if (auto failure = holdsOtherRows(folder))
+        return *failure;
     if (auto failure = writeWorkingFiles(*project, folder))
         return *failure;
     return project;
 }
 
 Exit unpackCommand(const CommandLine& line) {
-    const auto project = unpackInto(line.operands[0], line.operands[1]);
+    FolderLock lock;
+    const auto project = unpackInto(line.operands[0], line.operands[1], lock);
     return project ? Exit::done : refused(project.refusal());
 }
 
 Exit packCommand(const CommandLine& line) {
-    const auto& folder = line.operands[0];
-    if (auto failure = unfitFolder(folder))
+    const fs::path folder = line.operands[0];
+    FolderLock lock;
+    if (auto failure = enter(folder, lock))
         return refused(*failure);
-    finishSet(folder);
-    if (!fs::exists(fs::path(folder) / working_file::joint))
-        return refused({"\"" + folder + "\" holds no beam: there is no Joint.txt in it."});
-    const ProjectTitle untitled;
-    const ProjectTitle title{line.option("--title").value_or(untitled.project),
-                             line.option("--designer").value_or(untitled.designer),
-                             line.option("--beam").value_or(untitled.beamName)};
-    const auto failure = packProject(folder, title, line.operands[1]);
-    return failure ? refused(*failure) : Exit::done;
+    if (!fs::exists(folder / working_file::joint))
+        return refused({"\"" + folder.string() + "\" holds no beam: there is no Joint.txt in it."});
+    const auto kept = titleIn(folder);
+    const ProjectTitle title{line.option("--title").value_or(kept.project),
+                             line.option("--designer").value_or(kept.designer),
+                             line.option("--beam").value_or(kept.beamName)};
+    const auto packed = packProject(folder, title, line.operands[1]);
+    return packed ? Exit::done : refused(packed.refusal());
 }
 
 void show(const ProjectTitle& title, const Analysis& analysis, const fs::path& folder) {
@@ -226,7 +243,8 @@ Exit runCommand(const CommandLine& line) {
     const auto& file = line.operands[0];
     const fs::path folder =
         line.option("--out").value_or(fs::path(file).replace_extension().string());
-    const auto project = unpackInto(file, folder);
+    FolderLock lock;
+    const auto project = unpackInto(file, folder, lock);
     if (!project)
         return refused(project.refusal());
     const auto members = readRows<MemberRow>(folder).size();

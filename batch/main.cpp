@@ -4,6 +4,7 @@
 #include <exception>
 
 #include "batch/commands.h"
+#include "core/store/temporary_file.h"
 
 namespace {
 
@@ -20,6 +21,7 @@ Exit run(const std::vector<std::string>& words) {
 }  // namespace
 
 int main(int count, char** words) {
+    prepareSignals();
     auto end = Exit::refused;
     try {
         end = run({words + 1, words + count});

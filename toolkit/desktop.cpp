@@ -7,8 +7,8 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QImage>
-#include <QLockFile>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QPageSize>
 #include <QPointer>
 #include <QPrinter>
@@ -135,6 +135,18 @@ Answer Desktop::MsgBox(const std::string& text, int style, const std::string& ti
     return AnswerOf(box.exec());
 }
 
+Answer Desktop::AskToReplace(const std::string& text) {
+    const Owner owner;
+    QMessageBox box(QMessageBox::Warning, "Trabeon", QString::fromStdString(text),
+                    QMessageBox::Yes | QMessageBox::No, owner.Window());
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    box.setEscapeButton(QMessageBox::No);
+    const auto* other = box.addButton("Save &As...", QMessageBox::ActionRole);
+    const int button = box.exec();
+    return box.clickedButton() == other ? Answer::Other : AnswerOf(button);
+}
+
 std::string Desktop::AskFile(const FileQuestion& question) {
     const Owner owner;
     QFileDialog dialog(owner.Window(), QString::fromStdString(question.title));
@@ -193,16 +205,6 @@ std::unique_ptr<QPrinter> Desktop::OpenPrinter(const std::string& documentName) 
 
 Paper Desktop::DefaultPaper() const {
     return PaperOf(*DefaultPrinter());
-}
-
-bool Desktop::AnotherCopyRuns(const std::string& folder) {
-    auto lock =
-        std::make_unique<QLockFile>(QDir(QString::fromStdString(folder)).filePath("trabeon.lock"));
-    lock->setStaleLockTime(0);  // a lock whose owner was killed is known by the process alone
-    if (!lock->tryLock(0))
-        return lock->error() == QLockFile::LockFailedError;
-    lock_ = std::move(lock);
-    return false;
 }
 
 void Desktop::End() {

@@ -6,8 +6,6 @@
 
 #include "toolkit/outside.h"
 
-class QLockFile;
-
 namespace trabeon {
 
 class Desktop : public Outside {
@@ -16,6 +14,7 @@ class Desktop : public Outside {
     ~Desktop() override;
 
     Answer MsgBox(const std::string& text, int style, const std::string& title) override;
+    Answer AskToReplace(const std::string& text) override;
     // Starts in the folder of the last answer; before there is one, in the question's or at home.
     std::string AskFile(const FileQuestion& question) override;
     void PutText(const std::string& text) override;
@@ -25,11 +24,9 @@ class Desktop : public Outside {
     bool OpenDocument(const std::string& path) override;
     std::unique_ptr<QPrinter> OpenPrinter(const std::string& documentName) override;
     Paper DefaultPaper() const override;
-    bool AnotherCopyRuns(const std::string& folder) override;
     void End() override;
 
   private:
-    std::unique_ptr<QLockFile> lock_;
     QString lastFolder_;
 };
 

@@ -13,7 +13,7 @@ class QPrinter;
 
 namespace trabeon {
 
-enum class Answer { Ok, Yes, No, Cancel };
+enum class Answer { Ok, Yes, No, Cancel, Other };
 
 struct FileQuestion {
     bool saves = false;
@@ -36,6 +36,9 @@ class Outside {
 
     // Style: the buttons (0 OK, 3 Yes No Cancel, 4 Yes No) plus the picture (16, 32, 48, 64).
     virtual Answer MsgBox(const std::string& text, int style, const std::string& title) = 0;
+    // Whether a file that another program changed is replaced: Yes, No, or Other: the user wants to
+    // save under another name.
+    virtual Answer AskToReplace(const std::string& text) = 0;
     // The full path chosen; empty if the user drew back.
     virtual std::string AskFile(const FileQuestion& question) = 0;
 
@@ -51,8 +54,6 @@ class Outside {
     virtual std::unique_ptr<QPrinter> OpenPrinter(const std::string& documentName) = 0;
     // What OpenPrinter would print on.
     virtual Paper DefaultPaper() const = 0;
-    // Whether a copy runs already from this folder. While it answers no, this one is that copy.
-    virtual bool AnotherCopyRuns(const std::string& folder) = 0;
     // Ends the run once the handler that is under way returns.
     virtual void End() = 0;
 

@@ -1,6 +1,7 @@
 #include "toolkit/print_file.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QPrinter>
 #include <algorithm>
 #include <filesystem>
@@ -9,35 +10,49 @@ namespace trabeon {
 
 namespace {
 
-constexpr const char* Unfinished = ".new";  // behind the name of a file that is being printed
-constexpr qint64 EndRoom = 32;              // characters
+constexpr const char* Name = "print.pdf";
+constexpr qint64 EndRoom = 32;  // characters
+
+bool MayBeReplaced(const QFileInfo& target) {
+    constexpr auto AnyWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    if (!target.exists())
+        return !target.isSymLink();
+    return target.isFile() && target.isWritable() && (target.permissions() & AnyWrite) != 0;
+}
 
 }  // namespace
 
-PrintFile::PrintFile(QPrinter& printer) : file_(printer.outputFileName()) {
-    if (!file_.isEmpty())
-        printer.setOutputFileName(file_ + Unfinished);
-}
-
-PrintFile::~PrintFile() {
-    if (!file_.isEmpty())
-        QFile::remove(file_ + Unfinished);
+PrintFile::PrintFile(QPrinter& printer) : target_(printer.outputFileName()) {
+    if (target_.isEmpty())
+        return;
+    const QFileInfo link(target_);
+    if (link.isSymLink() && link.exists())
+        target_ = link.canonicalFilePath();
+    fresh_.emplace(QFileInfo(target_).absolutePath() + "/.trabeon-XXXXXX");
+    printer.setOutputFileName(fresh_->filePath(Name));
 }
 
 // The engine is silent about a disk that fills up, but then the end is missing.
-bool PrintFile::TakePlace() const {
-    if (file_.isEmpty())
-        return true;
-    QFile fresh(file_ + Unfinished);
-    if (!fresh.open(QIODevice::ReadOnly))
+bool PrintFile::IsWhole() const {
+    QFile print(fresh_->filePath(Name));
+    if (!fresh_->isValid() || !print.open(QIODevice::ReadOnly))
         return false;
-    fresh.seek(std::max<qint64>(0, fresh.size() - EndRoom));
-    const bool whole = fresh.read(EndRoom).contains("%%EOF");
-    fresh.close();
+    print.seek(std::max<qint64>(0, print.size() - EndRoom));
+    return print.read(EndRoom).contains("%%EOF");
+}
+
+bool PrintFile::TakePlace() const {
+    if (target_.isEmpty())
+        return true;
+    const QFileInfo target(target_);
+    if (!IsWhole() || !MayBeReplaced(target))
+        return false;
+    if (target.exists())
+        QFile::setPermissions(fresh_->filePath(Name), target.permissions());
     std::error_code error;
-    if (whole)
-        std::filesystem::rename(fresh.fileName().toStdString(), file_.toStdString(), error);
-    return whole && !error;
+    std::filesystem::rename(QFile::encodeName(fresh_->filePath(Name)).toStdString(),
+                            QFile::encodeName(target_).toStdString(), error);
+    return !error;
 }
 
 }  // namespace trabeon

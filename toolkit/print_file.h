@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QString>
+#include <QTemporaryDir>
+#include <optional>
 
 class QPrinter;
 
@@ -9,18 +11,23 @@ namespace trabeon {
 
 class PrintFile {
   public:
-    // Where the printer prints to a file it gets another name beside it; else nothing is done.
+    // Where the printer prints to a file, it prints into a folder of its own beside that file, whose
+    // name nobody can guess and where nobody else can write.
     explicit PrintFile(QPrinter& printer);
     // What did not take its place goes.
-    ~PrintFile();
+    ~PrintFile() = default;
     PrintFile(const PrintFile&) = delete;
     PrintFile& operator=(const PrintFile&) = delete;
 
-    // When the print has ended. False: the file is not whole, and the old one stands.
+    // When the print has ended. False: the print is not whole, or the old file is no regular file
+    // or write-protected; the old file then stays.
     [[nodiscard]] bool TakePlace() const;
 
   private:
-    QString file_;  // empty with a real printer
+    [[nodiscard]] bool IsWhole() const;
+
+    QString target_;                      // empty with a real printer
+    std::optional<QTemporaryDir> fresh_;  // holds the print
 };
 
 }  // namespace trabeon

@@ -1,8 +1,10 @@
 #include "core/analysis/result_files.h"
 
+#include <array>
 #include <cstring>
 
 #include "core/store/file_set.h"
+#include "core/store/folder_record.h"
 #include "core/text/number_masks.h"
 #include "core/text/number_text.h"
 
@@ -45,15 +47,48 @@ void writeRow(ReplacingFile& file, const Station& station) {
     file.advance(put(at, "\r\n"));
 }
 
-/// The load files in normal form, and the scratch twins that the regrouping leaves behind. A second
-/// analysis finds them so, and leaves them alone.
+/// The four input files, as they are and as the analysis leaves them.
+struct InputTexts {
+    std::string joints, members, points, udls;
+
+    [[nodiscard]] std::uint64_t fingerprint() const {
+        return trabeon::fingerprint({joints, members, points, udls});
+    }
+};
+
+Outcome<InputTexts> readInput(const std::filesystem::path& folder) {
+    InputTexts input;
+    std::array texts{&input.joints, &input.members, &input.points, &input.udls};
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        auto text = readFile(folder / inputFiles[i]);
+        if (!text)
+            return text.refusal();
+        *texts[i] = std::move(*text);
+    }
+    return input;
+}
+
+/// A load file in normal form, and the scratch twin that the regrouping leaves. A second analysis
+/// finds them so, and leaves them alone.
 template <class Load>
 void writeLoads(FileSet& files, const std::filesystem::path& folder,
-                const MemberLoads<Load>& loads) {
-    const auto text = textOf(loads.rows, Description::bare);
-    for (const auto name : {Load::Row::scratch, Load::Row::file})
-        if (readWhole(folder / name) != text)
-            files.add(name).write(text);
+                const MemberLoads<Load>& loads, std::string& text) {
+    auto normal = textOf(loads.rows, Description::bare);
+    if (readWhole(folder / Load::Row::scratch) != normal)
+        files.add(Load::Row::scratch).write(normal);
+    if (text != normal)
+        files.add(Load::Row::file).write(normal);
+    text = std::move(normal);
+}
+
+/// Rows that a project file put here still come from there once they are in normal form.
+void writeRecord(FileSet& files, const std::filesystem::path& folder, std::uint64_t before,
+                 std::uint64_t after) {
+    auto record = readRecord(folder);
+    if (before == after || record.unpackedInput != before)
+        return;
+    record.unpackedInput = after;
+    files.add(working_file::record).write(textOf(record));
 }
 
 }  // namespace
@@ -104,17 +139,22 @@ std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
             table.emplace(files.add(working_file::balanceTable));
         table->write(row);
     };
-    if (const auto failure = unreadable(folder, inputFiles)) {
-        outputs.refuse(*failure);
+    auto input = readInput(folder);
+    if (!input) {
+        outputs.refuse(input.refusal());
         return std::nullopt;
     }
-    auto analysis = analyse(readBeamRows(folder), settings, writeRow, outputs);
+    const auto before = input->fingerprint();
+    auto analysis = analyse({rowsOf<JointRow>(input->joints), rowsOf<MemberRow>(input->members),
+                             rowsOf<PointRow>(input->points), rowsOf<UdlRow>(input->udls)},
+                            settings, writeRow, outputs);
     if (!analysis)
         return std::nullopt;
     writeStations(files.add(working_file::stations), *analysis);
     writeMaxima(files.add(working_file::maxima), *analysis);
-    writeLoads(files, folder, analysis->points);
-    writeLoads(files, folder, analysis->udls);
+    writeLoads(files, folder, analysis->points, input->points);
+    writeLoads(files, folder, analysis->udls, input->udls);
+    writeRecord(files, folder, before, input->fingerprint());
     if (const auto failure = files.commit()) {
         outputs.refuse(*failure);
         return std::nullopt;

@@ -52,7 +52,10 @@ Rows inOrder(const Rows& rows, const BeamExtent& extent) {
 Failure addDimensions(const std::filesystem::path& folder, std::size_t position,
                       BeamDimensionRow row, SectionRange sections,
                       std::optional<BeamExtent> order) {
-    auto rows = readRows<BeamDimensionRow>(folder);
+    auto found = rowsToChange<BeamDimensionRow>(folder);
+    if (!found)
+        return found.refusal();
+    auto& rows = *found;
     auto place = std::min(position, rows.size());
     for (auto section = sections.first; section <= sections.last; ++section) {
         row.Section = generatedText(static_cast<double>(section));

@@ -1,6 +1,9 @@
 #include "core/store/file_set.h"
 
+#include <algorithm>
+#include <cstdio>
 #include <utility>
+#include <vector>
 
 #include "core/store/working_files.h"
 #include "core/text/field_reader.h"
@@ -8,40 +11,75 @@
 namespace trabeon {
 namespace {
 
-constexpr std::string_view unfinishedSet = "Unfinished.set";
+namespace fs = std::filesystem;
+
+/// The working file that a temporary file was written for; nothing for any other name.
+std::optional<std::string_view> workingFileOf(std::string_view temporary) {
+    const auto target = targetOfTemporary(temporary);
+    return target && isWorkingFile(*target) ? target : std::nullopt;
+}
+
+/// The temporary file is beside the file that it replaces, which a link may name.
+void takePlace(const fs::path& target, std::string_view temporary) {
+    std::error_code missing;
+    const auto file = fs::weakly_canonical(target, missing);
+    if (!missing)
+        std::rename((file.parent_path() / temporary).c_str(), file.c_str());
+}
+
+void removeLeftBehind(const fs::path& folder) {
+    std::vector<fs::path> left;
+    std::error_code error;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error))
+        if (workingFileOf(entry->path().filename().string()))
+            left.push_back(entry->path());
+    for (const auto& file : left)
+        MurderFile(file);
+}
 
 }  // namespace
 
-FileSet::FileSet(std::filesystem::path folder) : folder_(std::move(folder)) {
+FileSet::FileSet(fs::path folder) : folder_(std::move(folder)) {
     finishSet(folder_);
 }
 
 ReplacingFile& FileSet::add(std::string_view name) {
-    (names_ += name) += '\n';
     return files_.emplace_back(folder_ / name);
 }
 
 Failure FileSet::commit() {
-    for (auto& file : files_)
+    std::string names;
+    for (auto& file : files_) {
         if (auto failure = file.finish())
             return failure;
-    if (auto failure = replaceFile(folder_ / unfinishedSet, names_))
+        (names += file.temporary().path().filename().string()) += '\n';
+    }
+    const SignalsWait wait;
+    const auto list = folder_ / working_file::unfinishedSet;
+    if (auto failure = replaceFile(list, names))
         return failure;
+    for (auto& file : files_)
+        file.temporary().keepOnSignal();
     Failure failure;
     for (auto file = files_.begin(); file != files_.end() && !failure; ++file)
         failure = file->commit();
-    MurderFile(folder_ / unfinishedSet);
+    MurderFile(list);
     return failure;
 }
 
-void finishSet(const std::filesystem::path& folder) {
-    const auto names = readWhole(folder / unfinishedSet);
-    if (names.empty())
-        return;
+void finishSet(const fs::path& folder) {
+    const auto list = folder / working_file::unfinishedSet;
+    const auto names = readWhole(list);
     FieldReader reader(names);
-    while (!reader.atEnd())
-        replaceByLeftBehind(folder / reader.nextLine());
-    MurderFile(folder / unfinishedSet);
+    while (!reader.atEnd()) {
+        const auto name = reader.nextLine();
+        if (const auto target = workingFileOf(name))
+            takePlace(folder / *target, name);
+    }
+    if (!names.empty())
+        MurderFile(list);
+    removeLeftBehind(folder);
 }
 
 }  // namespace trabeon

@@ -10,14 +10,15 @@
 
 namespace trabeon {
 
-/// New content for several files of a folder, none of which is replaced before all of it is
-/// written. While they are replaced their names stand in "Unfinished.set": a process that is killed
-/// then has left them all whole beside the old ones, and finishSet() goes on where it stopped.
+/// New content for several working files of a folder. No file is replaced before all of the new
+/// content is written. While the files are replaced, "Unfinished.set" names their temporary files:
+/// if the process is killed then, finishSet() does the rest.
 class FileSet {
   public:
     /// Finishes a set that was begun in the folder.
     explicit FileSet(std::filesystem::path folder);
 
+    /// `name` is one of workingFiles.
     ReplacingFile& add(std::string_view name);
 
     /// Every file takes its place, in the order in which they were added.
@@ -26,11 +27,11 @@ class FileSet {
   private:
     std::filesystem::path folder_;
     std::deque<ReplacingFile> files_;
-    std::string names_;  // each on a line
 };
 
-/// To be called before the files of a folder are read that a killed process may have left. Silent,
-/// also where nothing was begun.
+/// To be called by whoever holds the folder's lock, before reading files that a killed process may
+/// have left: finishes a set that was begun, and removes the temporary files of working files.
+/// Only names of working files are believed, whatever "Unfinished.set" says. Silent.
 void finishSet(const std::filesystem::path& folder);
 
 }  // namespace trabeon

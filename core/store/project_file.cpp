@@ -4,6 +4,7 @@
 #include <array>
 
 #include "core/store/file_set.h"
+#include "core/store/folder_record.h"
 #include "core/store/rows.h"
 
 namespace trabeon {
@@ -155,6 +156,28 @@ bool breaksAField(std::string_view title) {
     return title.find_first_of("\"\r\n") != title.npos;
 }
 
+std::string titleLines(const ProjectTitle& title) {
+    std::string lines;
+    for (const auto& text : {title.project, title.designer, title.beamName})
+        appendLine(lines, '"' + text + '"');
+    return lines;
+}
+
+Outcome<std::string> projectText(const std::filesystem::path& file) {
+    std::error_code missing;
+    if (!std::filesystem::exists(file, missing))
+        return Refusal{"\"" + file.string() + "\" is not there. Choose a project file (*.TB)."};
+    return readFile(file);
+}
+
+Outcome<Project> checkedProject(std::string_view text, const std::filesystem::path& file) {
+    auto project = unpackedProject(text);
+    if (!project)
+        return Refusal{"\"" + file.string() + "\" is not a whole project file: " +
+                       project.refusal().sentence + ". Mend that line; nothing was changed."};
+    return project;
+}
+
 }  // namespace
 
 Outcome<Project> unpackedProject(std::string_view text) {
@@ -162,33 +185,36 @@ Outcome<Project> unpackedProject(std::string_view text) {
 }
 
 Outcome<Project> readProject(const std::filesystem::path& file) {
-    std::error_code missing;
-    if (!std::filesystem::exists(file, missing))
-        return Refusal{"\"" + file.string() + "\" is not there. Choose a project file (*.TB)."};
-    if (auto failure = unreadable(file))
-        return *failure;
-    auto project = unpackedProject(readWhole(file));
-    if (!project)
-        return Refusal{"\"" + file.string() + "\" is not a whole project file: " +
-                       project.refusal().sentence + ". Mend that line; nothing was changed."};
-    return project;
+    const auto text = projectText(file);
+    if (!text)
+        return text.refusal();
+    return checkedProject(*text, file);
 }
 
 Failure writeWorkingFiles(const Project& project, const std::filesystem::path& folder) {
     FileSet files(folder);
     for (const auto& [name, text] : packedFiles)
         files.add(name).write(project.*text);
+    files.add(working_file::title).write(titleLines(project.title));
+    FolderRecord record;
+    record.unpackedInput =
+        fingerprint({project.joints, project.members, project.points, project.udls});
+    record.unpackedDimensions = fingerprint(project.beamDimensions);
+    files.add(working_file::record).write(textOf(record));
     return files.commit();
 }
 
-Outcome<ProjectTitle> unpackProject(const std::filesystem::path& file,
-                                    const std::filesystem::path& folder) {
-    const auto project = readProject(file);
+Outcome<OpenedProject> unpackProject(const std::filesystem::path& file,
+                                     const std::filesystem::path& folder) {
+    const auto text = projectText(file);
+    if (!text)
+        return text.refusal();
+    const auto project = checkedProject(*text, file);
     if (!project)
         return project.refusal();
     if (auto failure = writeWorkingFiles(*project, folder))
         return *failure;
-    return project->title;
+    return OpenedProject{project->title, fingerprint(*text)};
 }
 
 std::string captionName(std::string_view fullPath) {
@@ -199,15 +225,32 @@ std::string captionName(std::string_view fullPath) {
 Outcome<Project> projectIn(const std::filesystem::path& folder) {
     Project project;
     for (const auto& [name, text] : packedFiles) {
-        if (auto failure = unreadable(folder / name))
-            return *failure;
-        project.*text = readWhole(folder / name);
+        auto found = readFile(folder / name);
+        if (!found)
+            return found.refusal();
+        project.*text = std::move(*found);
     }
+    project.title = titleIn(folder);
     return project;
 }
 
-Failure packProject(const std::filesystem::path& folder, const ProjectTitle& title,
-                    const std::filesystem::path& file) {
+ProjectTitle titleIn(const std::filesystem::path& folder) {
+    const auto lines = readWhole(folder / working_file::title);
+    ProjectTitle title;
+    if (lines.empty())
+        return title;
+    FieldReader reader(lines);
+    for (auto* text : {&title.project, &title.designer, &title.beamName})
+        *text = reader.next();
+    return title;
+}
+
+void keepTitle(const std::filesystem::path& folder, const ProjectTitle& title) {
+    static_cast<void>(replaceFile(folder / working_file::title, titleLines(title)));
+}
+
+Outcome<std::uint64_t> packProject(const std::filesystem::path& folder, const ProjectTitle& title,
+                                   const std::filesystem::path& file) {
     for (const auto& text : {title.project, title.designer, title.beamName})
         if (breaksAField(text))
             return Refusal{"The title text " + text +
@@ -222,7 +265,17 @@ Failure packProject(const std::filesystem::path& folder, const ProjectTitle& tit
             "The project was not saved, for it could not be opened again: of what would "
             "be written, " +
             again.refusal().sentence + ". Mend that row, then save again."};
-    return replaceFile(file, text);
+    if (auto failure = replaceFile(file, text, Survives::powerCut))
+        return *failure;
+    return fingerprint(text);
+}
+
+OnDisk comparedWithDisk(const std::filesystem::path& file, std::uint64_t expected) {
+    std::error_code error;
+    if (!std::filesystem::exists(file, error))
+        return OnDisk::gone;
+    const auto text = readFile(file);
+    return text && fingerprint(*text) == expected ? OnDisk::same : OnDisk::changed;
 }
 
 }  // namespace trabeon

@@ -1,6 +1,7 @@
 // The project file, *.TB: the title and six working files packed into one text file.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -41,20 +42,38 @@ struct Project {
 [[nodiscard]] Failure writeWorkingFiles(const Project& project,
                                         const std::filesystem::path& folder);
 
-/// The working files' texts as they stand in a folder, under the title of a new project; missing
-/// ones are empty. Refuses files that cannot be read.
+/// The texts of a folder's working files and its title; missing ones are empty, a missing title is
+/// that of a new project. Refuses files that cannot be read.
 [[nodiscard]] Outcome<Project> projectIn(const std::filesystem::path& folder);
 
-/// Packs the working files of a folder. Refuses a title text that holds a double quote or a line
-/// end, working files that cannot be read or would make a project that cannot be opened again, and
-/// a file that cannot be written; the old file then stays as it was.
-[[nodiscard]] Failure packProject(const std::filesystem::path& folder, const ProjectTitle& title,
-                                  const std::filesystem::path& file);
+/// Keeps the title with the working files ("Title.txt"), so that a run that ends without Exit does
+/// not lose it. Silent: the title is still in the window.
+void keepTitle(const std::filesystem::path& folder, const ProjectTitle& title);
+
+/// The title that was kept; that of a new project where there is none.
+[[nodiscard]] ProjectTitle titleIn(const std::filesystem::path& folder);
+
+/// Packs the working files of a folder, flushed to the disk. Refuses a title text that holds a
+/// double quote or a line end, working files that cannot be read or would make a project that
+/// cannot be opened again, and a file that cannot be written; the old file then stays as it was.
+/// Returns the fingerprint of the new file.
+[[nodiscard]] Outcome<std::uint64_t> packProject(const std::filesystem::path& folder,
+                                                 const ProjectTitle& title,
+                                                 const std::filesystem::path& file);
+
+struct OpenedProject {
+    ProjectTitle title;
+    std::uint64_t fingerprint = 0;  // of the file as it was read
+};
 
 /// Unpacks a project file into a folder: reads it, then writes the working files. If it is refused
 /// no working file changes.
-[[nodiscard]] Outcome<ProjectTitle> unpackProject(const std::filesystem::path& file,
-                                                  const std::filesystem::path& folder);
+[[nodiscard]] Outcome<OpenedProject> unpackProject(const std::filesystem::path& file,
+                                                   const std::filesystem::path& folder);
+
+/// How a project file compares with the fingerprint of what was read from it or written to it.
+enum class OnDisk { same, changed, gone };
+[[nodiscard]] OnDisk comparedWithDisk(const std::filesystem::path& file, std::uint64_t fingerprint);
 
 /// The name that the main window's caption shows: what follows the leftmost separator of a full
 /// path.

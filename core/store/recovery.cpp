@@ -24,8 +24,8 @@ bool endedWithoutExit(const fs::path& folder) {
     });
 }
 
-/// Whether every line of a text stands in the other, in the same order.
-bool stands(std::string_view text, std::string_view other) {
+/// Whether every line of a text is in the other, in the same order.
+bool isWithin(std::string_view text, std::string_view other) {
     FieldReader wanted(text), found(other);
     while (!wanted.atEnd()) {
         const auto line = wanted.nextLine();
@@ -35,6 +35,21 @@ bool stands(std::string_view text, std::string_view other) {
         while (found.nextLine() != line);
     }
     return true;
+}
+
+/// "Recovered.TB", "Recovered 2.TB" ...: whatever earlier starts have recovered.
+bool isRecovered(const std::string& name) {
+    return name == recoveredProject || (name.starts_with("Recovered ") && name.ends_with(".TB"));
+}
+
+bool wasRecoveredBefore(std::string_view text, const fs::path& folder) {
+    std::error_code error;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error))
+        if (isRecovered(entry->path().filename().string()) &&
+            isWithin(text, readWhole(entry->path())))
+            return true;
+    return false;
 }
 
 /// Keeps what an earlier start has recovered, under the first free name.
@@ -63,11 +78,11 @@ Failure recoverRows(const fs::path& folder) {
         return project.refusal();
     const auto text = rescuedText(*project);
     const auto target = folder / recoveredProject;
-    if (stands(text, packedText({})) || stands(text, readWhole(target)))
+    if (isWithin(text, packedText({})) || wasRecoveredBefore(text, folder))
         return std::nullopt;
     if (auto failure = setAside(target))
         return failure;
-    return replaceFile(target, text);
+    return replaceFile(target, text, Survives::powerCut);
 }
 
 }  // namespace trabeon

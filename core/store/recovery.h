@@ -10,12 +10,11 @@ namespace trabeon {
 
 inline constexpr std::string_view recoveredProject = "Recovered.TB";
 
-/// Packs the rows of a run that did not come to Exit into "Recovered.TB" beside them; the title is
-/// lost. Nothing is done if there was an Exit, which leaves none of the files that it deletes, or
-/// if all that would be packed is empty or stands in "Recovered.TB" already, as after a start that
-/// was killed while it emptied the files. Lines that are no rows are packed as they stand, so that
-/// they can be mended by hand. Another "Recovered.TB" that is there is kept under the first free
-/// name of "Recovered 2.TB", "Recovered 3.TB" ...
+/// Packs the rows and the title of a run that did not come to Exit into "Recovered.TB" beside them.
+/// Nothing is done if there was an Exit, which leaves none of the files that it deletes, or if
+/// everything that would be packed is empty or is in a "Recovered.TB" or "Recovered N.TB" already.
+/// Lines that are no rows are packed as they are, so that they can be mended by hand. An older
+/// "Recovered.TB" is kept under the first free name of "Recovered 2.TB", "Recovered 3.TB" ...
 ///
 /// Refuses files that cannot be read or written: they must not be emptied then.
 [[nodiscard]] Failure recoverRows(const std::filesystem::path& folder);

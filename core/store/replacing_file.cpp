@@ -1,53 +1,72 @@
 #include "core/store/replacing_file.h"
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <cerrno>
-#include <utility>
+#include <system_error>
 
 namespace trabeon {
 namespace {
 
-std::filesystem::path besides(std::filesystem::path target) {
-    return target += ".new";
+namespace fs = std::filesystem;
+
+std::string quoted(const fs::path& file) {
+    return '"' + file.string() + '"';
 }
 
-/// The file that a link points to, or the path itself.
-std::filesystem::path resolved(std::filesystem::path target) {
+Refusal unwritten(const fs::path& file, int error) {
+    return {quoted(file) + " could not be written (" + std::generic_category().message(error) +
+            "). The old file is unchanged. Make room or choose another folder, then try again."};
+}
+
+/// The file that a link points to, or the path itself; refuses a link that points to nothing.
+Outcome<fs::path> resolved(const fs::path& target) {
     std::error_code error;
-    if (!std::filesystem::is_symlink(target, error))
+    if (!fs::is_symlink(target, error))
         return target;
-    auto file = std::filesystem::canonical(target, error);
-    return error ? target : file;
+    auto file = fs::canonical(target, error);
+    if (!error)
+        return file;
+    return Refusal{quoted(target) + " is a link to a file that is not there (" + error.message() +
+                   "). Remove the link or choose another name; nothing was changed."};
 }
 
-void keepPermissions(const std::filesystem::path& from, const std::filesystem::path& to) {
-    std::error_code missing;
-    const auto old = std::filesystem::status(from, missing);
-    if (std::filesystem::is_regular_file(old))
-        std::filesystem::permissions(to, old.permissions(), missing);
+bool isWriteProtected(const fs::path& file, const struct stat& status) {
+    constexpr mode_t anyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
+    return (status.st_mode & anyWrite) == 0 || ::euidaccess(file.c_str(), W_OK) != 0;
+}
+
+/// Why a file must not be replaced; a file that is not there may be written.
+Failure unfitTarget(const fs::path& file) {
+    struct stat status {};
+    if (::stat(file.c_str(), &status) != 0)
+        return std::nullopt;
+    if (!S_ISREG(status.st_mode))
+        return Refusal{quoted(file) + " is " + (S_ISDIR(status.st_mode) ? "a folder" : "a device") +
+                       ", not a file. Choose another name; nothing was changed."};
+    if (isWriteProtected(file, status))
+        return Refusal{quoted(file) +
+                       " is write-protected. Allow writing to it or choose another name; nothing "
+                       "was changed."};
+    return std::nullopt;
 }
 
 }  // namespace
 
-ReplacingFile::ReplacingFile(std::filesystem::path target)
-    : target_(resolved(std::move(target))),
-      fresh_(besides(target_)),
+ReplacingFile::ReplacingFile(const fs::path& target, Survives survives)
+    : target_(target),
+      survives_(survives),
       buffer_(std::make_unique_for_overwrite<char[]>(capacity)) {
-    file_ = std::fopen(fresh_.string().c_str(), "wb");
-    opened_ = file_ != nullptr;
-    if (opened_)
-        std::setvbuf(file_, nullptr, _IONBF, 0);
-    else
-        noteError();
-}
-
-ReplacingFile::~ReplacingFile() {
-    if (committed_)
+    const auto file = resolved(target);
+    if (!file) {
+        wrong_ = file.refusal();
         return;
-    if (file_ != nullptr)
-        std::fclose(file_);
-    std::error_code ignored;
-    if (opened_)
-        std::filesystem::remove(fresh_, ignored);
+    }
+    target_ = *file;
+    wrong_ = unfitTarget(target_);
+    if (!wrong_)
+        note(fresh_.create(target_));
 }
 
 void ReplacingFile::write(std::string_view text) {
@@ -55,69 +74,55 @@ void ReplacingFile::write(std::string_view text) {
         return;
     if (text.size() > capacity - used_)
         flush();
-    if (text.size() > capacity) {
-        if (file_ != nullptr && std::fwrite(text.data(), 1, text.size(), file_) != text.size())
-            noteError();
-        return;
-    }
-    used_ += text.copy(buffer_.get() + used_, text.size());
+    if (text.size() > capacity)
+        put(text);
+    else
+        used_ += text.copy(buffer_.get() + used_, text.size());
 }
 
 void ReplacingFile::flush() {
-    if (file_ != nullptr && used_ > 0 && std::fwrite(buffer_.get(), 1, used_, file_) != used_)
-        noteError();
+    put({buffer_.get(), used_});
     used_ = 0;
+}
+
+void ReplacingFile::put(std::string_view text) {
+    if (!wrong_)
+        note(fresh_.write(text));
 }
 
 Failure ReplacingFile::finish() {
     if (finished_)
         return std::nullopt;
     flush();
-    std::error_code missing;
-    if (error_ == 0 && std::filesystem::is_directory(target_, missing))
-        error_ = EISDIR;  // a rename over it would fail, and too late for a set of files
-    if (file_ != nullptr && std::fclose(std::exchange(file_, nullptr)) != 0)
-        noteError();
-    if (error_ != 0)
-        return refusal();
-    keepPermissions(target_, fresh_);
-    finished_ = true;
-    return std::nullopt;
+    if (!wrong_)
+        wrong_ = unfitTarget(target_);  // a rename would fail, and too late for a set of files
+    if (!wrong_ && survives_ == Survives::powerCut)
+        note(fresh_.flushToDisk());
+    note(fresh_.close());
+    finished_ = !wrong_;
+    return wrong_;
 }
 
 Failure ReplacingFile::commit() {
     if (auto failure = finish())
         return failure;
-    std::error_code error;
-    std::filesystem::rename(fresh_, target_, error);
-    if (error) {
-        error_ = error.value();
-        return refusal();
-    }
-    committed_ = true;
-    return std::nullopt;
+    note(fresh_.takePlace());
+    if (wrong_ || survives_ == Survives::processEnd)
+        return wrong_;
+    if (const int error = flushFolder(target_.parent_path()))
+        wrong_ = Refusal{quoted(target_) + " was written, but its disk does not confirm that it " +
+                         "would survive a power cut (" + std::generic_category().message(error) +
+                         "). Save it on another disk too."};
+    return wrong_;
 }
 
-void ReplacingFile::noteError() {
-    if (error_ == 0)
-        error_ = errno != 0 ? errno : EIO;
+void ReplacingFile::note(int error) {
+    if (error != 0 && !wrong_)
+        wrong_ = unwritten(target_, error);
 }
 
-Refusal ReplacingFile::refusal() const {
-    return {"\"" + target_.string() + "\" could not be written (" +
-            std::generic_category().message(error_) +
-            "). What stood there before is unchanged; make room or choose another folder, then try "
-            "again."};
-}
-
-void replaceByLeftBehind(const std::filesystem::path& target) {
-    const auto file = resolved(target);
-    std::error_code missing;
-    std::filesystem::rename(besides(file), file, missing);
-}
-
-Failure replaceFile(const std::filesystem::path& target, std::string_view text) {
-    ReplacingFile file(target);
+Failure replaceFile(const fs::path& target, std::string_view text, Survives survives) {
+    ReplacingFile file(target, survives);
     file.write(text);
     return file.commit();
 }

@@ -1,24 +1,30 @@
 // A file that takes the place of an old one whole, or not at all.
 #pragma once
 
-#include <cstdio>
 #include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
 
 #include "core/outcome.h"
+#include "core/store/temporary_file.h"
 
 namespace trabeon {
 
-/// New content is written to "NAME.new" beside the target and renamed over it by commit(); the new
-/// file keeps the old one's permissions, and a link keeps pointing to the file that is replaced.
-/// Until then, and if anything fails or the process dies, the old file stands as it was. One that
-/// is destroyed before its commit removes what it wrote.
+/// Whether a file that was written survives a power cut (it is slow: the program waits for the
+/// disk), or only the end of the process.
+enum class Survives { processEnd, powerCut };
+
+/// New content goes to a temporary file beside the target, and commit() renames it over the target.
+/// Until then, and if anything fails or the process dies, the old file stays as it was. A link
+/// stays, and the file that it points to is replaced.
+///
+/// Refused are a target that is no regular file (a folder, a device, a pipe), a link that points to
+/// nothing, and a file that is write-protected, for root as well.
 class ReplacingFile {
   public:
-    explicit ReplacingFile(std::filesystem::path target);
-    ~ReplacingFile();
+    explicit ReplacingFile(const std::filesystem::path& target,
+                           Survives survives = Survives::processEnd);
     ReplacingFile(const ReplacingFile&) = delete;
     ReplacingFile& operator=(const ReplacingFile&) = delete;
 
@@ -32,35 +38,34 @@ class ReplacingFile {
     }
     void advance(const char* end) { used_ = static_cast<std::size_t>(end - buffer_.get()); }
 
-    /// All that was written is with the file system; a full disk shows here at the latest.
+    /// Everything that was written is in the temporary file; a full disk shows here at the latest.
     [[nodiscard]] Failure finish();
 
     /// Takes the old file's place; finishes first if that is not done.
     [[nodiscard]] Failure commit();
 
+    /// The temporary file, for a set of files that takes its place together.
+    [[nodiscard]] TemporaryFile& temporary() { return fresh_; }
+
   private:
     static constexpr std::size_t capacity = 128 * 1024;
 
     void flush();
-    void noteError();
-    [[nodiscard]] Refusal refusal() const;
+    void put(std::string_view text);
+    /// Keeps the first failure.
+    void note(int error);
 
     std::filesystem::path target_;
-    std::filesystem::path fresh_;
-    std::FILE* file_ = nullptr;
+    TemporaryFile fresh_;
+    Survives survives_;
     std::unique_ptr<char[]> buffer_;
     std::size_t used_ = 0;
-    int error_ = 0;  // errno of the first failure
-    bool opened_ = false;
+    Failure wrong_;
     bool finished_ = false;
-    bool committed_ = false;
 };
 
-/// What a killed process had written whole beside the target takes its place. Silent, also where
-/// nothing was left.
-void replaceByLeftBehind(const std::filesystem::path& target);
-
 /// Replaces a file by this text in one go.
-[[nodiscard]] Failure replaceFile(const std::filesystem::path& target, std::string_view text);
+[[nodiscard]] Failure replaceFile(const std::filesystem::path& target, std::string_view text,
+                                  Survives survives = Survives::processEnd);
 
 }  // namespace trabeon

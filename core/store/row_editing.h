@@ -4,6 +4,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 
 #include "core/outcome.h"
@@ -13,33 +14,43 @@
 
 namespace trabeon {
 
+/// The rows of a file that is about to be rewritten. Refuses a file that cannot be read, and one
+/// that another program has taken away: its rows would be lost.
+template <class Row>
+[[nodiscard]] Outcome<std::vector<Row>> rowsToChange(const std::filesystem::path& folder) {
+    if (auto failure = missing(folder, std::array{Row::file}))
+        return *failure;
+    const auto text = readFile(folder / Row::file);
+    if (!text)
+        return text.refusal();
+    return rowsOf<Row>(*text);
+}
+
 /// Writes the rows to the scratch twin and takes it over into the working file.
 template <class Row>
 [[nodiscard]] Failure rewriteRows(const std::filesystem::path& folder,
                                   const std::vector<Row>& rows) {
-    if (auto failure = unreadable(folder / Row::file))
-        return failure;
     const auto scratch = folder / Row::scratch;
     const auto text = textOf(rows, Description::quoted);
     if (auto failure = replaceFile(scratch, text))
         return failure;
     DuplicateFile(scratch, folder / Row::file);
-    if (readWhole(folder / Row::file) != text)  // the copy is silent
-        return Refusal{"\"" + (folder / Row::file).string() +
-                       "\" could not be written. It holds the rows that it held before; make room "
-                       "on its disk, then try again."};
-    return std::nullopt;
+    if (readWhole(folder / Row::file) == text)
+        return std::nullopt;
+    return replaceFile(folder / Row::file, text);  // the copy was silent; this says why
 }
 
-/// Puts a row behind the first `position` rows of its file; the others stay as they were read.
+/// Puts a row after the first `position` rows of its file; the others stay as they were read.
 /// A position beyond the end counts as the end.
 template <class Row>
 [[nodiscard]] Failure addRow(const std::filesystem::path& folder, std::size_t position,
                              const Row& row) {
-    auto rows = readRows<Row>(folder);
-    const auto place = std::min(position, rows.size());
-    rows.insert(rows.begin() + static_cast<std::ptrdiff_t>(place), row);
-    return rewriteRows(folder, rows);
+    auto rows = rowsToChange<Row>(folder);
+    if (!rows)
+        return rows.refusal();
+    const auto place = std::min(position, rows->size());
+    rows->insert(rows->begin() + static_cast<std::ptrdiff_t>(place), row);
+    return rewriteRows(folder, *rows);
 }
 
 /// What Remove does to the number field of the rows that stay.
@@ -50,14 +61,16 @@ enum class Numbering { asRead, fromOne };
 template <class Row>
 [[nodiscard]] Failure removeRow(const std::filesystem::path& folder, std::size_t position,
                                 Numbering numbering) {
-    auto rows = readRows<Row>(folder);
-    if (position == 0 || position > rows.size())
+    auto rows = rowsToChange<Row>(folder);
+    if (!rows)
+        return rows.refusal();
+    if (position == 0 || position > rows->size())
         return std::nullopt;
-    rows.erase(rows.begin() + static_cast<std::ptrdiff_t>(position - 1));
+    rows->erase(rows->begin() + static_cast<std::ptrdiff_t>(position - 1));
     if (numbering == Numbering::fromOne)
-        for (std::size_t i = 0; i < rows.size(); ++i)
-            rows[i].*Row::fields.front() = generatedText(static_cast<double>(i + 1));
-    return rewriteRows(folder, rows);
+        for (std::size_t i = 0; i < rows->size(); ++i)
+            (*rows)[i].*Row::fields.front() = generatedText(static_cast<double>(i + 1));
+    return rewriteRows(folder, *rows);
 }
 
 }  // namespace trabeon

@@ -1,67 +1,127 @@
 #include "core/store/working_files.h"
 
-#include <cstdio>
-#include <memory>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
-#include "core/store/replacing_file.h"
+#include <algorithm>
+#include <cerrno>
+#include <cstdint>
+#include <system_error>
+#include <utility>
+
+#include "core/store/file_set.h"
 
 namespace trabeon {
-
 namespace {
 
-using OpenedFile = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+constexpr std::int64_t mostBytes = std::int64_t{2} << 30;
 
-/// Only a regular file: reading a pipe would wait for ever.
-OpenedFile openToRead(const std::filesystem::path& file) {
-    std::error_code missing;
-    const bool regular = std::filesystem::is_regular_file(file, missing);
-    return {regular ? std::fopen(file.string().c_str(), "rb") : nullptr, &std::fclose};
+/// A file that is open for reading, until it goes out of scope.
+class OpenFile {
+  public:
+    /// Without O_NONBLOCK a pipe would wait here for somebody who writes.
+    explicit OpenFile(const std::filesystem::path& file)
+        : descriptor_(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC)) {}
+    ~OpenFile() {
+        if (descriptor_ >= 0)
+            ::close(descriptor_);
+    }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    [[nodiscard]] int descriptor() const { return descriptor_; }
+
+    /// Reads up to `size` bytes: how many, 0 at the end, or -1 with errno.
+    [[nodiscard]] ssize_t read(char* to, std::size_t size) const {
+        ssize_t got = 0;
+        do
+            got = ::read(descriptor_, to, size);
+        while (got < 0 && errno == EINTR);
+        return got;
+    }
+
+  private:
+    int descriptor_;
+};
+
+Refusal unreadable(const std::filesystem::path& file, const std::string& why) {
+    return {'"' + file.string() + "\" cannot be read (" + why +
+            "). Make it a file that you may read; nothing was changed."};
+}
+
+Refusal unreadable(const std::filesystem::path& file, int error) {
+    return unreadable(file, std::generic_category().message(error));
+}
+
+/// Reads to the end, which may lie elsewhere than the file's size says.
+Outcome<std::string> contentOf(const OpenFile& opened, const std::filesystem::path& file,
+                               std::int64_t size) {
+    std::string text;
+    for (auto room = static_cast<std::size_t>(std::min(size, mostBytes)) + 1;;) {
+        const auto filled = text.size();
+        if (filled > mostBytes)
+            return unreadable(file, "it is larger than 2 GiB");
+        text.resize(filled + room);
+        const auto got = opened.read(text.data() + filled, room);
+        if (got < 0)
+            return unreadable(file, errno);
+        text.resize(filled + static_cast<std::size_t>(got));
+        if (got == 0)
+            return text;
+        const bool mayBeMuchMore = static_cast<std::size_t>(got) == room;
+        room = mayBeMuchMore ? std::max<std::size_t>(text.size(), 4096) : 1;
+    }
 }
 
 }  // namespace
 
-std::string readWhole(const std::filesystem::path& file) {
-    const auto opened = openToRead(file);
-    std::string text;
-    if (!opened)
-        return text;
-    std::setvbuf(opened.get(), nullptr, _IONBF, 0);
-    std::error_code unknown;
-    const auto size = std::filesystem::file_size(file, unknown);
-    std::size_t expected = unknown ? 0 : static_cast<std::size_t>(size);
-    for (;;) {  // a file may grow, or not know its size
-        const auto filled = text.size();
-        text.resize(filled + expected + 4096);
-        const auto got = std::fread(text.data() + filled, 1, text.size() - filled, opened.get());
-        const bool ended = filled + got < text.size();
-        text.resize(filled + got);
-        if (ended)
-            return text;
-        expected = text.size();
-    }
+bool isWorkingFile(std::string_view name) {
+    return std::find(workingFiles.begin(), workingFiles.end(), name) != workingFiles.end();
 }
 
-Failure unreadable(const std::filesystem::path& file) {
-    std::error_code missing;
-    if (!std::filesystem::exists(std::filesystem::symlink_status(file, missing)) ||
-        openToRead(file))
-        return std::nullopt;
-    return Refusal{"\"" + file.string() +
-                   "\" cannot be read. Make it a file that you may read; nothing was changed."};
+Outcome<std::string> readFile(const std::filesystem::path& file) {
+    const OpenFile opened(file);
+    struct stat status {};
+    if (opened.descriptor() < 0)
+        return errno == ENOENT ? Outcome<std::string>(std::string()) : unreadable(file, errno);
+    if (::fstat(opened.descriptor(), &status) != 0)
+        return unreadable(file, errno);
+    if (S_ISDIR(status.st_mode))
+        return unreadable(file, "it is a folder");
+    if (!S_ISREG(status.st_mode))
+        return unreadable(file, "it is a device or a pipe");
+    return contentOf(opened, file, status.st_size);
+}
+
+std::string readWhole(const std::filesystem::path& file) {
+    auto text = readFile(file);
+    return text ? std::move(*text) : std::string();
 }
 
 Failure unreadable(const std::filesystem::path& folder, std::span<const std::string_view> names) {
     for (const auto name : names)
-        if (auto failure = unreadable(folder / name))
-            return failure;
+        if (const auto text = readFile(folder / name); !text)
+            return text.refusal();
+    return std::nullopt;
+}
+
+Failure missing(const std::filesystem::path& folder, std::span<const std::string_view> names) {
+    std::error_code error;
+    for (const auto name : names)
+        if (!std::filesystem::exists(folder / name, error))
+            return Refusal{'"' + (folder / name).string() +
+                           "\" has gone: another program took away rows of the open project. Put "
+                           "the file back, or choose New; nothing was changed."};
     return std::nullopt;
 }
 
 void DuplicateFile(const std::filesystem::path& Source, const std::filesystem::path& Target) {
-    std::error_code missing;
-    if (!std::filesystem::is_regular_file(Source, missing))
+    std::error_code error;
+    if (!std::filesystem::exists(Source, error))
         return;
-    static_cast<void>(replaceFile(Target, readWhole(Source)));
+    if (const auto text = readFile(Source))
+        static_cast<void>(replaceFile(Target, *text));
 }
 
 void MurderFile(const std::filesystem::path& file) {
@@ -70,10 +130,20 @@ void MurderFile(const std::filesystem::path& file) {
         std::filesystem::remove(file, ignored);
 }
 
-void CreateNFile(const std::filesystem::path& folder) {
+Failure CreateNFile(const std::filesystem::path& folder) {
+    FileSet files(folder);
     for (const auto name : projectFiles)
-        if (replaceFile(folder / name, {}))  // rather none than the rows of another project
-            MurderFile(folder / name);
+        files.add(name);
+    if (auto failure = files.commit())
+        return failure;
+    MurderFile(folder / working_file::title);
+    MurderFile(folder / working_file::record);
+    for (const auto name : projectFiles)
+        if (const auto text = readFile(folder / name); !text || !text->empty())
+            return Refusal{'"' + (folder / name).string() +
+                           "\" cannot be emptied. It still holds rows of another project; move it "
+                           "away, then try again."};
+    return std::nullopt;
 }
 
 }  // namespace trabeon

@@ -34,9 +34,26 @@ inline constexpr std::string_view memberScratch = "Member.tmp";
 inline constexpr std::string_view pointScratch = "Point.tmp";
 inline constexpr std::string_view udlScratch = "Udl.tmp";
 inline constexpr std::string_view beamDimensionsScratch = "BeamDim.tmp";
+inline constexpr std::string_view balanceTableScratch = "TB.tmp";
+
+// Files that the program keeps for itself.
+inline constexpr std::string_view title = "Title.txt";    // of the open project: its three texts
+inline constexpr std::string_view record = "Record.txt";  // see folder_record.h
+inline constexpr std::string_view unfinishedSet = "Unfinished.set";  // see file_set.h
 }  // namespace working_file
 
-/// The files that the user's rows stand in.
+inline constexpr std::array workingFiles{
+    working_file::joint,          working_file::member,       working_file::point,
+    working_file::udl,            working_file::balanceTable, working_file::stations,
+    working_file::beamDimensions, working_file::maxima,       working_file::pointStations,
+    working_file::pointMaxima,    working_file::udlStations,  working_file::udlMaxima,
+    working_file::designResults,  working_file::steelAreas,   working_file::linkResistances,
+    working_file::jointScratch,   working_file::memberScratch, working_file::pointScratch,
+    working_file::udlScratch,     working_file::beamDimensionsScratch,
+    working_file::balanceTableScratch, working_file::title,   working_file::record,
+    working_file::unfinishedSet};
+
+/// The files with the rows of the beam and its loads.
 inline constexpr std::array inputFiles{working_file::joint, working_file::member,
                                        working_file::point, working_file::udl};
 
@@ -54,15 +71,24 @@ inline constexpr std::array filesDeletedAtExit{
     working_file::memberScratch, working_file::pointScratch, working_file::udlScratch,
     working_file::maxima,        working_file::pointMaxima,  working_file::udlMaxima};
 
-/// The whole content of a file; a missing one reads as empty, and so does one that unreadable()
-/// tells.
+[[nodiscard]] bool isWorkingFile(std::string_view name);
+
+/// The whole content of a file; a missing one reads as empty. Refuses what is no regular file
+/// (reading a pipe would wait for ever), what the user may not read, and more than 2 GiB.
+[[nodiscard]] Outcome<std::string> readFile(const std::filesystem::path& file);
+
+/// The same where the caller can go on without the file: a refused one reads as empty too.
 [[nodiscard]] std::string readWhole(const std::filesystem::path& file);
 
-/// Why a file that is there cannot be read: it is a folder or a device, or the user may not. To be
-/// asked before content that was read replaces a file; a missing file is no failure.
-[[nodiscard]] Failure unreadable(const std::filesystem::path& file);
+/// Why one of the files cannot be read; to be asked before content that was read replaces them. A
+/// missing file is no failure.
 [[nodiscard]] Failure unreadable(const std::filesystem::path& folder,
                                  std::span<const std::string_view> names);
+
+/// Names the first of these files that is not there. A run creates them all, so another program
+/// has taken it away, and the rows in it must not be taken for none.
+[[nodiscard]] Failure missing(const std::filesystem::path& folder,
+                              std::span<const std::string_view> names);
 
 /// Copies Source over Target, whole or not at all. Silent: a copy that fails leaves Target as it
 /// was.
@@ -71,7 +97,8 @@ void DuplicateFile(const std::filesystem::path& Source, const std::filesystem::p
 /// Deletes a file. Silent, also when there is none.
 void MurderFile(const std::filesystem::path& file);
 
-/// Makes the seven project files of the folder exist and be empty.
-void CreateNFile(const std::filesystem::path& folder);
+/// Makes the seven project files of the folder exist and be empty, all of them or none, and drops
+/// the title and the record that belonged to them. Refuses if one of them cannot be emptied.
+[[nodiscard]] Failure CreateNFile(const std::filesystem::path& folder);
 
 }  // namespace trabeon

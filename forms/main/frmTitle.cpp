@@ -43,6 +43,7 @@ void frmTitle::cmdOK_Click() {
 
 void frmTitle::txt_Change() {
     context_.dataChanged = 1;
+    keepTitle(context_.folder, Title());
 }
 
 }  // namespace trabeon

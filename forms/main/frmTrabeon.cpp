@@ -72,10 +72,8 @@ void frmTrabeon::registerForms() {
 bool frmTrabeon::Start() {
     window_.Show();
     openPage("Contents and Index.htm");
-    if (Outside::Current().AnotherCopyRuns(context_.folder.string())) {
-        warn("Trabeon is already running.");
+    if (!takeFolder())
         return false;
-    }
     CenterForm(window_);
     if (!folderIsWritable()) {
         warn(
@@ -89,9 +87,25 @@ bool frmTrabeon::Start() {
              failure->sentence);
         return false;
     }
-    CreateNFile(context_.folder);
-    setProjectName(untitled);
+    if (const auto failure = CreateNFile(context_.folder)) {
+        warn("The rows of the last run cannot be emptied: " + failure->sentence);
+        return false;
+    }
+    startUntitled();
     return true;
+}
+
+bool frmTrabeon::takeFolder() {
+    auto failure = lock_.take(context_.folder, std::chrono::seconds(0));
+    if (failure && lock_.holder().runsThisProgram) {
+        warn("Trabeon is already running.");
+        return false;
+    }
+    if (failure)  // a command of trabeon-batch is soon done
+        failure = lock_.take(context_.folder, std::chrono::seconds(3));
+    if (failure)
+        warn(failure->sentence);
+    return !failure;
 }
 
 bool frmTrabeon::folderIsWritable() const {
@@ -119,11 +133,43 @@ void frmTrabeon::SaveChanges() {
 }
 
 bool frmTrabeon::FileSave() {
-    const auto title = forms_.Get<frmTitle>().Title();
-    if (const auto failure = packProject(context_.folder, title, context_.CommonDialog1.FileName)) {
+    switch (answerAboutDisk()) {
+        case Answer::Yes:
+            return writeProject();
+        case Answer::Other:
+            FileSaveAs();
+            return context_.dataChanged == 0;
+        default:
+            return false;
+    }
+}
+
+/// Yes without a question if the file is as this run left it.
+Answer frmTrabeon::answerAboutDisk() const {
+    const auto& file = context_.CommonDialog1.FileName;
+    const auto state =
+        file == projectFile_ ? comparedWithDisk(file, projectOnDisk_) : OnDisk::same;
+    if (state == OnDisk::same)
+        return Answer::Yes;
+    return Outside::Current().AskToReplace(
+        '"' + file +
+        (state == OnDisk::changed
+             ? "\" was changed by another program since it was opened or saved here. Replace it?"
+             : "\" is no longer there: it was moved or deleted. Save the project there again?"));
+}
+
+bool frmTrabeon::writeProject() {
+    if (const auto failure = missing(context_.folder, projectFiles)) {
         warn(failure->sentence);
         return false;
     }
+    const auto title = forms_.Get<frmTitle>().Title();
+    const auto packed = packProject(context_.folder, title, context_.CommonDialog1.FileName);
+    if (!packed) {
+        warn(packed.refusal().sentence);
+        return false;
+    }
+    rememberFile(*packed);
     context_.dataChanged = 0;
     return true;
 }
@@ -141,7 +187,7 @@ void frmTrabeon::FileSaveAs() {
     const auto former = dialog.FileName;
     if (!dialog.ShowSave())
         return;
-    if (FileSave())
+    if (writeProject())
         setProjectName(captionName(dialog.FileName));
     else
         dialog.FileName = former;
@@ -152,14 +198,15 @@ bool frmTrabeon::FileOpen() {
     const auto former = dialog.FileName;
     if (!dialog.ShowOpen())
         return false;
-    const auto title = unpackProject(dialog.FileName, context_.folder);
-    if (!title) {
+    const auto opened = unpackProject(dialog.FileName, context_.folder);
+    if (!opened) {
         dialog.FileName = former;
-        warn(title.refusal().sentence);
+        warn(opened.refusal().sentence);
         return false;
     }
+    rememberFile(opened->fingerprint);
     setProjectName(captionName(dialog.FileName));
-    fillTitle(*title);
+    fillTitle(opened->title);
     forms_.Get<frmAnalysis>().ShowTable();
     return true;
 }
@@ -170,27 +217,53 @@ void frmTrabeon::fillTitle(const ProjectTitle& title) {
     form.Hide();
 }
 
+void frmTrabeon::rememberFile(std::uint64_t fingerprint) {
+    projectFile_ = context_.CommonDialog1.FileName;
+    projectOnDisk_ = fingerprint;
+}
+
+void frmTrabeon::startUntitled() {
+    projectFile_.clear();
+    setProjectName(untitled);
+}
+
 void frmTrabeon::mnuNew_Click() {
+    const int changed = context_.dataChanged;
     SaveChanges();
     if (context_.dataChanged == 1)
         return;
+    const auto title = loadedTitle();
     forms_.UnloadAll();
-    CreateNFile(context_.folder);
-    setProjectName(untitled);
+    const auto failure = CreateNFile(context_.folder);
+    if (!failure) {
+        startUntitled();
+        return;
+    }
+    warn(failure->sentence);
+    keepOpen(title);
+    context_.dataChanged = changed;
 }
 
 void frmTrabeon::mnuOpen_Click() {
     SaveChanges();
     if (context_.dataChanged == 1)
         return;
-    const auto* titleForm = forms_.Loaded<frmTitle>();
-    const auto title = titleForm == nullptr ? ProjectTitle() : titleForm->Title();
-    const bool titled = titleForm != nullptr;
+    const auto title = loadedTitle();
     forms_.UnloadAll();
-    if (FileOpen() || !titled)
+    if (!FileOpen())
+        keepOpen(title);
+}
+
+std::optional<ProjectTitle> frmTrabeon::loadedTitle() const {
+    const auto* form = forms_.Loaded<frmTitle>();
+    return form == nullptr ? std::nullopt : std::optional(form->Title());
+}
+
+/// The project that stays open keeps its title, and counts no more as changed by that.
+void frmTrabeon::keepOpen(const std::optional<ProjectTitle>& title) {
+    if (!title)
         return;
-    fillTitle(
-        title);  // the project that stays open keeps its title, and is no more changed by that
+    fillTitle(*title);
     context_.dataChanged = 0;
 }
 
@@ -211,6 +284,7 @@ void frmTrabeon::mnuExit_Click() {
         return;
     for (const auto name : filesDeletedAtExit)
         MurderFile(context_.folder / name);
+    MurderFile(context_.folder / working_file::title);
     Outside::Current().End();
 }
 

@@ -2,9 +2,13 @@
 // exit.
 #pragma once
 
+#include <optional>
+
+#include "core/store/folder_lock.h"
 #include "core/store/project_file.h"
 #include "forms/main/context.h"
 #include "toolkit/mdi_window.h"
+#include "toolkit/outside.h"
 
 namespace trabeon {
 
@@ -22,8 +26,9 @@ class frmTrabeon {
     /// drew back.
     void SaveChanges();
 
-    /// Writes the project to its path and clears the flag. False if it could not be written: the
-    /// user was told, the old file stands and the flag stays at 1.
+    /// Writes the project to its path and clears the flag. If another program has changed or taken
+    /// away the file since it was opened or saved, the user is asked first. False if it was not
+    /// written: the user knows why, the old file is unchanged and the flag stays at 1.
     bool FileSave();
     /// Asks for a path and saves there; if that fails the project keeps its former path and name.
     void FileSaveAs();
@@ -53,13 +58,23 @@ class frmTrabeon {
     void Unload(bool& cancel);
     void openPage(const char* name);
     CommonDialog& projectDialog(const char* title, int flags);
+    [[nodiscard]] bool takeFolder();
+    [[nodiscard]] bool writeProject();
+    [[nodiscard]] Answer answerAboutDisk() const;
+    [[nodiscard]] std::optional<ProjectTitle> loadedTitle() const;
+    void keepOpen(const std::optional<ProjectTitle>& title);
+    void startUntitled();
+    void rememberFile(std::uint64_t fingerprint);
     void fillTitle(const ProjectTitle& title);
     void setProjectName(std::string_view name);
     [[nodiscard]] bool folderIsWritable() const;
 
+    FolderLock lock_;
     MdiWindow window_;
     Forms forms_;
     Context context_;
+    std::string projectFile_;           // the open project's, empty while it has none
+    std::uint64_t projectOnDisk_ = 0;  // its fingerprint as this run has read or written it
 };
 
 /// Moves a window to the middle of the screen, or of the form that is given; its size stays.

@@ -6,6 +6,7 @@
 #include "core/analysis/result_files.h"
 #include "forms/input/frmPoint.h"
 #include "forms/input/frmUDL.h"
+#include "forms/main/messages.h"
 #include "forms/results/frmOptions.h"
 #include "toolkit/outside.h"
 #include "toolkit/wait_cursor.h"
@@ -66,6 +67,10 @@ void frmAnalysis::cmdAnalyse_Click() {
     auto& options = context_.forms.Get<frmOptions>();
     const auto settings = options.Settings();
     options.Hide();
+    if (const auto failure = missing(context_.folder, inputFiles)) {
+        warn(failure->sentence);
+        return;
+    }
     const WaitCursor wait;
     AnalysisOutputs outputs;
     outputs.message = [](const Message& message) {

@@ -25,7 +25,7 @@ Failure writeDocument(const Document& document, const std::filesystem::path& fil
     const auto bytes = docxBytes(document);
     if (!bytes)
         return bytes.refusal();
-    return replaceFile(file, *bytes);
+    return replaceFile(file, *bytes, Survives::powerCut);
 }
 
 void saveAndOpen(const Document& document) {

@@ -1,7 +1,11 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
+#include <functional>
+
+#include "core/store/folder_lock.h"
 #include "core/store/working_files.h"
+#include "forms/input/frmJoints.h"
 #include "forms/main/frmTitle.h"
 #include "forms/results/frmAnalysis.h"
 #include "tests/support/program_fixture.h"
@@ -13,9 +17,8 @@ namespace fs = std::filesystem;
 
 class StartUp : public ProgramTest {
   protected:
-    void ExpectManual(bool anotherRuns) {
+    void ExpectManual() {
         outside.ExpectDocument((folder / "Contents and Index.htm").string());
-        outside.ExpectCopyCheck(anotherRuns);
     }
 };
 
@@ -114,25 +117,30 @@ TEST_F(StartUp, OpensTheManualAndEmptiesTheSevenFiles) {
 
 TEST_F(StartUp, KeepsTheRowsOfARunWithoutExit) {
     folder.write("Joint.txt", " 1,Fixed,\"left by a former run\"\r\n");
-    fs::create_directory(folder / "Recovered.TB.new");
-    ExpectManual(false);
-    ExpectUnwritten("Recovered.TB",
-                    "The rows of the last run, which ended without Exit, cannot be kept: ");
-    EXPECT_FALSE(program.Start());
-    EXPECT_NE(folder.read("Joint.txt"), "");
-    fs::remove(folder / "Recovered.TB.new");
+    folder.write("Title.txt", "\"Mill\"\r\n\"Me\"\r\n\"B1\"\r\n");
+    for (const auto* inTheWay : {"Udl.txt", "BeamDim.txt"}) {  // nothing is emptied if one cannot be
+        folder.protect(inTheWay);
+        ExpectManual();
+        ExpectUnwritten(inTheWay, "The rows of the last run cannot be emptied: ");
+        EXPECT_FALSE(program.Start());
+        EXPECT_NE(folder.read("Joint.txt"), "");
+        folder.protect(inTheWay, false);
+    }
     Start();
     EXPECT_EQ(folder.read("Joint.txt"), "");
     outside.ExpectOpen("Open Trabeon File", (folder / "Recovered.TB").string());
     Choose("&File|&Open");
     EXPECT_EQ(folder.read("Joint.txt"), "1,Fixed,left by a former run\r\n");
-    EXPECT_EQ(context().dataChanged, 0);
+    EXPECT_EQ(forms().Get<frmTitle>().txtProject.Text(), "Mill");
+    EXPECT_FALSE(fs::exists(folder / "Recovered 2.TB"));
 }
 
 TEST_F(StartUp, SecondCopyEndsBeforeItTouchesAFile) {
     folder.write("Joint.txt", "1,Fixed,\"of the running copy\"\r\n");
     const auto before = folder.contents();
-    ExpectManual(true);
+    FolderLock otherCopy;
+    ASSERT_FALSE(otherCopy.take(folder.path(), std::chrono::seconds(0)));
+    ExpectManual();
     outside.ExpectMsgBox("Trabeon is already running.");
     EXPECT_FALSE(program.Start());
     EXPECT_EQ(outside.lastStyle, 48);
@@ -141,8 +149,8 @@ TEST_F(StartUp, SecondCopyEndsBeforeItTouchesAFile) {
 }
 
 TEST_F(StartUp, UnwritableFolderIsTold) {
-    fs::create_directory(folder / "Writable.tmp.new");
-    ExpectManual(false);
+    fs::create_directory(folder / "Writable.tmp");
+    ExpectManual();
     outside.ExpectMsgBox(
         "Trabeon keeps its working files in its own folder, \"" + folder.path().string() +
         "\", and cannot write there. Move the program to a folder of yours, or make room on its disk, "
@@ -254,6 +262,84 @@ TEST_F(MainWindow, CancelledOrRefusedOpenLeavesTheProjectAsItWas) {
     Choose("&File|&Save");  // goes to Job.TB still
     EXPECT_TRUE(Holds("Job.TB", "\"B2\""));
     EXPECT_EQ(folder.read("bad.TB"), before.at("bad.TB"));
+}
+
+TEST_F(MainWindow, SaveAsksBeforeItReplacesWhatAnotherProgramChanged) {
+    Change();
+    ExpectSave(job);
+    Choose("&File|&Save");
+    const std::string changed = '"' + job +
+                                "\" was changed by another program since it was opened or saved "
+                                "here. Replace it?";
+    for (const bool gone : {false, true}) {
+        const auto question =
+            gone ? '"' + job +
+                       "\" is no longer there: it was moved or deleted. Save the project there again?"
+                 : changed;
+        if (gone)
+            fs::remove(job);
+        else
+            folder.write("Job.TB", "of a colleague");
+        Change();
+        outside.ExpectReplace(question, Answer::No);
+        Choose("&File|&Save");
+        EXPECT_EQ(context().dataChanged, 1);
+        EXPECT_FALSE(Holds("Job.TB", "\"Mill\""));
+        outside.ExpectReplace(question, Answer::Other);
+        ExpectSave((folder / "Mine.TB").string());
+        Choose("&File|&Save");
+        EXPECT_TRUE(Holds("Mine.TB", "\"Mill\""));
+        EXPECT_FALSE(Holds("Job.TB", "\"Mill\""));
+        folder.write("Job.TB", folder.read("Mine.TB"));
+        Open(job);
+        EXPECT_EQ(context().dataChanged, 1);
+        ExpectQuestion(Answer::Yes);  // the same bytes as it was opened with
+        outside.ExpectOpen("Open Trabeon File", "");
+        Choose("&File|&Open");
+    }
+    folder.write("Job.TB", "of a colleague");
+    Change();
+    outside.ExpectReplace(changed, Answer::Yes);
+    Choose("&File|&Save");
+    EXPECT_TRUE(Holds("Job.TB", "\"Mill\""));
+}
+
+TEST_F(MainWindow, RowsThatWereTakenAwayAreNotTakenForNone) {
+    Open(EXAMPLES "/two-span-floor-beam.TB");
+    context().CommonDialog1.FileName = job;
+    const auto rows = folder.read("Joint.txt");
+    const auto gone = '"' + (folder / "Joint.txt").string() +
+                      "\" has gone: another program took away rows of the open project. Put the "
+                      "file back, or choose New; nothing was changed.";
+    fs::remove(folder / "Joint.txt");
+    auto& joints = forms().Get<frmJoints>();
+    for (const std::function<void()>& step : std::initializer_list<std::function<void()>>{
+             [&] { Choose("&File|&Save"); },
+             [&] { forms().Get<frmAnalysis>().cmdAnalyse.Press(); },
+             [&] { joints.cmdAddJoint.Press(); }}) {
+        outside.ExpectMsgBox(gone);
+        step();
+        EXPECT_FALSE(fs::exists(folder / "Joint.txt"));
+        EXPECT_FALSE(fs::exists(job));
+    }
+    folder.write("Joint.txt", rows);
+    Choose("&File|&Save");
+    EXPECT_EQ(folder.read("Job.TB"), TemporaryFolder::readFile(EXAMPLES "/two-span-floor-beam.TB"));
+    fs::remove(folder / "Joint.txt");
+    Choose("&File|&New");
+    EXPECT_EQ(folder.read("Joint.txt"), "");
+}
+
+TEST_F(MainWindow, ANewThatCannotEmptyTheRowsKeepsTheProject) {
+    Open(EXAMPLES "/two-span-floor-beam.TB");
+    const auto before = folder.contents();
+    folder.protect("BeamDim.txt");
+    ExpectQuestion(Answer::No);
+    ExpectUnwritten("BeamDim.txt");
+    Choose("&File|&New");
+    EXPECT_EQ(folder.contents(), before);
+    EXPECT_EQ(Title().project, "Library extension");
+    EXPECT_EQ(context().dataChanged, 1);
 }
 
 TEST_F(MainWindow, ClosingAsksAgainAfterACancel) {

@@ -3,21 +3,23 @@
 // write is a step of its own. What happens is told by the environment:
 //
 //   FAULT_FOLDER  the folder's path, as the program has it
-//   FAULT_KIND    kill: the process is killed at step FAULT_AT
+//   FAULT_KIND    kill, term: the process gets SIGKILL or SIGTERM at step FAULT_AT
 //                 full: from step FAULT_AT on the disk takes no new file and no more characters
-//                 record: each file that takes its place is copied to FAULT_RECORD/NUMBER-NAME,
-//                 and the number of steps stands in FAULT_RECORD.steps at the end
+//                 record: each file that takes its place is copied to FAULT_RECORD/NUMBER-NAME, the
+//                 number of steps is in FAULT_RECORD.steps at the end, and each step's name and
+//                 file in a line of FAULT_RECORD.calls
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <csignal>
+#include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <set>
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -37,11 +39,14 @@ struct Plan {
     int at = std::atoi(setting("FAULT_AT").c_str());
     int step = 0;
     int recorded = 0;
-    std::set<std::FILE*> written;  // open for writing in the folder
+    std::map<int, std::string> written;  // descriptors that are open for writing in the folder
+    std::string calls;
 
     ~Plan() {
-        if (kind == "record")
-            std::ofstream(record + ".steps") << step;
+        if (kind != "record")
+            return;
+        std::ofstream(record + ".steps") << step;
+        std::ofstream(record + ".calls") << calls;
     }
 };
 
@@ -55,11 +60,13 @@ bool within(const char* path) {
 }
 
 /// True: the call must fail for want of room.
-bool step() {
+bool step(const char* call, const std::string& file) {
     auto& the = plan();
     ++the.step;
-    if (the.kind == "kill" && the.step == the.at)
-        std::raise(SIGKILL);
+    if (the.kind == "record")
+        the.calls += std::string(call) + ' ' + fs::path(file).filename().string() + '\n';
+    if ((the.kind == "kill" || the.kind == "term") && the.step == the.at)
+        std::raise(the.kind == "kill" ? SIGKILL : SIGTERM);
     return the.kind == "full" && the.step >= the.at;
 }
 
@@ -76,53 +83,80 @@ Function* next(Function*, const char* name) {
 }
 #define NEXT(function) next(&function, #function)
 
-std::FILE* opened(decltype(&std::fopen) open, const char* path, const char* mode) {
-    const bool writes = within(path) && mode[0] != 'r';
-    if (writes && step()) {
+int opened(decltype(&::open) open, const char* path, int flags, mode_t mode) {
+    const bool creates = within(path) && (flags & O_CREAT) != 0;
+    if (creates && step("create", path)) {
         errno = ENOSPC;
-        return nullptr;
+        return -1;
     }
-    std::FILE* file = open(path, mode);
-    if (writes && file != nullptr)
-        plan().written.insert(file);
+    const int file = open(path, flags, mode);
+    if (creates && file >= 0)
+        plan().written[file] = path;
     return file;
+}
+
+mode_t modeOf(int flags, std::va_list& arguments) {
+    return (flags & O_CREAT) == 0 ? 0 : va_arg(arguments, mode_t);
 }
 
 }  // namespace
 
 extern "C" {
 
-std::FILE* fopen(const char* path, const char* mode) {
-    return opened(NEXT(fopen), path, mode);
+int open(const char* path, int flags, ...) {
+    std::va_list arguments;
+    va_start(arguments, flags);
+    const auto mode = modeOf(flags, arguments);
+    va_end(arguments);
+    return opened(NEXT(open), path, flags, mode);
 }
 
-std::FILE* fopen64(const char* path, const char* mode) {
-    return opened(NEXT(fopen64), path, mode);
+int open64(const char* path, int flags, ...) {
+    std::va_list arguments;
+    va_start(arguments, flags);
+    const auto mode = modeOf(flags, arguments);
+    va_end(arguments);
+    return opened(NEXT(open64), path, flags, mode);
 }
 
-std::size_t fwrite(const void* text, std::size_t size, std::size_t count, std::FILE* file) {
-    if (!plan().written.contains(file))
-        return NEXT(fwrite)(text, size, count, file);
-    const bool noRoom = step();
-    const auto half = NEXT(fwrite)(text, size, count / 2, file);
-    if (noRoom || step()) {
+ssize_t write(int file, const void* text, std::size_t size) {
+    const auto found = plan().written.find(file);
+    if (found == plan().written.end() || size == 0)
+        return NEXT(write)(file, text, size);
+    if (step("write", found->second)) {
         errno = ENOSPC;
-        return half;
+        return -1;
     }
-    const auto* rest = static_cast<const char*>(text) + half * size;
-    return half + NEXT(fwrite)(rest, size, count - half, file);
+    const auto half = NEXT(write)(file, text, size / 2);
+    if (half < 0 || step("write", found->second))
+        return half;
+    const auto rest = NEXT(write)(file, static_cast<const char*>(text) + half,
+                                  size - static_cast<std::size_t>(half));
+    return rest < 0 ? half : half + rest;
 }
 
-int fclose(std::FILE* file) {
-    if (plan().written.erase(file) > 0)
-        step();
-    return NEXT(fclose)(file);
+int fsync(int file) {
+    const auto path = fs::read_symlink("/proc/self/fd/" + std::to_string(file)).string() + '/';
+    if (within(path.c_str()) && step("flush", path.substr(0, path.size() - 1))) {
+        errno = ENOSPC;
+        return -1;
+    }
+    return NEXT(fsync)(file);
+}
+
+int close(int file) {
+    const auto found = plan().written.find(file);
+    if (found != plan().written.end()) {
+        step("close", found->second);
+        plan().written.erase(file);
+    }
+    return NEXT(close)(file);
 }
 
 int rename(const char* from, const char* to) noexcept {
     if (!within(to))
         return NEXT(rename)(from, to);
-    step();
+    step("rename", to);
     const int done = NEXT(rename)(from, to);
     if (done == 0)
         record(to);
@@ -131,13 +165,13 @@ int rename(const char* from, const char* to) noexcept {
 
 int remove(const char* path) noexcept {
     if (within(path))
-        step();
+        step("remove", path);
     return NEXT(remove)(path);
 }
 
 int unlink(const char* path) noexcept {
     if (within(path))
-        step();
+        step("remove", path);
     return NEXT(unlink)(path);
 }
 

@@ -7,6 +7,7 @@
 // Each message is printed on a line. Behind a save the flag is printed: 1 while it is not done.
 #include <cstdio>
 
+#include "core/store/temporary_file.h"
 #include "forms/design/frmBeamDimensions.h"
 #include "forms/design/frmSteelArea.h"
 #include "forms/input/frmJoints.h"
@@ -30,6 +31,10 @@ class Person : public Desktop {
         std::printf("%s\n", text.c_str());
         constexpr int yesNoCancel = 51;
         return style == yesNoCancel ? Answer::No : Answer::Ok;
+    }
+    Answer AskToReplace(const std::string& text) override {
+        std::printf("%s\n", text.c_str());
+        return Answer::No;
     }
     std::string AskFile(const FileQuestion& question) override {
         return folder_ + (question.saves ? "/Job.TB" : "/Example.TB");
@@ -83,6 +88,7 @@ void job(frmTrabeon& program) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    prepareSignals();
     Application application(argc, argv);
     const Person person(argv[1]);
     frmTrabeon program(argv[1]);

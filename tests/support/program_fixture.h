@@ -19,7 +19,6 @@ class ProgramTest : public testing::Test {
     /// Starts the program: the manual opens, no other copy runs.
     void Start() {
         outside.ExpectDocument((folder / "Contents and Index.htm").string());
-        outside.ExpectCopyCheck(false);
         ASSERT_TRUE(program.Start());
         window().activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
@@ -55,12 +54,12 @@ class ProgramTest : public testing::Test {
     /// The one question that follows says that a file cannot be written.
     void ExpectUnwritten(const std::string& name, const std::string& before = "") {
         outside.ExpectMsgBox(before + "\"" + (folder / name).string() +
-                             "\" could not be written (Is a directory). What stood there before is "
-                             "unchanged; make room or choose another folder, then try again.");
+                             "\" is write-protected. Allow writing to it or choose another name; "
+                             "nothing was changed.");
     }
     /// From here on a rewrite of that file fails, and the next one says so.
     void BlockWriting(const std::string& name) {
-        std::filesystem::create_directory(folder / (name + ".new"));
+        folder.protect(name);
         ExpectUnwritten(name);
     }
 

@@ -26,6 +26,9 @@ class ScriptedOutside : public Outside {
     void ExpectMsgBox(const std::string& text, Answer answer = Answer::Ok) {
         script_.push_back({"box", text, answer, ""});
     }
+    void ExpectReplace(const std::string& text, Answer answer) {
+        script_.push_back({"replace", text, answer, ""});
+    }
     // An empty path: the user draws back.
     void ExpectOpen(const std::string& title, const std::string& path) {
         script_.push_back({"open", title, Answer::Ok, path});
@@ -40,9 +43,6 @@ class ScriptedOutside : public Outside {
     // The print comes out as this PDF file; an empty path: the user draws back.
     void ExpectPrinter(const std::string& documentName, const std::string& pdf) {
         script_.push_back({"printer", documentName, Answer::Ok, pdf});
-    }
-    void ExpectCopyCheck(bool anotherRuns) {
-        script_.push_back({"copy check", "", anotherRuns ? Answer::Yes : Answer::No, ""});
     }
     void ExpectEnd() { script_.push_back({"end", "", Answer::Ok, ""}); }
 
@@ -60,6 +60,7 @@ class ScriptedOutside : public Outside {
         lastTitle = title;
         return Next("box", asked).answer;
     }
+    Answer AskToReplace(const std::string& asked) override { return Next("replace", asked).answer; }
     std::string AskFile(const FileQuestion& question) override {
         lastQuestion = question;
         return Next(question.saves ? "save" : "open", question.title).path;
@@ -87,9 +88,6 @@ class ScriptedOutside : public Outside {
         return printer;
     }
     Paper DefaultPaper() const override { return paper; }
-    bool AnotherCopyRuns(const std::string&) override {
-        return Next("copy check", "").answer == Answer::Yes;
-    }
     void End() override { Next("end", ""); }
 
   private:

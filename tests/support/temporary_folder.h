@@ -35,6 +35,11 @@ class TemporaryFolder {
     void write(const std::string& name, const std::string& text) const {
         std::ofstream(path_ / name, std::ios::binary) << text;
     }
+    /// From here on a file, which is empty if there was none, cannot be replaced.
+    void protect(const std::string& name, bool isProtected = true) const {
+        std::ofstream(path_ / name, std::ios::app);
+        std::filesystem::permissions(path_ / name, std::filesystem::perms(isProtected ? 0444 : 0644));
+    }
     [[nodiscard]] std::string read(const std::string& name) const { return readFile(path_ / name); }
 
     static std::string readFile(const std::filesystem::path& file) {

@@ -90,14 +90,6 @@ TEST_F(DesktopTest, WithoutAPrinterThePrintIsAnA4PdfWhoseNameIsAskedFor) {
     EXPECT_EQ(printer->docName(), "Report");
 }
 
-TEST_F(DesktopTest, ASecondCopyInTheSameFolderIsFound) {
-    const QTemporaryDir other;
-    Desktop second;
-    EXPECT_FALSE(desktop.AnotherCopyRuns(folder.path().toStdString()));
-    EXPECT_TRUE(second.AnotherCopyRuns(folder.path().toStdString()));
-    EXPECT_FALSE(second.AnotherCopyRuns(other.path().toStdString()));
-}
-
 TEST(ScriptedOutsideTest, FailsOnWhatIsUnexpectedAndOnWhatIsLeft) {
     EXPECT_NONFATAL_FAILURE(ScriptedOutside().MsgBox("Who?", 48, ""), "Not expected: box");
     EXPECT_NONFATAL_FAILURE(

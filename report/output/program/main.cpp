@@ -1,11 +1,14 @@
 // trabeon-report: the document of a project on a machine without a display.
 #include <QTemporaryDir>
 #include <cstdio>
+#include <deque>
 #include <exception>
 
 #include "core/analysis/result_files.h"
 #include "core/design/design.h"
 #include "core/store/replacing_file.h"
+#include "core/store/temporary_file.h"
+#include "core/store/working_files.h"
 #include "forms/main/frmTitle.h"
 #include "forms/main/frmTrabeon.h"
 #include "forms/results/frmOptions.h"
@@ -48,19 +51,19 @@ void prepare(frmTrabeon& program, const ProjectTitle& title, const AnalysisSetti
 }
 
 Failure makeReport(const ReportCommand& command, const std::filesystem::path& folder) {
-    const auto title = unpackProject(command.file, folder);
-    if (!title)
-        return title.refusal();
+    const auto opened = unpackProject(command.file, folder);
+    if (!opened)
+        return opened.refusal();
     if (auto failure = analyseProject(folder, command.settings))
         return failure;
     if (auto failure = designProject(folder, command.settings.Divisions))
         return failure;
     frmTrabeon program(folder);
-    prepare(program, *title, command.settings);
+    prepare(program, opened->title, command.settings);
     LotusDocument objWord;
     {
         ChartDriver charts(program.context());
-        const OutputSource source{folder, *title, static_cast<int>(command.settings.Divisions),
+        const OutputSource source{folder, opened->title, static_cast<int>(command.settings.Divisions),
                                   charts};
         LotusOutput writer(source, objWord);
         const auto end = writeProject(source, command.kinds, writer);
@@ -74,6 +77,18 @@ Failure makeReport(const ReportCommand& command, const std::filesystem::path& fo
 void keepQuiet(QtMsgType type, const QMessageLogContext&, const QString& text) {
     if (type == QtCriticalMsg || type == QtFatalMsg)
         std::fprintf(stderr, "%s\n", text.toStdString().c_str());
+}
+
+constexpr auto screenFile = "screen.json";
+
+/// Everything that a run leaves in its folder, and the folder itself.
+std::deque<RemovedAtSignal> removedAtSignal(const std::filesystem::path& folder) {
+    std::deque<RemovedAtSignal> swept;
+    for (const auto name : workingFiles)
+        swept.emplace_back(folder / name);
+    swept.emplace_back(folder / screenFile);
+    swept.emplace_back(folder);
+    return swept;
 }
 
 /// A screen in memory, on which an enlarged window has the shape of the page.
@@ -91,7 +106,8 @@ int run(const ReportCommand& command, int& argc, char** argv) {
                      folder.errorString().toStdString().c_str());
         return 1;
     }
-    makeScreen(folder.filePath("screen.json"));
+    const auto swept = removedAtSignal(folder.path().toStdString());
+    makeScreen(folder.filePath(screenFile));
     qInstallMessageHandler(keepQuiet);
     const Application application(argc, argv);
     const Unattended outside;
@@ -106,6 +122,7 @@ int run(const ReportCommand& command, int& argc, char** argv) {
 
 int main(int argc, char** argv) try {
     using namespace trabeon;
+    prepareSignals();
     const auto command = readReportCommand({argv + 1, argv + argc});
     if (!command) {
         std::fprintf(stderr, "trabeon-report: %s\n", command.refusal().sentence.c_str());

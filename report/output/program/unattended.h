@@ -18,6 +18,7 @@ class Unattended : public Outside {
         std::fprintf(stderr, "%s\n", text.c_str());
         return Answer::Cancel;
     }
+    Answer AskToReplace(const std::string&) override { return Answer::No; }
     std::string AskFile(const FileQuestion&) override { return file; }
     void PutText(const std::string&) override {}
     void PutPicture(const QImage& picture) override { picture_ = picture; }
@@ -25,7 +26,6 @@ class Unattended : public Outside {
     bool OpenDocument(const std::string&) override { return true; }
     std::unique_ptr<QPrinter> OpenPrinter(const std::string&) override { return nullptr; }
     Paper DefaultPaper() const override { return {11906, 16838, 11506, 16438, 200, 200}; }  // A4
-    bool AnotherCopyRuns(const std::string&) override { return false; }
     void End() override {}
 
   private:

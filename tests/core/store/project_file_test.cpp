@@ -43,6 +43,13 @@ struct ProjectFile : testing::Test {
         const auto title = unpackProject(folder / "a.TB", work.path());
         return title ? "" : title.refusal().sentence;
     }
+    /// The working folder without what the program keeps there for itself.
+    std::map<std::string, std::string> UsersFiles() {
+        auto files = work.contents();
+        files.erase("Record.txt");
+        files.erase("Title.txt");
+        return files;
+    }
     std::string With(const std::string& from, const std::string& to) {
         auto text = whole;
         return text.replace(text.find(from), from.size(), to);
@@ -51,27 +58,28 @@ struct ProjectFile : testing::Test {
 
 TEST_F(ProjectFile, OpenThenSaveGivesTheSameLines) {
     folder.write("a.TB", whole);
-    const auto title = unpackProject(folder / "a.TB", work.path());
-    ASSERT_TRUE(title) << title.refusal().sentence;
-    EXPECT_EQ(title->project + title->designer + title->beamName, "Mill, westAnnonymousB1");
-    EXPECT_EQ(work.contents(), unpacked);
-    EXPECT_FALSE(packProject(work.path(), *title, folder / "b.TB"));
+    const auto opened = unpackProject(folder / "a.TB", work.path());
+    ASSERT_TRUE(opened) << opened.refusal().sentence;
+    const auto& title = opened->title;
+    EXPECT_EQ(title.project + title.designer + title.beamName, "Mill, westAnnonymousB1");
+    EXPECT_EQ(UsersFiles(), unpacked);
+    EXPECT_TRUE(packProject(work.path(), titleIn(work.path()), folder / "b.TB"));
     EXPECT_EQ(folder.read("b.TB"), whole);
     auto other = With("MEMBERS -", "Mine now ");  // headings are known by their first letters,
     std::erase(other, '\r');                      // and LF ends a line too
     EXPECT_EQ(Refusal(other), "");
-    EXPECT_EQ(work.contents(), unpacked);
+    EXPECT_EQ(UsersFiles(), unpacked);
 }
 
 TEST_F(ProjectFile, NewProjectHasAllHeadingsAndNothingBetween) {
-    CreateNFile(work.path());
-    EXPECT_FALSE(packProject(work.path(), {}, folder / "new.TB"));
+    EXPECT_FALSE(CreateNFile(work.path()));
+    EXPECT_TRUE(packProject(work.path(), {}, folder / "new.TB"));
     const auto text = folder.read("new.TB");
     EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 11);
     EXPECT_NE(text.find("\"Untitled\"\r\n\"Annonymous\"\r\n\"Beam Name\"\r\n"), std::string::npos);
-    const auto before = work.contents();
+    const auto before = UsersFiles();
     EXPECT_EQ(Refusal(text), "");
-    EXPECT_EQ(work.contents(), before);
+    EXPECT_EQ(UsersFiles(), before);
 }
 
 TEST_F(ProjectFile, RefusedOnesNameTheLineAndChangeNothing) {
@@ -107,20 +115,20 @@ TEST_F(ProjectFile, RefusedOnesNameTheLineAndChangeNothing) {
 }
 
 TEST_F(ProjectFile, WhatCannotBeSavedOrOpenedAgainLeavesTheOldFile) {
-    CreateNFile(work.path());
+    EXPECT_FALSE(CreateNFile(work.path()));
     folder.write("a.TB", "old");
     const auto failure = [&](const ProjectTitle& title = {}) {
         const auto why = packProject(work.path(), title, folder / "a.TB");
         EXPECT_EQ(folder.read("a.TB"), "old");
-        return why ? why->sentence : "";
+        return why ? "" : why.refusal().sentence;
     };
     EXPECT_NE(failure({"a \"quoted\" title", "", ""}), "");
     work.write("BeamDim.txt", "1,1,300\r\n");
     EXPECT_NE(failure().find("a row of beam dimensions was expected"), std::string::npos);
     work.write("BeamDim.txt", "");
-    std::filesystem::create_directory(folder / "a.TB.new");
+    folder.protect("a.TB");
     EXPECT_NE(failure(), "");
-    std::filesystem::remove(folder / "a.TB.new");
+    folder.protect("a.TB", false);
     std::filesystem::remove(work / "Joint.txt");
     std::filesystem::create_directory(work / "Joint.txt");
     EXPECT_NE(failure(), "");

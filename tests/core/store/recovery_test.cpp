@@ -4,6 +4,7 @@
 
 #include "core/store/project_file.h"
 #include "core/store/working_files.h"
+#include "tests/support/full_disk.h"
 #include "tests/support/temporary_folder.h"
 
 namespace trabeon {
@@ -24,10 +25,13 @@ std::string recovered(const TemporaryFolder& folder, const std::string& name = "
 TEST(Recovery, RowsComeBackAsAProjectThatOpens) {
     const TemporaryFolder folder, opened;
     folder.write("Joint.txt", joints);
+    keepTitle(folder.path(), {"Mill, west", "Me", "B1"});
     folder.write("Udl.txt", " 1,0,6,12,12,Slab\r\n");
     folder.write("BeamDim.txt", "1,1,300,500,450,30,460,200000,250,6\r\n");
     EXPECT_NE(recovered(folder).find(packedJoints), std::string::npos);
-    ASSERT_TRUE(unpackProject(folder / "Recovered.TB", opened.path()));
+    const auto project = unpackProject(folder / "Recovered.TB", opened.path());
+    ASSERT_TRUE(project);
+    EXPECT_EQ(project->title.project, "Mill, west");
     EXPECT_EQ(opened.read("Udl.txt"), "1,0,6,12,12,\"Slab\"\r\n");
     EXPECT_EQ(opened.read("BeamDim.txt"), folder.read("BeamDim.txt"));
 }
@@ -36,7 +40,7 @@ TEST(Recovery, NothingIsLeftByAnExitOrByEmptyFiles) {
     const TemporaryFolder folder;
     folder.write("BeamDim.txt", "1,1,300,500,450,30,460,200000,250,6\r\n");
     EXPECT_EQ(recovered(folder), "(there is no Recovered.TB)");
-    CreateNFile(folder.path());
+    EXPECT_FALSE(CreateNFile(folder.path()));
     EXPECT_EQ(recovered(folder), "(there is no Recovered.TB)");
 }
 
@@ -52,6 +56,8 @@ TEST(Recovery, WhatWasRecoveredBeforeIsKept) {
         folder.write("Joint.txt", joints + number + ",Fixed,b\r\n");
         EXPECT_EQ(recovered(folder, std::string("Recovered ") + number + ".TB"), before);
     }
+    folder.write("Joint.txt", joints);  // the rows of the first run once more
+    EXPECT_EQ(recovered(folder, "Recovered 4.TB"), "(there is no Recovered 4.TB)");
 }
 
 TEST(Recovery, ScrambledLinesStandAsTheyAre) {
@@ -67,9 +73,10 @@ TEST(Recovery, ScrambledLinesStandAsTheyAre) {
 TEST(Recovery, RowsThatCannotBeKeptAreTold) {
     const TemporaryFolder folder;
     folder.write("Joint.txt", joints);
-    std::filesystem::create_directory(folder / "Recovered.TB.new");
-    EXPECT_NE(recovered(folder).find("Recovered.TB\" could not be written"), std::string::npos);
-    std::filesystem::remove(folder / "Recovered.TB.new");
+    {
+        const test::FullDisk disk(64);
+        EXPECT_NE(recovered(folder).find("Recovered.TB\" could not be written"), std::string::npos);
+    }
     std::filesystem::create_directory(folder / "Member.txt");  // stands for what cannot be read
     EXPECT_NE(recovered(folder).find("Member.txt\" cannot be read"), std::string::npos);
 }

@@ -1,41 +1,36 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <csignal>
+#include <functional>
 
 #include "core/store/file_set.h"
+#include "core/store/folder_lock.h"
+#include "core/store/folder_record.h"
+#include "core/store/project_file.h"
 #include "core/store/replacing_file.h"
 #include "core/store/row_editing.h"
 #include "core/store/rows.h"
 #include "core/store/working_files.h"
+#include "tests/support/full_disk.h"
 #include "tests/support/temporary_folder.h"
 
 namespace trabeon {
 namespace {
 
+using test::FullDisk;
 using test::TemporaryFolder;
-
-/// A disk that is full behind this many bytes of each file.
-class FullDisk {
-  public:
-    explicit FullDisk(rlim_t bytes) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit limit{bytes, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
-
-  private:
-    rlimit before_{};
-};
 
 TEST(WorkingFiles, AreEmptiedCopiedAndDeletedWithoutAWord) {
     const TemporaryFolder folder;
     folder.write("Joint.txt", "1,Fixed,\"None\"\r\n");
     folder.write("DResult.txt", "kept");
-    CreateNFile(folder.path());
+    EXPECT_FALSE(CreateNFile(folder.path()));
     const std::map<std::string, std::string> emptied{
         {"Joint.txt", ""}, {"Member.txt", ""}, {"Point.txt", ""},   {"Udl.txt", ""},
         {"BM.txt", ""},    {"TB.txt", ""},     {"BeamDim.txt", ""}, {"DResult.txt", "kept"}};
@@ -77,6 +72,7 @@ TEST(Rows, DescriptionsComeBackAsOneFieldFromEveryWriter) {
 
 TEST(RowEditing, AddsBehindARowAndRemovesWithOrWithoutNewNumbers) {
     const TemporaryFolder folder;
+    folder.write("Joint.txt", "");
     const auto add = [&](std::size_t position, const JointRow& row) {
         EXPECT_FALSE(addRow(folder.path(), position, row));
         EXPECT_EQ(folder.read("Joint.txt"), folder.read("Joint.tmp"));
@@ -114,45 +110,54 @@ TEST(RowEditing, AFailureLeavesTheUsersRows) {
               std::string::npos)
         << failure->sentence;
     EXPECT_EQ(folder.contents(), (std::map<std::string, std::string>{{"Joint.txt", rows}}));
-    std::filesystem::remove(folder / "Joint.txt");
-    std::filesystem::create_directory(folder / "Joint.txt");  // stands for whatever is no file
-    failure = addRow<JointRow>(folder.path(), 0, {" 1", "Fixed", "None"});
-    ASSERT_TRUE(failure);
-    EXPECT_NE(failure->sentence.find("Joint.txt\" cannot be read"), std::string::npos);
-    EXPECT_TRUE(folder.contents().empty());
-    std::filesystem::remove(folder / "Joint.txt");
-    folder.write("Joint.txt", rows);
-    std::filesystem::create_directory(folder / "Joint.txt.new");
+    folder.protect("Joint.txt");  // the scratch twin can be written, the file cannot
     failure = addRow<JointRow>(folder.path(), 1, {" 2", "Fixed", "None"});
     ASSERT_TRUE(failure);
-    EXPECT_NE(failure->sentence.find("Joint.txt\" could not be written"), std::string::npos);
+    EXPECT_NE(failure->sentence.find("Joint.txt\" is write-protected"), std::string::npos);
     EXPECT_EQ(folder.read("Joint.txt"), rows);
-}
-
-TEST(FileSet, ReplacesNoFileIfOneOfThemFails) {
-    for (const auto* inTheWay : {"TB.txt.new", "TB.txt"}) {
-        const TemporaryFolder folder;
-        folder.write("BM.txt", "old");
-        std::filesystem::create_directory(folder / inTheWay);
-        FileSet files(folder.path());
-        files.add("BM.txt").write("new");
-        files.add("TB.txt").write("new");
-        const auto failure = files.commit();
+    std::filesystem::remove(folder / "Joint.txt");
+    for (const auto* reason : {"Joint.txt\" has gone", "Joint.txt\" cannot be read (it is a folder"}) {
+        failure = addRow<JointRow>(folder.path(), 0, {" 1", "Fixed", "None"});
         ASSERT_TRUE(failure);
-        EXPECT_NE(failure->sentence.find("Is a directory"), std::string::npos) << failure->sentence;
-        EXPECT_EQ(folder.read("BM.txt"), "old") << inTheWay;
+        EXPECT_NE(failure->sentence.find(reason), std::string::npos) << failure->sentence;
+        std::filesystem::create_directory(folder / "Joint.txt");
     }
 }
 
-TEST(FileSet, OneThatWasKilledWhileItsFilesTookTheirPlacesIsFinished) {
+TEST(FileSet, ReplacesNoFileIfOneOfThemFails) {
     const TemporaryFolder folder;
+    folder.write("BM.txt", "old");
+    folder.protect("TB.txt");
+    FileSet files(folder.path());
+    files.add("BM.txt").write("new");
+    files.add("TB.txt").write("new");
+    const auto failure = files.commit();
+    ASSERT_TRUE(failure);
+    EXPECT_NE(failure->sentence.find("TB.txt\" is write-protected"), std::string::npos);
+    EXPECT_EQ(folder.read("BM.txt"), "old");
+}
+
+const std::string token = ".0123456789abcdef.new";
+
+TEST(FileSet, OneThatWasKilledWhileItsFilesTookTheirPlacesIsFinished) {
+    const TemporaryFolder folder, elsewhere;
     folder.write("BM.txt", "new");  // has its place already
     folder.write("TB.txt", "old");
-    folder.write("TB.txt.new", "new");
-    folder.write("Unfinished.set", "BM.txt\nTB.txt\n");
+    folder.write("TB.txt" + token, "new");
+    folder.write("Udl.txt" + token, "of a killed run, never finished");
+    elsewhere.write("victim", "kept");
+    folder.write("victim", "kept");
+    folder.write("victim" + token, "evil");
+    folder.write("Unfinished.set",
+                 "BM.txt" + token + "\nTB.txt" + token + "\nvictim" + token + "\n../" +
+                     elsewhere.path().filename().string() + "/victim" + token + "\nJoint.txt\n");
     const FileSet next(folder.path());
     EXPECT_EQ(folder.contents(),
-              (std::map<std::string, std::string>{{"BM.txt", "new"}, {"TB.txt", "new"}}));
+              (std::map<std::string, std::string>{{"BM.txt", "new"},
+                                                  {"TB.txt", "new"},
+                                                  {"victim", "kept"},
+                                                  {"victim" + token, "evil"}}));
+    EXPECT_EQ(elsewhere.read("victim"), "kept");
 }
 
 TEST(ReplacingFile, HoldsALongFileThatCameInPieces) {
@@ -170,17 +175,157 @@ TEST(ReplacingFile, HoldsALongFileThatCameInPieces) {
     EXPECT_EQ(readWhole(folder / "BM.txt"), whole + large);
 }
 
-TEST(ReplacingFile, KeepsLinksAndPermissions) {
+TEST(ReplacingFile, KeepsLinksAndPermissionsFromTheFirstByteOn) {
     namespace fs = std::filesystem;
     const TemporaryFolder folder;
     folder.write("real.TB", "old");
-    fs::permissions(folder / "real.TB", fs::perms::owner_read | fs::perms::owner_write);
-    fs::create_symlink(folder / "real.TB", folder / "link.TB");
-    ASSERT_FALSE(replaceFile(folder / "link.TB", "new"));
-    EXPECT_TRUE(fs::is_symlink(folder / "link.TB"));
-    EXPECT_EQ(folder.read("real.TB"), "new");
-    EXPECT_EQ(fs::status(folder / "real.TB").permissions(),
-              fs::perms::owner_read | fs::perms::owner_write);
+    const auto owner = geteuid() == 0 ? 12345U : geteuid();
+    ASSERT_EQ(chown((folder / "real.TB").c_str(), owner, getegid()), 0);
+    for (const mode_t mode : {0600U, 0640U, 0664U}) {
+        ASSERT_EQ(chmod((folder / "real.TB").c_str(), mode), 0);
+        fs::remove(folder / "link.TB");
+        fs::create_symlink(folder / "real.TB", folder / "link.TB");
+        ReplacingFile file(folder / "link.TB");
+        for (const bool committed : {false, true}) {
+            if (committed) {
+                ASSERT_FALSE(file.commit());
+            }
+            struct stat status {};
+            const auto written = committed ? folder / "real.TB" : file.temporary().path();
+            ASSERT_EQ(stat(written.c_str(), &status), 0);
+            EXPECT_EQ(status.st_mode & 0777U, mode);
+            EXPECT_EQ(status.st_uid, owner);
+        }
+        EXPECT_TRUE(fs::is_symlink(folder / "link.TB"));
+    }
+}
+
+TEST(ReplacingFile, WritesThroughNothingThatWasPlanted) {
+    namespace fs = std::filesystem;
+    const TemporaryFolder folder;
+    folder.write("victim", "kept");
+    folder.write("a.TB", "old");
+    fs::create_hard_link(folder / "a.TB", folder / "other name");
+    fs::create_symlink(folder / "victim", folder / "a.TB.new");
+    fs::create_symlink(folder / "gone", folder / "dangling.TB");
+    fs::create_directory(folder / "folder.TB");
+    ASSERT_EQ(mkfifo((folder / "pipe.TB").c_str(), 0600), 0);
+    folder.protect("protected.TB");
+    ASSERT_FALSE(replaceFile(folder / "a.TB", "new"));
+    EXPECT_EQ(folder.read("victim") + folder.read("other name"), "keptold");
+    const std::pair<const char*, const char*> refused[] = {
+        {"dangling.TB", "is a link to a file that is not there"},
+        {"folder.TB", "is a folder, not a file"},
+        {"pipe.TB", "is a device, not a file"},
+        {"protected.TB", "is write-protected"},
+        {"none/a.TB", "could not be written (No such file or directory)"}};
+    for (const auto& [name, reason] : refused) {
+        const auto failure = replaceFile(folder / name, "new");
+        ASSERT_TRUE(failure) << name;
+        EXPECT_NE(failure->sentence.find(name + std::string("\" ") + reason), std::string::npos)
+            << failure->sentence;
+    }
+    EXPECT_FALSE(fs::exists(folder / "gone"));
+    EXPECT_TRUE(fs::is_fifo(folder / "pipe.TB"));
+    const auto pipe = readFile(folder / "pipe.TB");  // comes back at once
+    EXPECT_FALSE(pipe);
+    if (mknod((folder / "null").c_str(), S_IFCHR | 0666, makedev(1, 3)) == 0) {
+        EXPECT_TRUE(replaceFile(folder / "null", "new"));
+        EXPECT_FALSE(readFile(folder / "null"));
+    }
+}
+
+TEST(ReplacingFile, NamesThatAreAsLongAsTheyMayBeAreWritten) {
+    const TemporaryFolder folder;
+    const std::string longest(255, 'n');
+    ASSERT_FALSE(replaceFile(folder / longest, "new"));
+    EXPECT_EQ(folder.contents(), (std::map<std::string, std::string>{{longest, "new"}}));
+}
+
+/// Runs in a process of its own; how that ended.
+int statusOf(const std::function<void()>& run) {
+    const pid_t child = fork();
+    if (child == 0) {
+        prepareSignals();
+        run();
+        _exit(0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    return status;
+}
+
+TEST(Signals, RemoveWhatWasBeingWrittenAndWaitWhileASetTakesItsPlace) {
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        const TemporaryFolder folder;
+        auto status = statusOf([&] {
+            ReplacingFile file(folder / "a.TB"), other(folder / "b.TB");
+            const RemovedAtSignal swept(folder / "swept");
+            std::filesystem::create_directory(folder / "swept");
+            std::raise(signal);
+        });
+        EXPECT_EQ(WIFSIGNALED(status) ? WTERMSIG(status) : 0, signal);
+        EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
+        status = statusOf([&] {
+            const SignalsWait wait;
+            std::raise(signal);
+            static_cast<void>(replaceFile(folder / "a.TB", "whole"));
+        });
+        EXPECT_EQ(WIFSIGNALED(status) ? WTERMSIG(status) : 0, signal);
+        EXPECT_EQ(folder.contents(), (std::map<std::string, std::string>{{"a.TB", "whole"}}));
+    }
+}
+
+TEST(FolderLock, IsHeldByOneAndFreeOnceItsProcessHasDied) {
+    using namespace std::chrono_literals;
+    const TemporaryFolder folder;
+    std::array<int, 2> taken{};
+    ASSERT_EQ(pipe(taken.data()), 0);
+    const pid_t child = fork();
+    if (child == 0) {
+        FolderLock lock;
+        const char outcome = lock.take(folder.path(), 0s) ? 'n' : 'y';
+        static_cast<void>(write(taken[1], &outcome, 1));
+        pause();
+    }
+    char outcome = 0;
+    ASSERT_EQ(read(taken[0], &outcome, 1), 1);
+    ASSERT_EQ(outcome, 'y');
+    FolderLock lock;
+    const auto failure = lock.take(folder.path(), 0s);
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->sentence,
+              "The folder \"" + folder.path().string() + "\" is in use by core_test (process " +
+                  std::to_string(child) +
+                  "). Wait until it has finished or close it, then try again; nothing was changed.");
+    EXPECT_TRUE(lock.holder().runsThisProgram);
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    EXPECT_FALSE(lock.take(folder.path(), 0s));
+    EXPECT_TRUE(folder.contents().empty());
+}
+
+TEST(FolderRecord, KnowsWhichRowsExistNowhereElse) {
+    const TemporaryFolder folder;
+    const auto refused = [&] {
+        const auto failure = holdsOtherRows(folder.path());
+        return failure ? failure->sentence : "";
+    };
+    EXPECT_EQ(refused(), "");
+    folder.write("Udl.txt", "1,0,6,12,12,\"typed\"\r\n");
+    EXPECT_NE(refused().find("holds \"Udl.txt\""), std::string::npos);
+    Project project;
+    project.joints = "1,Fixed,\"None\"\r\n";
+    project.beamDimensions = "1,1,300,500,450,30,460,200000,250,6\r\n";
+    ASSERT_FALSE(writeWorkingFiles(project, folder.path()));
+    EXPECT_EQ(refused(), "");
+    for (const auto* name : {"Joint.txt", "BeamDim.txt"}) {
+        const auto text = folder.read(name);
+        folder.write(name, text + "\r\n");
+        EXPECT_NE(refused(), "") << name;
+        folder.write(name, text);
+        EXPECT_EQ(refused(), "");
+    }
 }
 
 }  // namespace
