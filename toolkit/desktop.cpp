@@ -8,11 +8,11 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QPageSize>
 #include <QPointer>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QPushButton>
 #include <QTextBrowser>
 #include <QUrl>
 

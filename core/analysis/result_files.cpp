@@ -71,8 +71,8 @@ Outcome<InputTexts> readInput(const std::filesystem::path& folder) {
 /// A load file in normal form, and the scratch twin that the regrouping leaves. A second analysis
 /// finds them so, and leaves them alone.
 template <class Load>
-void writeLoads(FileSet& files, const std::filesystem::path& folder,
-                const MemberLoads<Load>& loads, std::string& text) {
+void writeLoads(FileSet& files, const std::filesystem::path& folder, const MemberLoads<Load>& loads,
+                std::string& text) {
     auto normal = textOf(loads.rows, Description::bare);
     if (readWhole(folder / Load::Row::scratch) != normal)
         files.add(Load::Row::scratch).write(normal);

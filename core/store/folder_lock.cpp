@@ -18,7 +18,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The process that "/proc/locks" lists for a file: "1: FLOCK ADVISORY WRITE 1234 08:02:5678 0 EOF".
+/// The process that "/proc/locks" lists for a file: "1: FLOCK ADVISORY WRITE 1234 08:02:5678 0
+/// EOF".
 long processThatLocks(ino_t file) {
     std::istringstream lines(readWhole("/proc/locks"));
     std::string line;

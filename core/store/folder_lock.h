@@ -26,8 +26,8 @@ class FolderLock {
     FolderLock(const FolderLock&) = delete;
     FolderLock& operator=(const FolderLock&) = delete;
 
-    /// Takes the lock if it is not held yet, and waits for it as long as `patience`. Refuses with a sentence that says
-    /// who holds the folder, or why it cannot be locked.
+    /// Takes the lock if it is not held yet, and waits for it as long as `patience`. Refuses with a
+    /// sentence that says who holds the folder, or why it cannot be locked.
     [[nodiscard]] Failure take(const std::filesystem::path& folder,
                                std::chrono::milliseconds patience);
 

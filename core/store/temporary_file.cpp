@@ -24,14 +24,15 @@ constexpr std::string_view ending = ".new";
 constexpr std::size_t digits = 16;
 constexpr std::size_t longestName = 255;  // of a directory entry, in bytes
 
-/// Names that a signal handler removes, the last registered last. A handler may neither lock nor
-/// allocate, so they are C strings in atomic places.
+/// Names that a signal handler removes. A handler may neither lock nor allocate, so they are C
+/// strings in atomic places.
 constinit std::array<std::atomic<const char*>, 64> namesAtSignal{};
 
 void removeAndEnd(int signal) {
-    for (const auto& place : namesAtSignal)
-        if (const char* name = place.load(); name != nullptr && ::unlink(name) != 0)
-            ::rmdir(name);
+    for (const auto remove : {&::unlink, &::rmdir})  // a folder goes once it is empty
+        for (const auto& place : namesAtSignal)
+            if (const char* name = place.load())
+                remove(name);
     std::signal(signal, SIG_DFL);
     std::raise(signal);
 }

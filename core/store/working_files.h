@@ -42,16 +42,30 @@ inline constexpr std::string_view record = "Record.txt";  // see folder_record.h
 inline constexpr std::string_view unfinishedSet = "Unfinished.set";  // see file_set.h
 }  // namespace working_file
 
-inline constexpr std::array workingFiles{
-    working_file::joint,          working_file::member,       working_file::point,
-    working_file::udl,            working_file::balanceTable, working_file::stations,
-    working_file::beamDimensions, working_file::maxima,       working_file::pointStations,
-    working_file::pointMaxima,    working_file::udlStations,  working_file::udlMaxima,
-    working_file::designResults,  working_file::steelAreas,   working_file::linkResistances,
-    working_file::jointScratch,   working_file::memberScratch, working_file::pointScratch,
-    working_file::udlScratch,     working_file::beamDimensionsScratch,
-    working_file::balanceTableScratch, working_file::title,   working_file::record,
-    working_file::unfinishedSet};
+inline constexpr std::array workingFiles{working_file::joint,
+                                         working_file::member,
+                                         working_file::point,
+                                         working_file::udl,
+                                         working_file::balanceTable,
+                                         working_file::stations,
+                                         working_file::beamDimensions,
+                                         working_file::maxima,
+                                         working_file::pointStations,
+                                         working_file::pointMaxima,
+                                         working_file::udlStations,
+                                         working_file::udlMaxima,
+                                         working_file::designResults,
+                                         working_file::steelAreas,
+                                         working_file::linkResistances,
+                                         working_file::jointScratch,
+                                         working_file::memberScratch,
+                                         working_file::pointScratch,
+                                         working_file::udlScratch,
+                                         working_file::beamDimensionsScratch,
+                                         working_file::balanceTableScratch,
+                                         working_file::title,
+                                         working_file::record,
+                                         working_file::unfinishedSet};
 
 /// The files with the rows of the beam and its loads.
 inline constexpr std::array inputFiles{working_file::joint, working_file::member,

@@ -147,8 +147,7 @@ bool frmTrabeon::FileSave() {
 /// Yes without a question if the file is as this run left it.
 Answer frmTrabeon::answerAboutDisk() const {
     const auto& file = context_.CommonDialog1.FileName;
-    const auto state =
-        file == projectFile_ ? comparedWithDisk(file, projectOnDisk_) : OnDisk::same;
+    const auto state = file == projectFile_ ? comparedWithDisk(file, projectOnDisk_) : OnDisk::same;
     if (state == OnDisk::same)
         return Answer::Yes;
     return Outside::Current().AskToReplace(

@@ -73,7 +73,7 @@ class frmTrabeon {
     MdiWindow window_;
     Forms forms_;
     Context context_;
-    std::string projectFile_;           // the open project's, empty while it has none
+    std::string projectFile_;          // the open project's, empty while it has none
     std::uint64_t projectOnDisk_ = 0;  // its fingerprint as this run has read or written it
 };
 

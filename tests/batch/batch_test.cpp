@@ -2,9 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
+#include <fstream>
+#include <memory>
 #include <sstream>
 #include <vector>
 
+#include "core/store/folder_lock.h"
 #include "tests/support/batch_program.h"
 
 namespace trabeon {
@@ -144,6 +148,85 @@ TEST(PackAndUnpack, GiveTheProjectBackWithItsTitle) {
               TemporaryFolder::readFile(example("five-span-with-cantilever")));
     EXPECT_EQ(batch({"unpack", (folder / "none.TB").string(), work}).exit, 1);
     EXPECT_EQ(batch({"pack", (folder / "none").string(), (folder / "x.TB").string()}).exit, 1);
+}
+
+TEST(PackAndUnpack, KeepTheTitleAndRefuseRowsThatExistNowhereElse) {
+    const TemporaryFolder folder;
+    const auto work = (folder / "work").string();
+    const auto run = [&](const std::string& command, const std::string& project,
+                         const std::string& option = "") {
+        return batch(option.empty()
+                         ? std::vector<std::string>{command, example(project), work}
+                         : std::vector<std::string>{command, example(project), option, work});
+    };
+    for (int time = 0; time < 2; ++time) {  // a folder of results of its own serves again
+        EXPECT_EQ(run("run", "two-span-floor-beam", "--out").exit, 0);
+        EXPECT_EQ(batch({"analyse", work, "--divisions", "20"}).exit, 0);
+        EXPECT_EQ(run("unpack", "five-span-with-cantilever").exit, 0);
+    }
+    EXPECT_EQ(batch({"pack", work, (folder / "again.TB").string()}).exit, 0);
+    expectAll(folder.read("again.TB"), {"TITLE\r\n\"Workshop roof\"\r\n"});
+    std::ofstream(folder / "work/Joint.txt", std::ios::app) << "7,Fixed,typed\r\n";
+    for (const auto& answer :
+         {run("run", "two-span-floor-beam", "--out"), run("unpack", "two-span-floor-beam")}) {
+        EXPECT_EQ(answer.exit, 1);
+        expectAll(answer.err, {"The folder \"" + work + "\" holds \"Joint.txt\""});
+    }
+    expectAll(folder.read("work/Joint.txt"), {"7,Fixed,typed"});
+}
+
+TEST(Commands, OfTwoInOneFolderOneWaitsAndNoneTearsTheOthersFiles) {
+    const TemporaryFolder work, left, right;
+    ASSERT_EQ(batch({"unpack", example("five-span-with-cantilever"), work.path().string()}).exit,
+              0);
+    const auto analyse = [&](const TemporaryFolder& output, const std::string& divisions) {
+        return test::start(output, {"analyse", work.path().string(), "--divisions", divisions});
+    };
+    for (int pair = 0; pair < 20; ++pair) {
+        const std::array running{analyse(left, "200"), analyse(right, "300")};
+        for (const pid_t process : running) {
+            int status = 0;
+            waitpid(process, &status, 0);
+            EXPECT_EQ(status, 0) << left.read("err") << right.read("err");
+        }
+        const auto rows = work.read("BM.txt");
+        const auto lines = std::count(rows.begin(), rows.end(), '\n');
+        EXPECT_TRUE(lines == 5 * 203 || lines == 5 * 303) << lines;
+    }
+}
+
+TEST(Commands, AFolderThatIsInUseIsLeftAlone) {
+    const TemporaryFolder work, folder;
+    const auto dir = work.path().string();
+    ASSERT_EQ(batch({"unpack", example("two-span-floor-beam"), dir}).exit, 0);
+    const auto before = work.contents();
+    const auto project = example("two-span-floor-beam");
+    FolderLock lock;
+    ASSERT_FALSE(lock.take(work.path(), std::chrono::seconds(0)));
+    const std::vector<std::vector<std::string>> all{{"analyse", dir},
+                                                    {"design", dir},
+                                                    {"tables", dir},
+                                                    {"unpack", project, dir},
+                                                    {"run", project, "--out", dir},
+                                                    {"pack", dir, (folder / "a.TB").string()}};
+    std::vector<std::pair<pid_t, std::unique_ptr<TemporaryFolder>>> running;
+    for (const auto& words : all) {  // side by side: each waits a while
+        auto output = std::make_unique<TemporaryFolder>();
+        const auto process = test::start(*output, words);
+        running.emplace_back(process, std::move(output));
+    }
+    for (const auto& [process, output] : running) {
+        int status = 0;
+        waitpid(process, &status, 0);
+        EXPECT_EQ(WEXITSTATUS(status), 1);
+        EXPECT_EQ(output->read("err"), "The folder \"" + dir +
+                                           "\" is in use by batch_test (process " +
+                                           std::to_string(getpid()) +
+                                           "). Wait until it has finished or close it, then try "
+                                           "again; nothing was changed.\n");
+    }
+    EXPECT_EQ(work.contents(), before);
+    EXPECT_TRUE(folder.contents().empty());
 }
 
 struct Design : testing::Test {

@@ -17,9 +17,7 @@ namespace fs = std::filesystem;
 
 class StartUp : public ProgramTest {
   protected:
-    void ExpectManual() {
-        outside.ExpectDocument((folder / "Contents and Index.htm").string());
-    }
+    void ExpectManual() { outside.ExpectDocument((folder / "Contents and Index.htm").string()); }
 };
 
 class MainWindow : public ProgramTest {
@@ -118,7 +116,8 @@ TEST_F(StartUp, OpensTheManualAndEmptiesTheSevenFiles) {
 TEST_F(StartUp, KeepsTheRowsOfARunWithoutExit) {
     folder.write("Joint.txt", " 1,Fixed,\"left by a former run\"\r\n");
     folder.write("Title.txt", "\"Mill\"\r\n\"Me\"\r\n\"B1\"\r\n");
-    for (const auto* inTheWay : {"Udl.txt", "BeamDim.txt"}) {  // nothing is emptied if one cannot be
+    for (const auto* inTheWay :
+         {"Udl.txt", "BeamDim.txt"}) {  // nothing is emptied if one cannot be
         folder.protect(inTheWay);
         ExpectManual();
         ExpectUnwritten(inTheWay, "The rows of the last run cannot be emptied: ");
@@ -273,9 +272,10 @@ TEST_F(MainWindow, SaveAsksBeforeItReplacesWhatAnotherProgramChanged) {
                                 "here. Replace it?";
     for (const bool gone : {false, true}) {
         const auto question =
-            gone ? '"' + job +
-                       "\" is no longer there: it was moved or deleted. Save the project there again?"
-                 : changed;
+            gone
+                ? '"' + job +
+                      "\" is no longer there: it was moved or deleted. Save the project there again?"
+                : changed;
         if (gone)
             fs::remove(job);
         else
@@ -314,8 +314,7 @@ TEST_F(MainWindow, RowsThatWereTakenAwayAreNotTakenForNone) {
     fs::remove(folder / "Joint.txt");
     auto& joints = forms().Get<frmJoints>();
     for (const std::function<void()>& step : std::initializer_list<std::function<void()>>{
-             [&] { Choose("&File|&Save"); },
-             [&] { forms().Get<frmAnalysis>().cmdAnalyse.Press(); },
+             [&] { Choose("&File|&Save"); }, [&] { forms().Get<frmAnalysis>().cmdAnalyse.Press(); },
              [&] { joints.cmdAddJoint.Press(); }}) {
         outside.ExpectMsgBox(gone);
         step();

@@ -38,7 +38,8 @@ class TemporaryFolder {
     /// From here on a file, which is empty if there was none, cannot be replaced.
     void protect(const std::string& name, bool isProtected = true) const {
         std::ofstream(path_ / name, std::ios::app);
-        std::filesystem::permissions(path_ / name, std::filesystem::perms(isProtected ? 0444 : 0644));
+        std::filesystem::permissions(path_ / name,
+                                     std::filesystem::perms(isProtected ? 0444 : 0644));
     }
     [[nodiscard]] std::string read(const std::string& name) const { return readFile(path_ / name); }
 

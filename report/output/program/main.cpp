@@ -63,8 +63,8 @@ Failure makeReport(const ReportCommand& command, const std::filesystem::path& fo
     LotusDocument objWord;
     {
         ChartDriver charts(program.context());
-        const OutputSource source{folder, opened->title, static_cast<int>(command.settings.Divisions),
-                                  charts};
+        const OutputSource source{folder, opened->title,
+                                  static_cast<int>(command.settings.Divisions), charts};
         LotusOutput writer(source, objWord);
         const auto end = writeProject(source, command.kinds, writer);
         if (!end.failure.empty())
@@ -81,15 +81,23 @@ void keepQuiet(QtMsgType type, const QMessageLogContext&, const QString& text) {
 
 constexpr auto screenFile = "screen.json";
 
-/// Everything that a run leaves in its folder, and the folder itself.
-std::deque<RemovedAtSignal> removedAtSignal(const std::filesystem::path& folder) {
-    std::deque<RemovedAtSignal> swept;
-    for (const auto name : workingFiles)
-        swept.emplace_back(folder / name);
-    swept.emplace_back(folder / screenFile);
-    swept.emplace_back(folder);
-    return swept;
-}
+/// The folder that the program works in. It goes with the run, also when a signal ends it.
+class WorkFolder {
+  public:
+    WorkFolder() {
+        for (const auto name : workingFiles)
+            swept_.emplace_back(path() / name);
+        swept_.emplace_back(path() / screenFile);
+        swept_.emplace_back(path());
+    }
+
+    [[nodiscard]] const QTemporaryDir& folder() const { return folder_; }
+    [[nodiscard]] std::filesystem::path path() const { return folder_.path().toStdString(); }
+
+  private:
+    std::deque<RemovedAtSignal> swept_;  // lives longer than the folder
+    QTemporaryDir folder_;
+};
 
 /// A screen in memory, on which an enlarged window has the shape of the page.
 void makeScreen(const QString& file) {
@@ -100,18 +108,17 @@ void makeScreen(const QString& file) {
 }
 
 int run(const ReportCommand& command, int& argc, char** argv) {
-    const QTemporaryDir folder;
-    if (!folder.isValid()) {
+    const WorkFolder work;
+    if (!work.folder().isValid()) {
         std::fprintf(stderr, "No temporary folder can be made (%s). Make room, then try again.\n",
-                     folder.errorString().toStdString().c_str());
+                     work.folder().errorString().toStdString().c_str());
         return 1;
     }
-    const auto swept = removedAtSignal(folder.path().toStdString());
-    makeScreen(folder.filePath(screenFile));
+    makeScreen(work.folder().filePath(screenFile));
     qInstallMessageHandler(keepQuiet);
     const Application application(argc, argv);
     const Unattended outside;
-    const auto failure = makeReport(command, folder.path().toStdString());
+    const auto failure = makeReport(command, work.path());
     if (failure)
         std::fprintf(stderr, "%s\n", failure->sentence.c_str());
     return failure ? 1 : 0;

@@ -116,7 +116,8 @@ TEST(RowEditing, AFailureLeavesTheUsersRows) {
     EXPECT_NE(failure->sentence.find("Joint.txt\" is write-protected"), std::string::npos);
     EXPECT_EQ(folder.read("Joint.txt"), rows);
     std::filesystem::remove(folder / "Joint.txt");
-    for (const auto* reason : {"Joint.txt\" has gone", "Joint.txt\" cannot be read (it is a folder"}) {
+    for (const auto* reason :
+         {"Joint.txt\" has gone", "Joint.txt\" cannot be read (it is a folder"}) {
         failure = addRow<JointRow>(folder.path(), 0, {" 1", "Fixed", "None"});
         ASSERT_TRUE(failure);
         EXPECT_NE(failure->sentence.find(reason), std::string::npos) << failure->sentence;
@@ -148,15 +149,14 @@ TEST(FileSet, OneThatWasKilledWhileItsFilesTookTheirPlacesIsFinished) {
     elsewhere.write("victim", "kept");
     folder.write("victim", "kept");
     folder.write("victim" + token, "evil");
-    folder.write("Unfinished.set",
-                 "BM.txt" + token + "\nTB.txt" + token + "\nvictim" + token + "\n../" +
-                     elsewhere.path().filename().string() + "/victim" + token + "\nJoint.txt\n");
+    folder.write("Unfinished.set", "BM.txt" + token + "\nTB.txt" + token + "\nvictim" + token +
+                                       "\n../" + elsewhere.path().filename().string() + "/victim" +
+                                       token + "\nJoint.txt\n");
     const FileSet next(folder.path());
-    EXPECT_EQ(folder.contents(),
-              (std::map<std::string, std::string>{{"BM.txt", "new"},
-                                                  {"TB.txt", "new"},
-                                                  {"victim", "kept"},
-                                                  {"victim" + token, "evil"}}));
+    EXPECT_EQ(
+        folder.contents(),
+        (std::map<std::string, std::string>{
+            {"BM.txt", "new"}, {"TB.txt", "new"}, {"victim", "kept"}, {"victim" + token, "evil"}}));
     EXPECT_EQ(elsewhere.read("victim"), "kept");
 }
 
@@ -294,10 +294,11 @@ TEST(FolderLock, IsHeldByOneAndFreeOnceItsProcessHasDied) {
     FolderLock lock;
     const auto failure = lock.take(folder.path(), 0s);
     ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->sentence,
-              "The folder \"" + folder.path().string() + "\" is in use by core_test (process " +
-                  std::to_string(child) +
-                  "). Wait until it has finished or close it, then try again; nothing was changed.");
+    EXPECT_EQ(
+        failure->sentence,
+        "The folder \"" + folder.path().string() + "\" is in use by core_test (process " +
+            std::to_string(child) +
+            "). Wait until it has finished or close it, then try again; nothing was changed.");
     EXPECT_TRUE(lock.holder().runsThisProgram);
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
