@@ -10,7 +10,7 @@
 #include <system_error>
 #include <utility>
 
-#include "core/store/file_set.h"
+#include "core/store/replacing_file.h"
 
 namespace trabeon {
 namespace {
@@ -128,22 +128,6 @@ void MurderFile(const std::filesystem::path& file) {
     std::error_code ignored;
     if (!std::filesystem::is_directory(file, ignored))
         std::filesystem::remove(file, ignored);
-}
-
-Failure CreateNFile(const std::filesystem::path& folder) {
-    FileSet files(folder);
-    for (const auto name : projectFiles)
-        files.add(name);
-    if (auto failure = files.commit())
-        return failure;
-    MurderFile(folder / working_file::title);
-    MurderFile(folder / working_file::record);
-    for (const auto name : projectFiles)
-        if (const auto text = readFile(folder / name); !text || !text->empty())
-            return Refusal{'"' + (folder / name).string() +
-                           "\" cannot be emptied. It still holds rows of another project; move it "
-                           "away, then try again."};
-    return std::nullopt;
 }
 
 }  // namespace trabeon

@@ -111,8 +111,4 @@ void DuplicateFile(const std::filesystem::path& Source, const std::filesystem::p
 /// Deletes a file. Silent, also when there is none.
 void MurderFile(const std::filesystem::path& file);
 
-/// Makes the seven project files of the folder exist and be empty, all of them or none, and drops
-/// the title and the record that belonged to them. Refuses if one of them cannot be emptied.
-[[nodiscard]] Failure CreateNFile(const std::filesystem::path& folder);
-
 }  // namespace trabeon

@@ -1,5 +1,6 @@
 #include "forms/main/frmTrabeon.h"
 
+#include "core/store/new_project.h"
 #include "core/store/project_file.h"
 #include "core/store/recovery.h"
 #include "core/store/replacing_file.h"

@@ -1,3 +1,4 @@
+#include "core/store/new_project.h"
 #include "core/store/project_file.h"
 
 #include <gtest/gtest.h>

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/store/new_project.h"
 #include "core/store/project_file.h"
 #include "core/store/working_files.h"
 #include "tests/support/full_disk.h"

@@ -12,6 +12,7 @@
 #include "core/store/file_set.h"
 #include "core/store/folder_lock.h"
 #include "core/store/folder_record.h"
+#include "core/store/new_project.h"
 #include "core/store/project_file.h"
 #include "core/store/replacing_file.h"
 #include "core/store/row_editing.h"

@@ -1,0 +1,24 @@
+#include "core/store/new_project.h"
+
+#include "core/store/file_set.h"
+#include "core/store/working_files.h"
+
+namespace trabeon {
+
+Failure CreateNFile(const std::filesystem::path& folder) {
+    FileSet files(folder);
+    for (const auto name : projectFiles)
+        files.add(name);
+    if (auto failure = files.commit())
+        return failure;
+    MurderFile(folder / working_file::title);
+    MurderFile(folder / working_file::record);
+    for (const auto name : projectFiles)
+        if (const auto text = readFile(folder / name); !text || !text->empty())
+            return Refusal{'"' + (folder / name).string() +
+                           "\" cannot be emptied. It still holds rows of another project; move it "
+                           "away, then try again."};
+    return std::nullopt;
+}
+
+}  // namespace trabeon
