@@ -3,6 +3,7 @@
 #include <array>
 #include <cstring>
 
+#include "core/analysis/result_state.h"
 #include "core/store/file_set.h"
 #include "core/store/folder_record.h"
 #include "core/text/number_masks.h"
@@ -81,14 +82,18 @@ void writeLoads(FileSet& files, const std::filesystem::path& folder, const Membe
     text = std::move(normal);
 }
 
-/// Rows that a project file put here still come from there once they are in normal form.
+/// Rows that a project file put here still come from there once they are in normal form. The results
+/// are of these rows.
 void writeRecord(FileSet& files, const std::filesystem::path& folder, std::uint64_t before,
-                 std::uint64_t after) {
+                 std::uint64_t after, double Divisions) {
     auto record = readRecord(folder);
-    if (before == after || record.unpackedInput != before)
-        return;
-    record.unpackedInput = after;
-    files.add(working_file::record).write(textOf(record));
+    const auto old = textOf(record);
+    if (record.unpackedInput == before)
+        record.unpackedInput = after;
+    record.table = after;
+    record.stations = stationsFingerprint(after, Divisions);
+    if (const auto text = textOf(record); text != old)
+        files.add(working_file::record).write(text);
 }
 
 }  // namespace
@@ -154,7 +159,7 @@ std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
     writeMaxima(files.add(working_file::maxima), *analysis);
     writeLoads(files, folder, analysis->points, input->points);
     writeLoads(files, folder, analysis->udls, input->udls);
-    writeRecord(files, folder, before, input->fingerprint());
+    writeRecord(files, folder, before, input->fingerprint(), settings.Divisions);
     if (const auto failure = files.commit()) {
         outputs.refuse(*failure);
         return std::nullopt;

@@ -15,9 +15,12 @@ namespace {
 using Number = std::optional<std::uint64_t>;
 
 /// The lines of the record, each a label and a number.
-constexpr std::array<std::pair<std::string_view, Number FolderRecord::*>, 2> labels{{
+constexpr std::array<std::pair<std::string_view, Number FolderRecord::*>, 5> labels{{
     {"unpacked input ", &FolderRecord::unpackedInput},
     {"unpacked dimensions ", &FolderRecord::unpackedDimensions},
+    {"table of ", &FolderRecord::table},
+    {"stations of ", &FolderRecord::stations},
+    {"design of ", &FolderRecord::design},
 }};
 
 /// Files that hold the user's rows or results; the others are the program's own.
@@ -60,6 +63,13 @@ std::uint64_t fingerprint(std::string_view text) {
     return hash;
 }
 
+std::uint64_t mixedFingerprint(std::initializer_list<std::uint64_t> fingerprints) {
+    std::uint64_t hash = 0;
+    for (const auto each : fingerprints)
+        hash = mixed(hash, each);
+    return hash;
+}
+
 std::uint64_t fingerprint(std::initializer_list<std::string_view> texts) {
     std::uint64_t hash = 0;
     for (const auto text : texts)
@@ -88,13 +98,17 @@ std::string textOf(const FolderRecord& record) {
     return text;
 }
 
+std::uint64_t inputFingerprint(const std::filesystem::path& folder) {
+    const auto text = [&](std::string_view name) { return readWhole(folder / name); };
+    return fingerprint({text(working_file::joint), text(working_file::member),
+                        text(working_file::point), text(working_file::udl)});
+}
+
 Failure holdsOtherRows(const std::filesystem::path& folder) {
     const auto record = readRecord(folder);
-    const auto text = [&](std::string_view name) { return readWhole(folder / name); };
-    const auto input = fingerprint({text(working_file::joint), text(working_file::member),
-                                    text(working_file::point), text(working_file::udl)});
-    if (record.unpackedInput == input &&
-        record.unpackedDimensions == fingerprint(text(working_file::beamDimensions)))
+    const auto dimensions = readWhole(folder / working_file::beamDimensions);
+    if (record.unpackedInput == inputFingerprint(folder) &&
+        record.unpackedDimensions == fingerprint(dimensions))
         return std::nullopt;
     std::error_code missing;
     for (const auto name : workingFiles)

@@ -1,4 +1,5 @@
-// What a working folder records of its rows: whether a project file put them there.
+// What a working folder records of its files: which rows a project file put there, and which input
+// its results were made from.
 #pragma once
 
 #include <cstdint>
@@ -15,15 +16,23 @@ namespace trabeon {
 /// A number that stands for a text: another text has another one, but for one chance in 2^64.
 [[nodiscard]] std::uint64_t fingerprint(std::string_view text);
 
+/// One fingerprint of several, in their order.
+[[nodiscard]] std::uint64_t mixedFingerprint(std::initializer_list<std::uint64_t> fingerprints);
+
 /// The same of several texts in their order.
 [[nodiscard]] std::uint64_t fingerprint(std::initializer_list<std::string_view> texts);
 
-/// "Record.txt": what a folder knows of its own rows. It changes together with them.
+/// "Record.txt". It changes together with the rows and results.
 struct FolderRecord {
     /// Of the four input files, and of the beam dimensions, as a project file put them here. Rows
     /// with other fingerprints were made or changed by hand, and exist nowhere else.
     std::optional<std::uint64_t> unpackedInput, unpackedDimensions;
+    /// Of what the balance table, the stations and the design were made from.
+    std::optional<std::uint64_t> table, stations, design;
 };
+
+/// Of the joints, members and loads in a folder.
+[[nodiscard]] std::uint64_t inputFingerprint(const std::filesystem::path& folder);
 
 /// An unreadable or absent record knows nothing.
 [[nodiscard]] FolderRecord readRecord(const std::filesystem::path& folder);

@@ -196,10 +196,15 @@ Failure writeWorkingFiles(const Project& project, const std::filesystem::path& f
     for (const auto& [name, text] : packedFiles)
         files.add(name).write(project.*text);
     files.add(working_file::title).write(titleLines(project.title));
-    FolderRecord record;
+    auto record = readRecord(folder);
     record.unpackedInput =
         fingerprint({project.joints, project.members, project.points, project.udls});
     record.unpackedDimensions = fingerprint(project.beamDimensions);
+    record.table.reset();  // it comes with the project
+    if (!record.stations)  // these belong to another beam, recorded or not
+        record.stations = 0;
+    if (!record.design)
+        record.design = 0;
     files.add(working_file::record).write(textOf(record));
     return files.commit();
 }

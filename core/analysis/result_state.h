@@ -1,0 +1,26 @@
+// Whether results belong to the beam and the settings that are there now.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string_view>
+
+namespace trabeon {
+
+/// absent: there are no results. unrecorded: nobody knows what they were made from, for example
+/// because they were written by hand. outdated: the rows or the settings have changed since.
+enum class ResultState { absent, unrecorded, outdated, current };
+
+inline constexpr std::string_view analyseAgain =
+    "Of another beam or an earlier state: analyse again";
+inline constexpr std::string_view designAgain =
+    "Of another beam or an earlier state: design again";
+
+/// What stations are made from: the four input files, and the number of parts of a span.
+[[nodiscard]] std::uint64_t stationsFingerprint(std::uint64_t input, double Divisions);
+
+/// Of "TB.txt", and of "BM.txt" with these Divisions.
+[[nodiscard]] ResultState tableState(const std::filesystem::path& folder);
+[[nodiscard]] ResultState stationsState(const std::filesystem::path& folder, double Divisions);
+
+}  // namespace trabeon
