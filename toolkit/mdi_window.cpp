@@ -2,12 +2,14 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QLabel>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QPointer>
 #include <QScreen>
+#include <QStatusBar>
 
 #include "toolkit/access_keys.h"
 
@@ -15,8 +17,16 @@ namespace trabeon {
 
 class MdiWindow::Window : public QMainWindow {
   public:
-    explicit Window(MdiWindow& owner) : owner_(owner), area(new QMdiArea(this)) {
+    explicit Window(MdiWindow& owner)
+        : owner_(owner), area(new QMdiArea(this)), lastEvent(new QLabel), summary(new QLabel) {
         setCentralWidget(area);
+        // A long event is cut off at its end instead of making the window wider.
+        lastEvent->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        lastEvent->setTextFormat(Qt::PlainText);
+        lastEvent->setAccessibleName("Latest event");
+        summary->setAccessibleName("Summary of the project");
+        statusBar()->addWidget(lastEvent, 1);
+        statusBar()->addPermanentWidget(summary);
         new AccessKeys(*this, *area);
         // Closing a child brings up the one used before it, not the oldest.
         area->setActivationOrder(QMdiArea::ActivationHistoryOrder);
@@ -43,6 +53,8 @@ class MdiWindow::Window : public QMainWindow {
 
   public:
     QMdiArea* const area;
+    QLabel* const lastEvent;
+    QLabel* const summary;
 };
 
 namespace {
@@ -129,6 +141,23 @@ std::function<void()> MdiWindow::KeptOrder() const {
         if (front)
             area->setActiveSubWindow(front);
     };
+}
+
+void MdiWindow::SetEvent(const std::string& text) {
+    Inner().lastEvent->setText(QString::fromStdString(text));
+    Inner().lastEvent->setToolTip(Inner().lastEvent->text());
+}
+
+std::string MdiWindow::Event() const {
+    return Inner().lastEvent->text().toStdString();
+}
+
+void MdiWindow::SetSummary(const std::string& text) {
+    Inner().summary->setText(QString::fromStdString(text));
+}
+
+std::string MdiWindow::Summary() const {
+    return Inner().summary->text().toStdString();
 }
 
 WindowState MdiWindow::State() const {

@@ -37,6 +37,12 @@ class MdiWindow : public Placement {
     // Puts the child windows back into the order in which they stand now, the front one in front.
     std::function<void()> KeptOrder() const;
 
+    // The line below the desktop: the latest event at the left, a summary at the right.
+    void SetEvent(const std::string& text);
+    std::string Event() const;
+    void SetSummary(const std::string& text);
+    std::string Summary() const;
+
     WindowState State() const;
     // Waits until the desktop has given the window its new size.
     void SetState(WindowState state);

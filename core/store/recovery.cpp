@@ -69,20 +69,22 @@ Failure setAside(const fs::path& recovered) {
 
 }  // namespace
 
-Failure recoverRows(const fs::path& folder) {
+Outcome<bool> recoverRows(const fs::path& folder) {
     finishSet(folder);
     if (!endedWithoutExit(folder))
-        return std::nullopt;
+        return false;
     const auto project = projectIn(folder);
     if (!project)
         return project.refusal();
     const auto text = rescuedText(*project);
     const auto target = folder / recoveredProject;
     if (isWithin(text, packedText({})) || wasRecoveredBefore(text, folder))
-        return std::nullopt;
+        return false;
     if (auto failure = setAside(target))
-        return failure;
-    return replaceFile(target, text, Survives::powerCut);
+        return *failure;
+    if (auto failure = replaceFile(target, text, Survives::powerCut))
+        return *failure;
+    return true;
 }
 
 }  // namespace trabeon

@@ -16,7 +16,8 @@ inline constexpr std::string_view recoveredProject = "Recovered.TB";
 /// Lines that are no rows are packed as they are, so that they can be mended by hand. An older
 /// "Recovered.TB" is kept under the first free name of "Recovered 2.TB", "Recovered 3.TB" ...
 ///
-/// Refuses files that cannot be read or written: they must not be emptied then.
-[[nodiscard]] Failure recoverRows(const std::filesystem::path& folder);
+/// Returns whether rows were packed now. Refuses files that cannot be read or written: they must
+/// not be emptied then.
+[[nodiscard]] Outcome<bool> recoverRows(const std::filesystem::path& folder);
 
 }  // namespace trabeon

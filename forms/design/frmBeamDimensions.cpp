@@ -31,7 +31,7 @@ std::string lengthText(double value) {
 frmBeamDimensions::frmBeamDimensions(Context& context)
     : Form("Beam Dimensions"),
       context_(context),
-      rows_(context, ListView1, cmdRemove, nullptr, {"Member ", Numbering::asRead}) {
+      rows_(context, ListView1, cmdRemove, nullptr, {"Member ", Numbering::asRead, "Section"}) {
     placeControls();
     wireBoxes();
     ListView1.SetAccessibleName("Sections");

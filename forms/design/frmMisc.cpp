@@ -1,17 +1,18 @@
 #include "forms/design/frmMisc.h"
 
 #include "forms/input/boxes.h"
-#include "forms/main/keys.h"
+#include "forms/main/status_line.h"
 
 namespace trabeon {
 
-frmMisc::frmMisc(Context&) : Form("Miscellaneous Properties") {
+frmMisc::frmMisc(Context& context) : Form("Miscellaneous Properties") {
     placeControls();
-    for (auto [box, next] : {std::pair<TextBox*, Control*>{&txtCover, &txtLinks},
-                             {&txtLinks, &txthagg},
-                             {&txthagg, &chkrestrict}}) {
+    for (auto [box, name, next] :
+         {std::tuple<TextBox*, const char*, Control*>{&txtCover, "Cover", &txtLinks},
+          {&txtLinks, "The link size", &txthagg},
+          {&txthagg, "The aggregate size", &chkrestrict}}) {
         box->GotFocus = [box = box] { box->SelectAll(); };
-        box->KeyPress = [next = next](int& keyAscii) { keepKeys(keyAscii, plainNumber, *next); };
+        takeNumbers(context, *box, {name, plainNumber, next});
     }
     cmdOK.Click = [this] { cmdOK_Click(); };
     SetTabOrder({&txtCover, &txtLinks, &txthagg, &chkrestrict, &cmdOK});

@@ -13,7 +13,7 @@ constexpr int listLeft = 2760;
 frmMembers::frmMembers(Context& context)
     : Form("Members"),
       context_(context),
-      rows_(context, ListView1, cmdRemove, &txtMemberD, {"Member ", Numbering::fromOne}) {
+      rows_(context, ListView1, cmdRemove, &txtMemberD, {"Member ", Numbering::fromOne, "Member"}) {
     placeControls();
     ListView1.SetAccessibleName("Members");
     cmdRemove.SetEnabled(false);
@@ -51,13 +51,14 @@ void frmMembers::placeControls() {
 }
 
 void frmMembers::wireNumberBoxes() {
-    for (auto [box, next] :
-         {std::pair{&txtYM, &txtMI}, {&txtMI, &txtLength}, {&txtLength, &txtMemberD}}) {
+    for (auto [box, name, next] : {std::tuple{&txtYM, "E", &txtMI},
+                                   {&txtMI, "I", &txtLength},
+                                   {&txtLength, "L", &txtMemberD}}) {
         box->GotFocus = [this, box = box] {
             box->SelectAll();
             cmdRemove.SetEnabled(false);
         };
-        box->KeyPress = [next = next](int& keyAscii) { keepKeys(keyAscii, plainNumber, *next); };
+        takeNumbers(context_, *box, {name, plainNumber, next});
     }
 }
 
@@ -78,6 +79,7 @@ bool frmMembers::lacksValue() const {
 
 void frmMembers::cmdAddJoint_Click() {
     if (lacksValue()) {
+        say(context_, "No member added: E, I and L must all be numbers above 0");
         txtYM.SetFocus();
         return;
     }

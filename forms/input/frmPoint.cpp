@@ -9,6 +9,7 @@ frmPoint::frmPoint(Context& context)
     : LoadForm(context,
                {"Point Load",
                 "Member",
+                "Point load",
                 {{"Member", 1235}, {"a", 1058}, {"P", 1058}, {"Description of Load", 2540}},
                 1995},
                picPt, txtPtD) {
@@ -44,8 +45,8 @@ void frmPoint::wireBoxes() {
     for (TextBox* box : {&txtPtA, &txtPtLoad})
         box->GotFocus = [box] { box->SelectAll(); };
     txtPtD.GotFocus = [this] { description_GotFocus(); };
-    txtPtA.KeyPress = [this](int& keyAscii) { keepKeys(keyAscii, plainNumber, txtPtLoad); };
-    txtPtLoad.KeyPress = [this](int& keyAscii) { keepKeys(keyAscii, signedNumber, txtPtD); };
+    takeNumbers(context_, txtPtA, {"a", plainNumber, &txtPtLoad});
+    takeNumbers(context_, txtPtLoad, {"P", signedNumber, &txtPtD});
     txtPtD.KeyPress = [this](int& keyAscii) { txtPtD_KeyPress(keyAscii); };
 }
 
@@ -61,6 +62,8 @@ void frmPoint::cmdAdd_Click() {
     if (numberIn(txtPtLoad) != 0) {
         picPt.Cls();
         rows_.Add({memberText(), txtPtA.Text(), txtPtLoad.Text(), txtPtD.Text()});
+    } else {
+        say(context_, "No load added: P is 0");
     }
     txtPtA.SetFocus();
 }

@@ -12,6 +12,7 @@ frmUDL::frmUDL(Context& context)
     : LoadForm(context,
                {"Uniformly Distributed Load",
                 "&Member",
+                "Distributed load",
                 {{"Member", 1235},
                  {"a", 882},
                  {"b", 882},
@@ -65,8 +66,8 @@ void frmUDL::wireBoxes() {
     txtUDLD.GotFocus = [this] { txtUDLD_GotFocus(); };
     txtUdlA.KeyPress = [this](int& keyAscii) { txtUdlA_KeyPress(keyAscii); };
     txtUDLB.KeyPress = [this](int& keyAscii) { txtUDLB_KeyPress(keyAscii); };
-    txtUDLw1.KeyPress = [this](int& keyAscii) { keepKeys(keyAscii, signedNumber, txtUDLw2); };
-    txtUDLw2.KeyPress = [this](int& keyAscii) { keepKeys(keyAscii, signedNumber, txtUDLD); };
+    takeNumbers(context_, txtUDLw1, {"w1", signedNumber, &txtUDLw2});
+    takeNumbers(context_, txtUDLw2, {"w2", signedNumber, &txtUDLD});
     txtUDLD.KeyPress = [this](int& keyAscii) { txtUDLD_KeyPress(keyAscii); };
 }
 
@@ -86,15 +87,20 @@ void frmUDL::txtUdlA_KeyPress(int& keyAscii) {
     if (keyAscii == '+') {
         setNumber(txtUdlA, numberIn(txtUdlA) + numberIn(txtUDLB));
         txtUDLB.SetFocus();
+        keyAscii = 0;
+        return;
     }
-    keepKeys(keyAscii, plainNumber, txtUDLB);
+    keepKeysAndSay(context_, keyAscii, {"a", plainNumber, &txtUDLB});
 }
 
 void frmUDL::txtUDLB_KeyPress(int& keyAscii) {
-    const double L = keyAscii == 'L' || keyAscii == 'l' ? chosenLength() : 0;
-    if (L > 0)
+    const bool isRest = keyAscii == 'L' || keyAscii == 'l';
+    if (const double L = isRest ? chosenLength() : 0; L > 0) {
         setNumber(txtUDLB, L - numberIn(txtUdlA));
-    keepKeys(keyAscii, plainNumber, txtUDLw1);
+        keyAscii = 0;
+        return;
+    }
+    keepKeysAndSay(context_, keyAscii, {"b", plainNumber, &txtUDLw1});
 }
 
 void frmUDL::txtUDLD_KeyPress(int keyAscii) {
@@ -136,6 +142,7 @@ void frmUDL::cmdAdd_Click() {
         return;
     zeroIfNone(txtUdlA);
     if (numberIn(txtUDLB) == 0) {
+        say(context_, "No load added: its width b is 0");
         txtUDLB.SetFocus();
         return;
     }

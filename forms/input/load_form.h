@@ -32,6 +32,7 @@ class LoadForm : public Form {
     struct Kind {
         const char* caption;
         const char* memberCaption;
+        const char* row;  // what the status line calls one
         std::vector<ListColumn> columns;
         int buttonsTop;  // twips: where the row of buttons stands, the list below it
     };
@@ -41,7 +42,7 @@ class LoadForm : public Form {
           lblMember(*this, kind.memberCaption),
           ListView1(*this, kind.columns),
           context_(context),
-          rows_(context, ListView1, cmdRemove, &description, {"Member ", Numbering::asRead}),
+          rows_(context, ListView1, cmdRemove, &description, {"Member ", Numbering::asRead, kind.row}),
           sketch_(sketch),
           description_(description),
           listTop_(kind.buttonsTop + 495) {
@@ -88,6 +89,7 @@ class LoadForm : public Form {
     [[nodiscard]] bool lacksMember() {
         if (member() > 0)
             return false;
+        say(context_, "No load added: there is no member to choose. Add members first");
         cboMember.SetFocus();
         return true;
     }

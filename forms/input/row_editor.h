@@ -11,6 +11,7 @@
 #include "forms/input/boxes.h"
 #include "forms/main/context.h"
 #include "forms/main/messages.h"
+#include "forms/main/status_line.h"
 #include "toolkit/button.h"
 #include "toolkit/list_view.h"
 
@@ -25,6 +26,7 @@ class RowEditor {
     struct Kind {
         std::string noun;     // "Joint ", in front of the number
         Numbering numbering;  // of the rows that a Remove leaves
+        std::string row;      // "Point load", what the status line calls a row
     };
 
     /// Takes over the events of the list. `description` is the box that goes back to "None" with
@@ -75,8 +77,10 @@ class RowEditor {
         Unsort();
         cmdRemove_.SetEnabled(false);
         const auto position = static_cast<std::size_t>(list_.SelectedItem().FilePosition());
+        const auto after = hasRows() ? " added after " + nameOf(position) : " added";
         if (!written(addRow(context_.folder, position, row)))
             return false;
+        say(context_, kind_.row + numberOf(row) + after);
         Fill();
         resetDescription();
         SelectLast();
@@ -86,7 +90,9 @@ class RowEditor {
     /// Takes the selected row away, without a question.
     void Remove() {
         const auto position = static_cast<std::size_t>(list_.SelectedItem().FilePosition());
+        const auto name = hasRows() ? nameOf(position) : "";
         if (hasRows() && written(removeRow<Row>(context_.folder, position, kind_.numbering))) {
+            say(context_, name + " removed");
             resetDescription();
             Fill();
             SelectLast();
@@ -115,14 +121,28 @@ class RowEditor {
         list_.SetSorted(true);
     }
 
+    /// " 4" where rows have numbers of their own; loads and sections have that of their member.
+    [[nodiscard]] std::string numberOf(const Row& row) const {
+        return kind_.numbering == Numbering::fromOne ? shownNumber(row.*Row::fields.front()) : "";
+    }
+
+    /// The row at a position of the file, from 1: "Joint 3", or "Point load, row 3".
+    [[nodiscard]] std::string nameOf(std::size_t position) const {
+        const bool isNumbered = kind_.numbering == Numbering::fromOne;
+        return isNumbered ? list_.SelectedItem().Text()
+                          : kind_.row + ", row " + std::to_string(position);
+    }
+
     [[nodiscard]] bool hasRows() const { return list_.ListItems.Count() > 0; }
 
     [[nodiscard]] bool written(const Failure& failure) {
-        if (failure)
+        if (failure) {
             warn(failure->sentence);
-        else
-            context_.dataChanged = 1;
-        return !failure;
+            return false;
+        }
+        context_.dataChanged = 1;
+        showSummary(context_);
+        return true;
     }
 
     void resetDescription() {

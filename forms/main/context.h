@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <utility>
 
 #include "toolkit/common_dialog.h"
 #include "toolkit/forms.h"
@@ -11,9 +12,25 @@
 
 namespace trabeon {
 
+/// 1 while the project has changes that are not saved.
+class ChangedFlag {
+  public:
+    std::function<void()> onChange;
+
+    ChangedFlag& operator=(int value) {
+        if (std::exchange(value_, value) != value && onChange)
+            onChange();
+        return *this;
+    }
+    operator int() const { return value_; }  // NOLINT: it is a number to all forms
+
+  private:
+    int value_ = 0;
+};
+
 struct Context {
     std::filesystem::path folder;  // of the working files
-    int dataChanged = 0;           // 1 while the project has changes that are not saved
+    ChangedFlag dataChanged{};
     CommonDialog CommonDialog1;    // serves all file dialogs
     MenuEntry mnuContinuous, mnuSingle;
     Forms& forms;

@@ -17,6 +17,7 @@
 #include "forms/input/frmUDL.h"
 #include "forms/main/frmTitle.h"
 #include "forms/main/messages.h"
+#include "forms/main/status_line.h"
 #include "forms/results/frmAnalysis.h"
 #include "forms/results/frmBMData.h"
 #include "forms/results/frmContinuousS.h"
@@ -40,7 +41,8 @@ constexpr int yesNoCancel = 51;
 }  // namespace
 
 frmTrabeon::frmTrabeon(const std::filesystem::path& folder)
-    : window_(untitledCaption), forms_(window_), context_{folder, 0, {}, {}, {}, forms_} {
+    : window_(untitledCaption), forms_(window_), context_{folder, {}, {}, {}, {}, forms_} {
+    context_.dataChanged.onChange = [this] { showSummary(context_); };
     context_.CommonDialog1.InitDir = (folder / "examples").string();
     registerForms();
     addMenus();
@@ -83,9 +85,10 @@ bool frmTrabeon::Start() {
             "disk, then start it again.");
         return false;
     }
-    if (const auto failure = recoverRows(context_.folder)) {
+    const auto recovered = recoverRows(context_.folder);
+    if (!recovered) {
         warn("The rows of the last run, which ended without Exit, cannot be kept: " +
-             failure->sentence);
+             recovered.refusal().sentence);
         return false;
     }
     if (const auto failure = CreateNFile(context_.folder)) {
@@ -93,6 +96,9 @@ bool frmTrabeon::Start() {
         return false;
     }
     startUntitled();
+    if (*recovered)
+        say(context_, "The last run ended without Exit. Its rows are in \"" +
+                          (context_.folder / recoveredProject).string() + "\": File, Open");
     return true;
 }
 
@@ -171,6 +177,7 @@ bool frmTrabeon::writeProject() {
     }
     rememberFile(*packed);
     context_.dataChanged = 0;
+    say(context_, "Saved as \"" + projectFile_ + '"');
     return true;
 }
 
@@ -208,6 +215,8 @@ bool frmTrabeon::FileOpen() {
     setProjectName(captionName(dialog.FileName));
     fillTitle(opened->title);
     forms_.Get<frmAnalysis>().ShowTable();
+    showSummary(context_);
+    say(context_, "Opened \"" + projectFile_ + "\". Analyse it to draw its diagrams");
     return true;
 }
 
@@ -225,6 +234,7 @@ void frmTrabeon::rememberFile(std::uint64_t fingerprint) {
 void frmTrabeon::startUntitled() {
     projectFile_.clear();
     setProjectName(untitled);
+    showSummary(context_);
 }
 
 void frmTrabeon::mnuNew_Click() {

@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "core/text/number_text.h"
-#include "forms/main/keys.h"
+#include "forms/main/status_line.h"
 
 namespace trabeon {
 namespace {
@@ -61,7 +61,7 @@ void frmOptions::Form_Load() {
 }
 
 void frmOptions::txtDivision_KeyPress(int& keyAscii) {
-    keepKeys(keyAscii, plainNumber);
+    keepKeysAndSay(context_, keyAscii, {"The number of sections", plainNumber});
 }
 
 void frmOptions::cmdChangeM_Click() {

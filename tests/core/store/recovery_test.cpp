@@ -19,8 +19,8 @@ const std::string packedJoints = "Description\r\n1,Fixed,\"left, by a former run
 
 /// What "Recovered.TB" holds after a start, or that there is none.
 std::string recovered(const TemporaryFolder& folder, const std::string& name = "Recovered.TB") {
-    const auto failure = recoverRows(folder.path());
-    return failure ? failure->sentence : folder.read(name);
+    const auto done = recoverRows(folder.path());
+    return done ? folder.read(name) : done.refusal().sentence;
 }
 
 TEST(Recovery, RowsComeBackAsAProjectThatOpens) {

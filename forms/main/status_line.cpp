@@ -1,0 +1,50 @@
+#include "forms/main/status_line.h"
+
+#include "core/analysis/beam_summary.h"
+#include "toolkit/mdi_window.h"
+#include "toolkit/text_box.h"
+
+namespace trabeon {
+namespace {
+
+constexpr auto gap = "    ";
+
+std::string counted(std::size_t count, const char* noun) {
+    return std::to_string(count) + ' ' + noun + (count == 1 ? "" : "s");
+}
+
+const char* acceptedBy(std::string_view passing) {
+    return passing == signedNumber ? " accepts digits, a point and a minus sign"
+                                   : " accepts digits and a point";
+}
+
+}  // namespace
+
+void say(const Context& context, const std::string& event) {
+    context.forms.Window().SetEvent(event);
+}
+
+void showSummary(const Context& context) {
+    const auto beam = beamSummary(context.folder);
+    std::string text = counted(beam.joints, "joint") + gap + counted(beam.members, "member") + gap +
+                       "length " + beam.length;
+    if (context.dataChanged == 1)
+        text += std::string(gap) + "Changed";
+    context.forms.Window().SetSummary(text);
+}
+
+void takeNumbers(const Context& context, TextBox& box, const NumberKeys& keys) {
+    box.KeyPress = [&context, keys](int& keyAscii) { keepKeysAndSay(context, keyAscii, keys); };
+}
+
+void keepKeysAndSay(const Context& context, int& keyAscii, const NumberKeys& keys) {
+    const bool isEnter = keyAscii == enterKey;
+    if (keys.next != nullptr)
+        keepKeys(keyAscii, keys.passing, *keys.next);
+    else
+        keepKeys(keyAscii, keys.passing);
+    if (keyAscii == 0 && !isEnter)
+        say(context, keys.name + std::string(acceptedBy(keys.passing)));
+}
+
+}  // namespace trabeon
