@@ -10,6 +10,7 @@
 #include <QScreen>
 
 #include "toolkit/access_keys.h"
+#include "toolkit/shown_text.h"
 
 namespace trabeon {
 
@@ -89,7 +90,7 @@ std::string MdiWindow::Caption() const {
 
 void MdiWindow::SetCaption(const std::string& caption) {
     caption_ = caption;
-    Inner().setWindowTitle(QString::fromStdString(caption));
+    Inner().setWindowTitle(ShownText(caption));
 }
 
 int MdiWindow::ScaleWidth() const {

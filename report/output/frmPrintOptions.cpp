@@ -1,5 +1,6 @@
 #include "report/output/frmPrintOptions.h"
 
+#include "core/text/readable.h"
 #include "forms/main/frmTitle.h"
 #include "forms/main/messages.h"
 #include "forms/results/frmOptions.h"
@@ -81,7 +82,7 @@ void frmPrintOptions::cmdPrint_Click() {
         return;
     const WaitCursor wait;
     if (!print(printedPages(source, Kinds(), optLand.Value()), *printer))
-        warn("The print of \"" + project +
+        warn("The print of \"" + excerpt(project) +
              "\" did not reach the printer or its file. See to the printer, or choose another "
              "file, then print again.");
 }
