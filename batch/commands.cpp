@@ -10,10 +10,12 @@
 #include "batch/beam_report.h"
 #include "batch/design_report.h"
 #include "core/analysis/result_files.h"
+#include "core/analysis/stray_loads.h"
 #include "core/design/reinforcement_tables.h"
 #include "core/design/shear.h"
 #include "core/store/file_set.h"
 #include "core/store/project_file.h"
+#include "core/text/readable.h"
 
 namespace trabeon {
 namespace {
@@ -94,7 +96,13 @@ std::optional<Analysis> analysed(const fs::path& folder, const AnalysisSettings&
         complain(message.text);
     };
     outputs.progress = std::move(progress);
-    return analyseFolder(folder, settings, outputs);
+    std::vector<StrayLoad> stray;
+    outputs.rowsRead = [&](const BeamRows& rows) { stray = strayLoads(rows); };
+    auto analysis = analyseFolder(folder, settings, outputs);
+    if (analysis)
+        for (const auto& load : stray)
+            complain(sentenceOf(load));
+    return analysis;
 }
 
 Exit analyseCommand(const CommandLine& line) {
@@ -136,10 +144,12 @@ Exit designCommand(const CommandLine& line) {
         return refused(*failure);
     finishSet(folder);
     const auto data = readDesignData(folder, Divisions);
-    if (auto failure = unfitStations(data))
+    if (!data)
+        return refused(data.refusal());
+    if (auto failure = unfitStations(*data))
         return refused(*failure);
-    warn(data);
-    const auto design = designBeam(data, *misc);
+    warn(*data);
+    const auto design = designBeam(*data, *misc);
     if (auto failure = writeDesign(folder, design))
         return refused(*failure);
     return design.ShearFailed ? refused({std::string(shearFailureSentence)}) : Exit::done;
@@ -179,7 +189,7 @@ Exit packCommand(const CommandLine& line) {
     if (auto failure = unfitFolder(folder))
         return refused(*failure);
     finishSet(folder);
-    if (!fs::exists(fs::path(folder) / working_file::joint))
+    if (std::error_code unknown; !fs::exists(fs::path(folder) / working_file::joint, unknown))
         return refused({"\"" + folder + "\" holds no beam: there is no Joint.txt in it."});
     const ProjectTitle untitled;
     const ProjectTitle title{line.option("--title").value_or(untitled.project),
@@ -190,8 +200,8 @@ Exit packCommand(const CommandLine& line) {
 }
 
 void show(const ProjectTitle& title, const Analysis& analysis, const fs::path& folder) {
-    std::printf("%s: %s, by %s\n\n", title.project.c_str(), title.beamName.c_str(),
-                title.designer.c_str());
+    std::printf("%s: %s, by %s\n\n", readable(title.project).c_str(),
+                readable(title.beamName).c_str(), readable(title.designer).c_str());
     const auto file = folder / working_file::balanceTable;
     if (analysis.beam.members() <= mostMembersShown)
         std::printf("Balance table (clockwise positive)\n%s\n",
@@ -207,12 +217,14 @@ Failure showDesign(const fs::path& folder, const AnalysisSettings& settings) {
     if (readWhole(folder / working_file::beamDimensions).empty())
         return std::nullopt;
     const auto data = readDesignData(folder, settings.Divisions);
-    warn(data);
-    const auto design = designBeam(data, {});
+    if (!data)
+        return data.refusal();
+    warn(*data);
+    const auto design = designBeam(*data, {});
     if (auto failure = writeDesign(folder, design))
         return failure;
-    const bool few = data.NumofMem() <= mostMembersShown;
-    const auto text = few ? designTable(design, data.NumofMem()) : designSummary(design);
+    const bool few = data->NumofMem() <= mostMembersShown;
+    const auto text = few ? designTable(design, data->NumofMem()) : designSummary(design);
     std::printf("\n%s", text.c_str());
     return std::nullopt;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <string>
 
 class QPrinter;
 
@@ -19,8 +20,11 @@ class PrintFile {
     // When the print has ended. False: the file is not whole, and the old one stands.
     [[nodiscard]] bool TakePlace() const;
 
+    // Empty with a real printer.
+    [[nodiscard]] std::string Path() const { return file_.toStdString(); }
+
   private:
-    QString file_;  // empty with a real printer
+    QString file_;
 };
 
 }  // namespace trabeon

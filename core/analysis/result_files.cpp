@@ -108,7 +108,9 @@ std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
         outputs.refuse(*failure);
         return std::nullopt;
     }
-    auto analysis = analyse(readBeamRows(folder), settings, writeRow, outputs);
+    auto rows = readBeamRows(folder);
+    outputs.rowsRead(rows);
+    auto analysis = analyse(std::move(rows), settings, writeRow, outputs);
     if (!analysis)
         return std::nullopt;
     writeStations(files.add(working_file::stations), *analysis);

@@ -113,9 +113,9 @@ TEST_F(PageTest, APrintThatEndsEarlyIsTold) {
     EXPECT_FALSE(Print(box, "missing/out.pdf").printed);
     folder.write("out.pdf", "old");
     std::filesystem::create_symlink("/dev/full", folder / "out.pdf.new");
-    EXPECT_EQ(Print(box).trouble,
-              "The report could not be printed. See to the printer, or choose another name for the "
-              "PDF file, then try again.");
+    EXPECT_EQ(Print(box).trouble, "The report could not be printed to \"" +
+                                      (folder / "out.pdf").string() +
+                                      "\". Choose another file, then try again.");
     EXPECT_EQ(folder.read("out.pdf"), "old") << "the disk is full";
 }
 
