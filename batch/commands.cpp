@@ -14,6 +14,8 @@
 #include "core/design/reinforcement_tables.h"
 #include "core/design/shear.h"
 #include "core/store/file_set.h"
+#include "core/store/output_file.h"
+#include "core/store/own_files.h"
 #include "core/store/project_file.h"
 #include "core/text/readable.h"
 
@@ -167,6 +169,8 @@ Exit tablesCommand(const CommandLine& line) {
 
 /// Reads and checks the project before it makes the folder.
 Outcome<Project> unpackInto(const std::string& file, const fs::path& folder) {
+    if (auto failure = unfitForProject(file, folder))
+        return *failure;
     auto project = readProject(file);
     if (!project)
         return project;
@@ -191,6 +195,8 @@ Exit packCommand(const CommandLine& line) {
     finishSet(folder);
     if (std::error_code unknown; !fs::exists(fs::path(folder) / working_file::joint, unknown))
         return refused({"\"" + folder + "\" holds no beam: there is no Joint.txt in it."});
+    if (auto failure = unfitProjectFile(line.operands[1]))
+        return refused(*failure);
     const ProjectTitle untitled;
     const ProjectTitle title{line.option("--title").value_or(untitled.project),
                              line.option("--designer").value_or(untitled.designer),
@@ -236,8 +242,7 @@ Exit runCommand(const CommandLine& line) {
     if (auto failure = unfit(*settings))
         return refused(*failure);
     const auto& file = line.operands[0];
-    const fs::path folder =
-        line.option("--out").value_or(fs::path(file).replace_extension().string());
+    const fs::path folder = line.option("--out").value_or(resultFolder(file).string());
     const auto project = unpackInto(file, folder);
     if (!project)
         return refused(project.refusal());
@@ -270,7 +275,8 @@ const std::vector<CommandForm>& commands() {
          "Analyses a project and shows the balance table, the moments, the maxima and the "
          "reactions; "
          "with dimensions, also the governing sections of its design. The "
-         "result files go to DIR, or to a folder beside the project that is named after it.",
+         "result files go to DIR, or to a folder beside the project: \"beam\" for \"beam.TB\", "
+         "\"beam results\" for a project without an ending.",
          "trabeon-batch run examples/two-span-floor-beam.TB"},
         {"analyse",
          analyseCommand,
@@ -303,7 +309,8 @@ const std::vector<CommandForm>& commands() {
          packCommand,
          "DIR FILE.TB",
          {"--title T", "--designer D", "--beam B"},
-         "Packs the working files of a folder into a project file.",
+         "Packs the working files of a folder into a project file. A file that is there and is no "
+         "project stays.",
          "trabeon-batch pack work beam.TB --title \"Warehouse\" --designer \"A. Engineer\" --beam "
          "B1"},
     };

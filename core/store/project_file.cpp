@@ -4,6 +4,7 @@
 #include <array>
 
 #include "core/store/file_set.h"
+#include "core/store/own_files.h"
 #include "core/store/rows.h"
 #include "core/text/readable.h"
 
@@ -218,6 +219,8 @@ Failure writeWorkingFiles(const Project& project, const std::filesystem::path& f
 
 Outcome<ProjectTitle> unpackProject(const std::filesystem::path& file,
                                     const std::filesystem::path& folder) {
+    if (auto failure = unfitForProject(file, folder))
+        return *failure;
     const auto project = readProject(file);
     if (!project)
         return project.refusal();
@@ -243,6 +246,8 @@ Outcome<Project> projectIn(const std::filesystem::path& folder) {
 
 Failure packProject(const std::filesystem::path& folder, const ProjectTitle& title,
                     const std::filesystem::path& file) {
+    if (auto failure = unfitForProject(file, folder))
+        return failure;
     for (const auto& text : {title.project, title.designer, title.beamName})
         if (auto failure = unfitTitle(text))
             return failure;

@@ -53,12 +53,13 @@ struct Project {
 
 /// Packs the working files of a folder. Refuses a title text that holds a double quote or a line
 /// end or is too long, working files that cannot be read or would make a project that cannot be
-/// opened again, and a file that cannot be written; the old file then stays as it was.
+/// opened again, and a file that is a working file itself or cannot be written; the old file then
+/// stays as it was.
 [[nodiscard]] Failure packProject(const std::filesystem::path& folder, const ProjectTitle& title,
                                   const std::filesystem::path& file);
 
 /// Unpacks a project file into a folder: reads it, then writes the working files. If it is refused
-/// no working file changes.
+/// no working file changes. Refuses a project file that is one of the folder's working files.
 [[nodiscard]] Outcome<ProjectTitle> unpackProject(const std::filesystem::path& file,
                                                   const std::filesystem::path& folder);
 

@@ -164,6 +164,17 @@ TEST(PackAndUnpack, GiveTheProjectBackWithItsTitle) {
               0);
     EXPECT_EQ(folder.read("again.TB"),
               TemporaryFolder::readFile(example("five-span-with-cantilever")));
+    folder.write("notes.txt", "mine");
+    fs::copy_file(folder / "again.TB", folder / "..TB");
+    const auto before = folder.contents();
+    for (const auto* taken : {"notes.txt", "work/Udl.txt", "work/Unfinished.set"}) {
+        const auto answer = batch({"pack", work, (folder / taken).string()});
+        EXPECT_EQ(answer.exit, 1);
+        expectAll(answer.err, {taken});
+    }
+    EXPECT_EQ(batch({"run", (folder / "..TB").string()}).exit, 0);
+    EXPECT_TRUE(fs::exists(folder / "..TB results/BM.txt"));
+    EXPECT_EQ(folder.contents(), before);
     EXPECT_EQ(batch({"unpack", (folder / "none.TB").string(), work}).exit, 1);
     EXPECT_EQ(batch({"pack", (folder / "none").string(), (folder / "x.TB").string()}).exit, 1);
 }

@@ -85,7 +85,8 @@ std::string reportHelp() {
            "places to\nwhich the position of a maximum is searched, 0 to 12 (default 3). --kinds: "
            "what goes in, of\n" +
            allKinds() +
-           " (default all).\nExit code: 0 done, 1 refused (the reason stands on standard error), 2 "
+           " (default all). --out: a document that is there is replaced, any other file stays.\nExit "
+           "code: 0 done, 1 refused (the reason stands on standard error), 2 "
            "wrong usage.\n";
 }
 

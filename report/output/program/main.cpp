@@ -5,6 +5,7 @@
 
 #include "core/analysis/result_files.h"
 #include "core/design/design.h"
+#include "core/store/output_file.h"
 #include "core/store/replacing_file.h"
 #include "forms/main/frmTitle.h"
 #include "forms/main/frmTrabeon.h"
@@ -48,6 +49,8 @@ void prepare(frmTrabeon& program, const ProjectTitle& title, const AnalysisSetti
 }
 
 Failure makeReport(const ReportCommand& command, const std::filesystem::path& folder) {
+    if (auto failure = unfitDocumentFile(command.out, command.file))
+        return failure;
     const auto title = unpackProject(command.file, folder);
     if (!title)
         return title.refusal();
