@@ -18,6 +18,12 @@ OpenedFile openToRead(const std::filesystem::path& file) {
     return {regular ? std::fopen(file.string().c_str(), "rb") : nullptr, &std::fclose};
 }
 
+/// A device or a failing disk may open and then give nothing: that shows at the first character.
+bool canBeRead(const std::filesystem::path& file) {
+    const auto opened = openToRead(file);
+    return opened && (std::fgetc(opened.get()) != EOF || std::ferror(opened.get()) == 0);
+}
+
 }  // namespace
 
 std::string readWhole(const std::filesystem::path& file) {
@@ -43,8 +49,7 @@ std::string readWhole(const std::filesystem::path& file) {
 
 Failure unreadable(const std::filesystem::path& file) {
     std::error_code missing;
-    if (!std::filesystem::exists(std::filesystem::symlink_status(file, missing)) ||
-        openToRead(file))
+    if (!std::filesystem::exists(std::filesystem::symlink_status(file, missing)) || canBeRead(file))
         return std::nullopt;
     return Refusal{"\"" + file.string() +
                    "\" cannot be read. Make it a file that you may read; nothing was changed."};

@@ -123,6 +123,8 @@ TEST_F(ProjectFile, RefusedOnesNameTheLineAndChangeNothing) {
         EXPECT_EQ(work.contents(), before);
     }
     EXPECT_FALSE(unpackProject(folder / "none.TB", work.path()));
+    const auto failing = unpackProject("/proc/self/mem", work.path());  // opens, and fails to read
+    EXPECT_TRUE(failing.refusal().sentence.starts_with("\"/proc/self/mem\" cannot be read"));
     std::string wide;
     for (const char c : whole)
         (wide += c) += '\0';
