@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/text/number_text.h"
+#include "core/text/readable.h"
 
 namespace trabeon {
 namespace {
@@ -67,7 +68,7 @@ Failure CommandLine::readNumber(std::string_view name, double& value) const {
         return std::nullopt;
     const auto number = numberOfWholeText(*text);
     if (!number)
-        return Refusal{std::string(name) + " takes a number, not \"" + *text + "\"."};
+        return Refusal{std::string(name) + " takes a number, not \"" + excerpt(*text) + "\"."};
     value = *number;
     return std::nullopt;
 }
@@ -81,7 +82,7 @@ Outcome<CommandLine> readCommandLine(const std::vector<std::string>& words,
         return Refusal{std::string("A command is missing.") + seeHelp};
     const auto* form = formOf(words[0], commands);
     if (form == nullptr)
-        return Refusal{"There is no command \"" + words[0] + "\"." + seeHelp};
+        return Refusal{"There is no command \"" + excerpt(words[0]) + "\"." + seeHelp};
     CommandLine line{form, {}, {}};
     for (std::size_t i = 1; i < words.size(); ++i) {
         const auto& word = words[i];
@@ -93,7 +94,7 @@ Outcome<CommandLine> readCommandLine(const std::vector<std::string>& words,
         const auto name = word.substr(0, sign);
         const auto shown = shownOption(*form, name);
         if (!shown)
-            return Refusal{"\"" + words[0] + "\" has no option " + name +
+            return Refusal{"\"" + words[0] + "\" has no option " + excerpt(name) +
                            ". Usage: " + usageOf(*form)};
         if (shown == name) {
             if (sign != std::string::npos)

@@ -11,12 +11,16 @@
 #include "batch/beam_report.h"
 #include "batch/design_report.h"
 #include "core/analysis/result_files.h"
+#include "core/analysis/stray_loads.h"
 #include "core/design/reinforcement_tables.h"
 #include "core/design/shear.h"
 #include "core/store/file_set.h"
 #include "core/store/folder_lock.h"
 #include "core/store/folder_record.h"
+#include "core/store/output_file.h"
+#include "core/store/own_files.h"
 #include "core/store/project_file.h"
+#include "core/text/readable.h"
 
 namespace trabeon {
 namespace {
@@ -104,7 +108,13 @@ std::optional<Analysis> analysed(const fs::path& folder, const AnalysisSettings&
         complain(message.text);
     };
     outputs.progress = std::move(progress);
-    return analyseFolder(folder, settings, outputs);
+    std::vector<StrayLoad> stray;
+    outputs.rowsRead = [&](const BeamRows& rows) { stray = strayLoads(rows); };
+    auto analysis = analyseFolder(folder, settings, outputs);
+    if (analysis)
+        for (const auto& load : stray)
+            complain(sentenceOf(load));
+    return analysis;
 }
 
 Exit analyseCommand(const CommandLine& line) {
@@ -147,10 +157,12 @@ Exit designCommand(const CommandLine& line) {
     if (auto failure = enter(folder, lock))
         return refused(*failure);
     const auto data = readDesignData(folder, Divisions);
-    if (auto failure = unfitStations(data))
+    if (!data)
+        return refused(data.refusal());
+    if (auto failure = unfitStations(*data))
         return refused(*failure);
-    warn(data);
-    const auto design = designBeam(data, *misc);
+    warn(*data);
+    const auto design = designBeam(*data, *misc);
     if (auto failure = writeDesign(folder, design))
         return refused(*failure);
     return design.ShearFailed ? refused({std::string(shearFailureSentence)}) : Exit::done;
@@ -169,6 +181,8 @@ Exit tablesCommand(const CommandLine& line) {
 
 /// Reads and checks the project before it makes and takes the folder.
 Outcome<Project> unpackInto(const std::string& file, const fs::path& folder, FolderLock& lock) {
+    if (auto failure = unfitForProject(file, folder))
+        return *failure;
     auto project = readProject(file);
     if (!project)
         return project;
@@ -196,8 +210,10 @@ Exit packCommand(const CommandLine& line) {
     FolderLock lock;
     if (auto failure = enter(folder, lock))
         return refused(*failure);
-    if (!fs::exists(folder / working_file::joint))
+    if (std::error_code unknown; !fs::exists(folder / working_file::joint, unknown))
         return refused({"\"" + folder.string() + "\" holds no beam: there is no Joint.txt in it."});
+    if (auto failure = unfitProjectFile(line.operands[1]))
+        return refused(*failure);
     const auto kept = titleIn(folder);
     const ProjectTitle title{line.option("--title").value_or(kept.project),
                              line.option("--designer").value_or(kept.designer),
@@ -207,8 +223,8 @@ Exit packCommand(const CommandLine& line) {
 }
 
 void show(const ProjectTitle& title, const Analysis& analysis, const fs::path& folder) {
-    std::printf("%s: %s, by %s\n\n", title.project.c_str(), title.beamName.c_str(),
-                title.designer.c_str());
+    std::printf("%s: %s, by %s\n\n", readable(title.project).c_str(),
+                readable(title.beamName).c_str(), readable(title.designer).c_str());
     const auto file = folder / working_file::balanceTable;
     if (analysis.beam.members() <= mostMembersShown)
         std::printf("Balance table (clockwise positive)\n%s\n",
@@ -224,12 +240,14 @@ Failure showDesign(const fs::path& folder, const AnalysisSettings& settings) {
     if (readWhole(folder / working_file::beamDimensions).empty())
         return std::nullopt;
     const auto data = readDesignData(folder, settings.Divisions);
-    warn(data);
-    const auto design = designBeam(data, {});
+    if (!data)
+        return data.refusal();
+    warn(*data);
+    const auto design = designBeam(*data, {});
     if (auto failure = writeDesign(folder, design))
         return failure;
-    const bool few = data.NumofMem() <= mostMembersShown;
-    const auto text = few ? designTable(design, data.NumofMem()) : designSummary(design);
+    const bool few = data->NumofMem() <= mostMembersShown;
+    const auto text = few ? designTable(design, data->NumofMem()) : designSummary(design);
     std::printf("\n%s", text.c_str());
     return std::nullopt;
 }
@@ -241,8 +259,7 @@ Exit runCommand(const CommandLine& line) {
     if (auto failure = unfit(*settings))
         return refused(*failure);
     const auto& file = line.operands[0];
-    const fs::path folder =
-        line.option("--out").value_or(fs::path(file).replace_extension().string());
+    const fs::path folder = line.option("--out").value_or(resultFolder(file).string());
     FolderLock lock;
     const auto project = unpackInto(file, folder, lock);
     if (!project)
@@ -276,7 +293,8 @@ const std::vector<CommandForm>& commands() {
          "Analyses a project and shows the balance table, the moments, the maxima and the "
          "reactions; "
          "with dimensions, also the governing sections of its design. The "
-         "result files go to DIR, or to a folder beside the project that is named after it.",
+         "result files go to DIR, or to a folder beside the project: \"beam\" for \"beam.TB\", "
+         "\"beam results\" for a project without an ending.",
          "trabeon-batch run examples/two-span-floor-beam.TB"},
         {"analyse",
          analyseCommand,
@@ -309,7 +327,8 @@ const std::vector<CommandForm>& commands() {
          packCommand,
          "DIR FILE.TB",
          {"--title T", "--designer D", "--beam B"},
-         "Packs the working files of a folder into a project file.",
+         "Packs the working files of a folder into a project file. A file that is there and is no "
+         "project stays.",
          "trabeon-batch pack work beam.TB --title \"Warehouse\" --designer \"A. Engineer\" --beam "
          "B1"},
     };

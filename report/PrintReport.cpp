@@ -6,6 +6,16 @@
 #include "toolkit/wait_cursor.h"
 
 namespace trabeon {
+namespace {
+
+std::string troubleOf(const std::string& file) {
+    if (file.empty())
+        return "The report could not be printed. See to the printer, then try again.";
+    return "The report could not be printed to \"" + file +
+           "\". Choose another file, then try again.";
+}
+
+}  // namespace
 
 PrintEnd PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, int rightMargin,
                      int bottomMargin) {
@@ -28,9 +38,7 @@ PrintEnd PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, int rightM
     });
     RTB.ReleasePages();
     if (!printer->EndDoc() || !printing)
-        return {false,
-                "The report could not be printed. See to the printer, or choose another name for "
-                "the PDF file, then try again."};
+        return {false, troubleOf(printer->File())};
     if (!pages.whole)
         return {true, "The print ends with page " + std::to_string(pages.starts.size()) +
                           ": what follows could not be laid out. Cut it out of the report, then "

@@ -92,7 +92,8 @@ void frmReport::SaveReport() {
 std::filesystem::path frmReport::freePicturePath() const {
     for (int number = 1;; ++number) {
         auto path = context_.folder / ("Picture " + std::to_string(number) + ".rtf");
-        if (!std::filesystem::exists(path))
+        std::error_code unknown;
+        if (!std::filesystem::exists(path, unknown))
             return path;
     }
 }

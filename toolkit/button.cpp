@@ -6,6 +6,8 @@
 #include <QStylePainter>
 #include <algorithm>
 
+#include "toolkit/shown_text.h"
+
 namespace trabeon {
 
 namespace {
@@ -35,7 +37,7 @@ QPushButton& Inner(const Control& control) {
 }  // namespace
 
 Button::Button(Container& parent, const std::string& caption)
-    : Control(new Face(QString::fromStdString(caption), parent.Canvas())) {
+    : Control(new Face(ShownText(caption), parent.Canvas())) {
     QPushButton& button = Inner(*this);
     const int captionWide = button.fontMetrics().horizontalAdvance(button.text());
     Control::Resize(std::max(ToPixels(1215), captionWide + ToPixels(270)), ToPixels(375));
@@ -51,7 +53,7 @@ std::string Button::Caption() const {
 }
 
 void Button::SetCaption(const std::string& caption) {
-    Inner(*this).setText(QString::fromStdString(caption));
+    Inner(*this).setText(ShownText(caption));
 }
 
 void Button::Press() {

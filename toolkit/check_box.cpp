@@ -2,6 +2,8 @@
 
 #include <QCheckBox>
 
+#include "toolkit/shown_text.h"
+
 namespace trabeon {
 
 namespace {
@@ -13,7 +15,7 @@ QCheckBox& Inner(const Control& control) {
 }  // namespace
 
 CheckBox::CheckBox(Container& parent, const std::string& caption, bool ticked)
-    : Control(new QCheckBox(QString::fromStdString(caption), parent.Canvas())) {
+    : Control(new QCheckBox(ShownText(caption), parent.Canvas())) {
     Inner(*this).adjustSize();
     SetValue(ticked);
 }

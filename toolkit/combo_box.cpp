@@ -2,6 +2,8 @@
 
 #include <QComboBox>
 
+#include "toolkit/shown_text.h"
+
 namespace trabeon {
 
 namespace {
@@ -24,7 +26,7 @@ ComboBox::ComboBox(Container& parent) : Control(new QComboBox(parent.Canvas())) 
 
 void ComboBox::AddItem(const std::string& text) {
     const int chosen = ListIndex();
-    Inner(*this).addItem(QString::fromStdString(text));
+    Inner(*this).addItem(ShownText(text));
     Inner(*this).setCurrentIndex(chosen);  // the widget chooses its first entry by itself
 }
 
@@ -56,7 +58,7 @@ std::string ComboBox::Text() const {
 }
 
 void ComboBox::SetText(const std::string& text) {
-    const int index = Inner(*this).findText(QString::fromStdString(text), Qt::MatchExactly);
+    const int index = Inner(*this).findText(ShownText(text), Qt::MatchExactly);
     if (index >= 0)
         Inner(*this).setCurrentIndex(index);
 }

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include "toolkit/look.h"
+#include "toolkit/shown_text.h"
 
 namespace trabeon {
 
@@ -134,11 +135,11 @@ void Control::SetFont(const std::string& name, double points, bool bold) {
 }
 
 void Control::SetAccessibleName(const std::string& name) {
-    Widget()->setAccessibleName(QString::fromStdString(name));
+    Widget()->setAccessibleName(ShownText(name));
 }
 
 void Control::SetToolTipText(const std::string& text) {
-    Widget()->setToolTip(QString::fromStdString(text));
+    Widget()->setToolTip(ShownText(text));
 }
 
 }  // namespace trabeon

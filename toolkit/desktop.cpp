@@ -17,6 +17,7 @@
 #include <QUrl>
 
 #include "toolkit/page_printer.h"
+#include "toolkit/shown_text.h"
 
 namespace trabeon {
 
@@ -89,7 +90,7 @@ class Owner {
 
 // "Text (*.A) |*.A" names the pattern twice; the dialog wants "Text (*.A)".
 QString DialogFilter(const std::string& filter) {
-    const QStringList parts = QString::fromStdString(filter).split('|');
+    const QStringList parts = ShownText(filter).split('|');
     if (parts.size() < 2)
         return parts.value(0);
     const QString text = parts.at(0).section('(', 0, 0).trimmed();
@@ -129,8 +130,8 @@ Desktop::~Desktop() = default;
 
 Answer Desktop::MsgBox(const std::string& text, int style, const std::string& title) {
     const Owner owner;
-    QMessageBox box(PictureOf(style), QString::fromStdString(title), QString::fromStdString(text),
-                    ButtonsOf(style), owner.Window());
+    QMessageBox box(PictureOf(style), ShownText(title), ShownText(text), ButtonsOf(style),
+                    owner.Window());
     box.setTextFormat(Qt::PlainText);
     return AnswerOf(box.exec());
 }
@@ -149,7 +150,7 @@ Answer Desktop::AskToReplace(const std::string& text) {
 
 std::string Desktop::AskFile(const FileQuestion& question) {
     const Owner owner;
-    QFileDialog dialog(owner.Window(), QString::fromStdString(question.title));
+    QFileDialog dialog(owner.Window(), ShownText(question.title));
     dialog.setNameFilters(DialogFilter(question.filter).split(";;"));
     dialog.setAcceptMode(question.saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(question.saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
@@ -168,7 +169,7 @@ std::string Desktop::AskFile(const FileQuestion& question) {
 }
 
 void Desktop::PutText(const std::string& text) {
-    QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+    QGuiApplication::clipboard()->setText(ShownText(text));
 }
 
 void Desktop::PutPicture(const QImage& picture) {
@@ -191,7 +192,7 @@ bool Desktop::OpenDocument(const std::string& path) {
 
 std::unique_ptr<QPrinter> Desktop::OpenPrinter(const std::string& documentName) {
     auto printer = DefaultPrinter();
-    printer->setDocName(QString::fromStdString(documentName));
+    printer->setDocName(ShownText(documentName));
     if (printer->outputFormat() == QPrinter::NativeFormat)
         return printer;
     FileQuestion question{true, true, "Print to a PDF File", "PDF File (*.pdf) |*.pdf", "",

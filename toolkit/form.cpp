@@ -12,6 +12,7 @@
 
 #include "toolkit/control.h"
 #include "toolkit/mdi_window.h"
+#include "toolkit/shown_text.h"
 
 namespace trabeon {
 
@@ -117,7 +118,7 @@ std::string Form::Caption() const {
 }
 
 void Form::SetCaption(const std::string& caption) {
-    Widget()->setWindowTitle(QString::fromStdString(caption));
+    Widget()->setWindowTitle(ShownText(caption));
 }
 
 QWidget* Form::Canvas() const {

@@ -2,10 +2,12 @@
 
 #include <QGroupBox>
 
+#include "toolkit/shown_text.h"
+
 namespace trabeon {
 
 Frame::Frame(Container& parent, const std::string& caption)
-    : Control(new QGroupBox(QString::fromStdString(caption), parent.Canvas())) {}
+    : Control(new QGroupBox(ShownText(caption), parent.Canvas())) {}
 
 QWidget* Frame::Canvas() const {
     return Widget();

@@ -6,6 +6,7 @@
 #include "toolkit/graph_plot.h"
 #include "toolkit/outside.h"
 #include "toolkit/picture_file.h"
+#include "toolkit/shown_text.h"
 
 namespace trabeon {
 
@@ -91,7 +92,7 @@ void Graph::SetMarks(std::vector<GraphMark> marks) {
 }
 
 void Graph::SetNote(const std::string& note) {
-    Inner().note->setText(QString::fromStdString(note));
+    Inner().note->setText(ShownText(note));
     Inner().Refresh();
 }
 

@@ -4,6 +4,7 @@
 
 #include "toolkit/graph_plot.h"
 #include "toolkit/look.h"
+#include "toolkit/shown_text.h"
 
 namespace trabeon {
 
@@ -79,7 +80,7 @@ void GraphPlot::FitMarks() {
     double former = -1e300;
     double free = -1e300;
     for (const GraphMark& mark : marks) {
-        const QString label = QString::fromStdString(mark.label);
+        const QString label = ShownText(mark.label);
         const double at = mark.x * pixelsPerX;
         const double half = metrics.horizontalAdvance(label) / 2 + 3;
         const bool fits = at - half >= free;

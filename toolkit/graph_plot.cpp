@@ -6,6 +6,7 @@
 
 #include "toolkit/look.h"
 #include "toolkit/picture_file.h"
+#include "toolkit/shown_text.h"
 
 namespace trabeon {
 
@@ -48,9 +49,7 @@ QPen CurvePen(double width) {
 }  // namespace
 
 GraphPlot::GraphPlot(const GraphTitles& titles, QWidget* parent)
-    : QCustomPlot(parent),
-      xTitle_(QString::fromStdString(titles.x)),
-      valueTitle_(QString::fromStdString(titles.value)) {
+    : QCustomPlot(parent), xTitle_(ShownText(titles.x)), valueTitle_(ShownText(titles.value)) {
     setMinimumSize(0, 0);
     setFocusPolicy(Qt::NoFocus);  // it has no use for keys, and would be the form's first stop
     setBackground(Qt::white);
@@ -111,7 +110,7 @@ void GraphPlot::MakeItems(const GraphTitles& titles) {
     zero->point2->setCoords(1, 0);
     zero->setPen(QPen(Ink, 1.4));
     title_ = MakeText(Ink, 10, true);
-    title_->setText(QString::fromStdString(titles.title));
+    title_->setText(ShownText(titles.title));
     title_->setPositionAlignment(Qt::AlignTop | Qt::AlignHCenter);
     note = MakeText(Faint, 8, false);
     note->setPositionAlignment(Qt::AlignTop | Qt::AlignHCenter);

@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+#include "toolkit/shown_text.h"
+
 namespace trabeon {
 
 namespace {
@@ -35,7 +37,7 @@ void Label::SetCaption(const std::string& caption) {
 
 void Label::SetBuddy(Control& control) {
     Inner(*this).setBuddy(control.Widget());
-    control.SetAccessibleName(WithoutAccessKey(QString::fromStdString(caption_)).toStdString());
+    control.SetAccessibleName(WithoutAccessKey(ShownText(caption_)).toStdString());
     ShowCaption();
 }
 
@@ -45,7 +47,7 @@ void Label::Resize(int pixelsWide, int pixelsHigh) {
 }
 
 void Label::ShowCaption() {
-    const QString caption = QString::fromStdString(caption_);
+    const QString caption = ShownText(caption_);
     Inner(*this).setText(Inner(*this).buddy() ? caption : WithoutAccessKey(caption));
     if (!sized_)
         Inner(*this).adjustSize();

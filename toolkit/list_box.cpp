@@ -5,6 +5,8 @@
 #include <QStyledItemDelegate>
 #include <algorithm>
 
+#include "toolkit/shown_text.h"
+
 namespace trabeon {
 
 namespace {
@@ -54,7 +56,7 @@ bool ListBox::OnInnerEvent(QEvent& event) {
 }
 
 void ListBox::AddItem(const std::string& text) {
-    Inner(*this).addItem(QString::fromStdString(text));
+    Inner(*this).addItem(ShownText(text));
 }
 
 void ListBox::Clear() {

@@ -11,6 +11,7 @@
 #include <QTreeWidget>
 
 #include "toolkit/outside.h"
+#include "toolkit/shown_text.h"
 
 namespace trabeon {
 
@@ -103,7 +104,7 @@ std::string ListItem::SubItems(int n) const {
 }
 
 void ListItem::SetSubItems(int n, const std::string& text) {
-    row_->setText(n, QString::fromStdString(text));
+    row_->setText(n, ShownText(text));
     static_cast<ListView::Tree*>(row_->treeWidget())->owner.Unsettle();
 }
 
@@ -127,7 +128,7 @@ void ListItemsOf::Clear() {
 
 ListItem ListItemsOf::Add(const std::string& text) {
     auto* row = new Row(Count() + 1);
-    row->setText(0, QString::fromStdString(text));
+    row->setText(0, ShownText(text));
     view_.Inner().addTopLevelItem(row);
     view_.Unsettle();
     return ListItem(row);
@@ -142,7 +143,7 @@ ListView::ListView(Container& parent, const std::vector<ListColumn>& columns)
     : Control(new Tree(*this, parent.Canvas())) {
     QStringList titles;
     for (const ListColumn& column : columns)
-        titles << QString::fromStdString(column.title);
+        titles << ShownText(column.title);
     Tree& tree = Inner();
     tree.setColumnCount(static_cast<int>(columns.size()));
     tree.setHeaderLabels(titles);

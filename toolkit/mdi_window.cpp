@@ -12,6 +12,7 @@
 #include <QStatusBar>
 
 #include "toolkit/access_keys.h"
+#include "toolkit/shown_text.h"
 
 namespace trabeon {
 
@@ -101,7 +102,7 @@ std::string MdiWindow::Caption() const {
 
 void MdiWindow::SetCaption(const std::string& caption) {
     caption_ = caption;
-    Inner().setWindowTitle(QString::fromStdString(caption));
+    Inner().setWindowTitle(ShownText(caption));
 }
 
 int MdiWindow::ScaleWidth() const {

@@ -4,6 +4,8 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "toolkit/shown_text.h"
+
 namespace trabeon {
 
 std::string MenuEntry::Caption() const {
@@ -22,12 +24,11 @@ void MenuEntry::Choose() {
     action_->trigger();
 }
 
-Menu::Menu(QMenuBar& bar, const std::string& caption)
-    : menu_(bar.addMenu(QString::fromStdString(caption))) {}
+Menu::Menu(QMenuBar& bar, const std::string& caption) : menu_(bar.addMenu(ShownText(caption))) {}
 
 MenuEntry Menu::Add(const std::string& caption, const std::string& key,
                     std::function<void()> command) {
-    QAction* action = menu_->addAction(QString::fromStdString(caption));
+    QAction* action = menu_->addAction(ShownText(caption));
     if (!key.empty())
         action->setShortcut(QKeySequence(QString::fromStdString(key)));
     QObject::connect(action, &QAction::triggered, menu_, [run = std::move(command)] { run(); });
@@ -39,7 +40,7 @@ void Menu::AddSeparator() {
 }
 
 Menu Menu::AddMenu(const std::string& caption) {
-    return Menu(menu_->addMenu(QString::fromStdString(caption)));
+    return Menu(menu_->addMenu(ShownText(caption)));
 }
 
 MenuEntry Menu::Entry() const {

@@ -2,6 +2,8 @@
 
 #include <QRadioButton>
 
+#include "toolkit/shown_text.h"
+
 namespace trabeon {
 
 namespace {
@@ -13,7 +15,7 @@ QRadioButton& Inner(const Control& control) {
 }  // namespace
 
 OptionButton::OptionButton(Container& parent, const std::string& caption, bool chosen)
-    : Control(new QRadioButton(QString::fromStdString(caption), parent.Canvas())) {
+    : Control(new QRadioButton(ShownText(caption), parent.Canvas())) {
     Inner(*this).adjustSize();
     Inner(*this).setChecked(chosen);
     QObject::connect(&Inner(*this), &QRadioButton::toggled, [this](bool on) {

@@ -25,6 +25,8 @@ class PagePrinter : public PageCanvas {
     [[nodiscard]] bool NewPage();
     // False: nothing came out, or not all.
     [[nodiscard]] bool EndDoc();
+    // The file that is printed to; empty with a real printer.
+    [[nodiscard]] std::string File() const { return file_.Path(); }
 
   private:
     explicit PagePrinter(std::unique_ptr<QPrinter> printer);

@@ -9,6 +9,7 @@
 
 #include "toolkit/outside.h"
 #include "toolkit/picture_file.h"
+#include "toolkit/shown_text.h"
 
 namespace trabeon {
 
@@ -29,7 +30,7 @@ void PaintStroke(QPainter& painter, const Stroke& stroke) {
             break;
         case Stroke::Kind::Text:
             painter.drawText(start + QPointF(0, QFontMetricsF(painter.font()).ascent()),
-                             QString::fromStdString(stroke.text));
+                             ShownText(stroke.text));
             break;
     }
 }
@@ -115,7 +116,7 @@ void PictureBox::Print(const std::string& text) {
     const QFontMetricsF metrics(Widget()->font());
     const double tab =
         TabWidth > 0 ? TabWidth : CharactersPerTab * metrics.averageCharWidth() * TwipsPerPixel;
-    const QStringList parts = QString::fromStdString(text).split('\t');
+    const QStringList parts = ShownText(text).split('\t');
     for (qsizetype i = 0; i < parts.size(); ++i) {
         if (i > 0)
             CurrentX = (std::floor(CurrentX / tab) + 1) * tab;

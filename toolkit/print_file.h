@@ -4,6 +4,7 @@
 #include <QString>
 #include <QTemporaryDir>
 #include <optional>
+#include <string>
 
 class QPrinter;
 
@@ -22,6 +23,9 @@ class PrintFile {
     // When the print has ended. False: the print is not whole, or the old file is no regular file
     // or write-protected; the old file then stays.
     [[nodiscard]] bool TakePlace() const;
+
+    // Empty with a real printer.
+    [[nodiscard]] std::string Path() const { return target_.toStdString(); }
 
   private:
     [[nodiscard]] bool IsWhole() const;

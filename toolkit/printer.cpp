@@ -7,6 +7,7 @@
 
 #include "toolkit/look.h"
 #include "toolkit/outside.h"
+#include "toolkit/shown_text.h"
 
 namespace trabeon {
 
@@ -46,7 +47,7 @@ void Printer::Print(double x, double y, const std::string& text) {
         return;
     const double dots = printer_->resolution() / MillimetresPerInch;
     const double ascent = QFontMetricsF(painter_->font(), printer_.get()).ascent();
-    painter_->drawText(QPointF(x * dots, y * dots + ascent), QString::fromStdString(text));
+    painter_->drawText(QPointF(x * dots, y * dots + ascent), ShownText(text));
 }
 
 bool Printer::EndDoc() {

@@ -30,6 +30,8 @@ class Printer {
     void Print(double x, double y, const std::string& text);
     // Whether the printer took the document.
     [[nodiscard]] bool EndDoc();
+    // The file that is printed to; empty with a real printer.
+    [[nodiscard]] std::string File() const { return file_.Path(); }
 
   private:
     explicit Printer(std::unique_ptr<QPrinter> printer);

@@ -12,6 +12,7 @@
 #include "toolkit/page_layout.h"
 #include "toolkit/pictures_in_text.h"
 #include "toolkit/rich_text_file.h"
+#include "toolkit/shown_text.h"
 
 namespace trabeon {
 
@@ -109,7 +110,7 @@ void RichTextBox::SetSelText(const std::string& text) {
     QTextCursor cursor = Inner().textCursor();
     const bool removes = cursor.hasSelection();
     cursor.beginEditBlock();
-    cursor.insertText(QString::fromStdString(text));
+    cursor.insertText(ShownText(text));
     if (removes && text.empty())
         DropEmptyLine(cursor);
     cursor.endEditBlock();

@@ -4,6 +4,8 @@
 #include <QLineEdit>
 #include <QValidator>
 
+#include "toolkit/shown_text.h"
+
 namespace trabeon {
 
 namespace {
@@ -33,7 +35,7 @@ class FieldValidator : public QValidator {
 }  // namespace
 
 TextBox::TextBox(Container& parent, const std::string& text)
-    : Control(new QLineEdit(QString::fromStdString(text), parent.Canvas())) {
+    : Control(new QLineEdit(ShownText(text), parent.Canvas())), given_(text) {
     Control::Resize(ToPixels(1215), ToPixels(345));
     QObject::connect(&Inner(*this), &QLineEdit::textChanged, [this] {
         if (Change)
@@ -42,11 +44,13 @@ TextBox::TextBox(Container& parent, const std::string& text)
 }
 
 std::string TextBox::Text() const {
-    return Inner(*this).text().toStdString();
+    const QString text = Inner(*this).text();
+    return text == ShownText(given_) ? given_ : text.toStdString();
 }
 
 void TextBox::SetText(const std::string& text) {
-    Inner(*this).setText(QString::fromStdString(text));
+    given_ = text;
+    Inner(*this).setText(ShownText(text));
 }
 
 int TextBox::SelStart() const {

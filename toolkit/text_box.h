@@ -15,6 +15,7 @@ class TextBox : public Control {
     // The text became another one, by the user or by code.
     std::function<void()> Change;
 
+    // While the box shows the text that it was given, the very bytes of that text; else UTF-8.
     std::string Text() const;
     // Fires Change if the text is another one.
     void SetText(const std::string& text);
@@ -38,6 +39,7 @@ class TextBox : public Control {
   private:
     bool OnMouse(QEvent& event);
 
+    std::string given_;
     bool entering_ = false;  // the focus comes by the click that is under way
     bool dragging_ = false;  // that click was swallowed, its moves are as well
 };

@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "toolkit/outside.h"
+#include "toolkit/shown_text.h"
 
 namespace trabeon {
 
@@ -75,7 +76,7 @@ void TextView::View::Measure() {
 }
 
 void TextView::View::Fill() {
-    lines_ = QString::fromStdString(text).remove('\r').split('\n');
+    lines_ = ShownText(text).remove('\r').split('\n');
     longest_ = 0;
     for (const QString& line : lines_)
         longest_ = std::max(longest_, static_cast<int>(line.size()));

@@ -6,6 +6,8 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 
+#include "toolkit/shown_text.h"
+
 namespace trabeon {
 
 namespace {
@@ -17,7 +19,7 @@ constexpr int Room = 2 * 135;  // above and below the caption
 
 VerticalButton::VerticalButton(Container& parent, const std::string& caption)
     : Button(parent, caption) {
-    const QString text = QString::fromStdString(caption);
+    const QString text = ShownText(caption);
     const int captionHigh = Widget()->fontMetrics().size(Qt::TextShowMnemonic, text).width();
     Control::Resize(ToPixels(Wide), captionHigh + ToPixels(Room));
 }

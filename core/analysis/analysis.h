@@ -38,10 +38,12 @@ struct AnalysisSettings {
 [[nodiscard]] Failure unfit(const AnalysisSettings& settings);
 
 /// What an analysis tells its user while it runs. `progress` gets 0, then 50 when the moments have
-/// settled, then 50 + 50 i / n when span i of n is searched.
+/// settled, then 50 + 50 i / n when span i of n is searched. `rowsRead` gets the rows of a folder
+/// as they stood before the analysis puts the loads in order.
 struct AnalysisOutputs {
     MessageSink message;
     std::function<void(double)> progress = [](double) {};
+    std::function<void(const BeamRows&)> rowsRead = [](const BeamRows&) {};
 
     void refuse(const Refusal& why) const { message({why.sentence, 48, "Trabeon"}); }
 };

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/text/number_text.h"
+#include "core/text/readable.h"
 
 namespace trabeon {
 namespace {
@@ -40,14 +41,14 @@ Failure unfitSpelling(const std::vector<JointRow>& joints, const std::vector<Joi
     if (!error)
         return std::nullopt;
     return Refusal{"Joint " + std::to_string(misspelled) + ", whose type \"" +
-                   joints[misspelled - 1].type + "\" was taken for " +
+                   excerpt(joints[misspelled - 1].type) + "\" was taken for " +
                    std::string(nameOf(misspelled)) + ": " + first};
 }
 
 Failure unfitMember(const MemberRow& row, std::size_t number, const Beam& beam) {
     const auto bad = [&](std::string_view what, const std::string& text) {
         return Refusal{"Member " + std::to_string(number) + ": " + std::string(what) + " is \"" +
-                       text + "\". It must be a number above 0; mend the member's row."};
+                       excerpt(text) + "\". It must be a number above 0; mend the member's row."};
     };
     if (!isMeasure(beam.MemberE[number]))
         return bad("E", row.E);
@@ -87,7 +88,8 @@ Outcome<Beam> beamOf(const std::vector<JointRow>& joints, const std::vector<Memb
     for (std::size_t j = 1; j <= joints.size(); ++j) {
         beam.SupportType[j] = jointOf(joints[j - 1].type);
         if (beam.SupportType[j] == Joint::unknown)
-            return Refusal{"Joint " + std::to_string(j) + ": its type is \"" + joints[j - 1].type +
+            return Refusal{"Joint " + std::to_string(j) + ": its type is \"" +
+                           excerpt(joints[j - 1].type) +
                            "\". It must be Cantilever, Pin Jointed, Continuous or Fixed."};
     }
     if (auto failure = unfitSpelling(joints, beam.SupportType))

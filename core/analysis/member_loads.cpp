@@ -9,20 +9,19 @@
 namespace trabeon {
 namespace {
 
-/// The member that a row names, 0 if that is none from 1 to `members`.
-std::size_t memberOf(std::string_view text, std::size_t members) {
-    const double number = leadingNumber(text);
-    const bool one =
-        number >= 1 && number <= static_cast<double>(members) && number == std::floor(number);
-    return one ? static_cast<std::size_t>(number) : 0;
-}
-
 Refusal named(std::string_view load, std::size_t row, std::size_t member, const Refusal& why) {
     return {"Row " + std::to_string(row) + " of the " + std::string(load) + "s, on member " +
             std::to_string(member) + ": " + why.sentence};
 }
 
 }  // namespace
+
+std::size_t memberOf(std::string_view text, std::size_t members) {
+    const double number = leadingNumber(text);
+    const bool one =
+        number >= 1 && number <= static_cast<double>(members) && number == std::floor(number);
+    return one ? static_cast<std::size_t>(number) : 0;
+}
 
 PointLoad::PointLoad(const PointRow& row) : a(leadingNumber(row.a)), P(leadingNumber(row.P)) {}
 

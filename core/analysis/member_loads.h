@@ -10,6 +10,9 @@
 
 namespace trabeon {
 
+/// The member that a row names, 0 if that is none from 1 to `members`.
+[[nodiscard]] std::size_t memberOf(std::string_view text, std::size_t members);
+
 /// P, positive downward, at the distance a from the member's left joint.
 struct PointLoad {
     double a = 0, P = 0;

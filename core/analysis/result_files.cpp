@@ -48,27 +48,6 @@ void writeRow(ReplacingFile& file, const Station& station) {
     file.advance(put(at, "\r\n"));
 }
 
-/// The four input files, as they are and as the analysis leaves them.
-struct InputTexts {
-    std::string joints, members, points, udls;
-
-    [[nodiscard]] std::uint64_t fingerprint() const {
-        return trabeon::fingerprint({joints, members, points, udls});
-    }
-};
-
-Outcome<InputTexts> readInput(const std::filesystem::path& folder) {
-    InputTexts input;
-    std::array texts{&input.joints, &input.members, &input.points, &input.udls};
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        auto text = readFile(folder / inputFiles[i]);
-        if (!text)
-            return text.refusal();
-        *texts[i] = std::move(*text);
-    }
-    return input;
-}
-
 /// A load file in normal form, and the scratch twin that the regrouping leaves. A second analysis
 /// finds them so, and leaves them alone.
 template <class Load>
@@ -82,8 +61,8 @@ void writeLoads(FileSet& files, const std::filesystem::path& folder, const Membe
     text = std::move(normal);
 }
 
-/// Rows that a project file put here still come from there once they are in normal form. The results
-/// are of these rows.
+/// Rows that a project file put here still come from there once they are in normal form. The
+/// results are of these rows.
 void writeRecord(FileSet& files, const std::filesystem::path& folder, std::uint64_t before,
                  std::uint64_t after, double Divisions) {
     auto record = readRecord(folder);
@@ -144,22 +123,25 @@ std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
             table.emplace(files.add(working_file::balanceTable));
         table->write(row);
     };
-    auto input = readInput(folder);
+    auto input = readFiles(folder, inputFiles);
     if (!input) {
         outputs.refuse(input.refusal());
         return std::nullopt;
     }
-    const auto before = input->fingerprint();
-    auto analysis = analyse({rowsOf<JointRow>(input->joints), rowsOf<MemberRow>(input->members),
-                             rowsOf<PointRow>(input->points), rowsOf<UdlRow>(input->udls)},
-                            settings, writeRow, outputs);
+    auto& [joints, members, points, udls] = *input;
+    const auto before = fingerprint({joints, members, points, udls});
+    BeamRows rows{rowsOf<JointRow>(joints), rowsOf<MemberRow>(members), rowsOf<PointRow>(points),
+                  rowsOf<UdlRow>(udls)};
+    outputs.rowsRead(rows);
+    auto analysis = analyse(std::move(rows), settings, writeRow, outputs);
     if (!analysis)
         return std::nullopt;
     writeStations(files.add(working_file::stations), *analysis);
     writeMaxima(files.add(working_file::maxima), *analysis);
-    writeLoads(files, folder, analysis->points, input->points);
-    writeLoads(files, folder, analysis->udls, input->udls);
-    writeRecord(files, folder, before, input->fingerprint(), settings.Divisions);
+    writeLoads(files, folder, analysis->points, points);
+    writeLoads(files, folder, analysis->udls, udls);
+    writeRecord(files, folder, before, fingerprint({joints, members, points, udls}),
+                settings.Divisions);
     if (const auto failure = files.commit()) {
         outputs.refuse(*failure);
         return std::nullopt;

@@ -116,7 +116,10 @@ Outcome<BeamDesign> designFolder(const std::filesystem::path& folder, double Div
                                  const MiscProperties& misc) {
     if (auto failure = unfitForDesign(Divisions, misc))
         return *failure;
-    auto design = designBeam(readDesignData(folder, Divisions), misc);
+    const auto data = readDesignData(folder, Divisions);
+    if (!data)
+        return data.refusal();
+    auto design = designBeam(*data, misc);
     if (auto failure = writeDesign(folder, design))
         return *failure;
     return design;

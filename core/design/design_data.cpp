@@ -1,6 +1,7 @@
 #include "core/design/design_data.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <tuple>
 
@@ -73,10 +74,16 @@ MissingDimensions DesignData::missingDimensions() const {
     return missing;
 }
 
-DesignData readDesignData(const std::filesystem::path& folder, double Divisions) {
-    return {readRows<JointRow>(folder), readRows<MemberRow>(folder).size(),
-            readRows<BeamDimensionRow>(folder), readWhole(folder / working_file::stations),
-            static_cast<std::size_t>(Divisions)};
+Outcome<DesignData> readDesignData(const std::filesystem::path& folder, double Divisions) {
+    constexpr std::array files{working_file::joint, working_file::member,
+                               working_file::beamDimensions, working_file::stations};
+    const auto texts = readFiles(folder, files);
+    if (!texts)
+        return texts.refusal();
+    const auto& [joints, members, dimensions, stations] = *texts;
+    return DesignData{rowsOf<JointRow>(joints), rowsOf<MemberRow>(members).size(),
+                      rowsOf<BeamDimensionRow>(dimensions), stations,
+                      static_cast<std::size_t>(Divisions)};
 }
 
 }  // namespace trabeon

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/analysis/span_results.h"
+#include "core/outcome.h"
 #include "core/store/rows.h"
 
 namespace trabeon {
@@ -58,7 +59,9 @@ class DesignData {
     bool stationsFit_ = false;
 };
 
-/// From the working files of a folder. Divisions is a whole number from 1 to 10,000.
-[[nodiscard]] DesignData readDesignData(const std::filesystem::path& folder, double Divisions);
+/// From the working files of a folder. Divisions is a whole number from 1 to 10,000. Refuses files
+/// that cannot be read; missing ones are empty.
+[[nodiscard]] Outcome<DesignData> readDesignData(const std::filesystem::path& folder,
+                                                 double Divisions);
 
 }  // namespace trabeon

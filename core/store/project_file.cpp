@@ -5,10 +5,25 @@
 
 #include "core/store/file_set.h"
 #include "core/store/folder_record.h"
+#include "core/store/own_files.h"
 #include "core/store/rows.h"
+#include "core/text/readable.h"
 
 namespace trabeon {
 namespace {
+
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+/// "1000000 characters; 32767 are the most", or nothing if a text fits its box.
+std::string tooLong(std::string_view title) {
+    if (title.size() <= longestTitle)  // it has no more characters than bytes
+        return {};
+    const auto length = unitsInBox(title);
+    if (length <= longestTitle)
+        return {};
+    return std::to_string(length) + " characters; " + std::to_string(longestTitle) +
+           " are the most";
+}
 
 /// Numbers and types stand bare wherever they are written, which loses the blanks at their ends: in
 /// quotes they are lost at once, so that a row read again is the same row, and a heading a heading.
@@ -22,13 +37,14 @@ std::string_view withoutBlanks(std::string_view field) {
 /// Reads one project file from its beginning to its end; stops at the first thing that is wrong.
 class Unpacker {
   public:
-    explicit Unpacker(std::string_view text) : reader_(text) {}
+    explicit Unpacker(std::string_view text)
+        : reader_(text.substr(text.starts_with(byteOrderMark) ? byteOrderMark.size() : 0)) {}
 
     Outcome<Project> project() {
         Project project;
         field("the warning");
         field("the heading \"TITLE\"");
-        project.title = {field("the project title"), field("the designer"), field("the beam name")};
+        project.title = {title("the project title"), title("the designer"), title("the beam name")};
         field("the heading \"JOINTS\"");
         project.joints = rows<JointRow>("M", "a joint row or the heading \"MEMBERS\"");
         project.members =
@@ -50,6 +66,14 @@ class Unpacker {
         if (!present(expected))
             return {};
         return std::string(reader_.next());
+    }
+
+    std::string title(const std::string& what) {
+        const int line = reader_.line();
+        auto text = field(what);
+        if (const auto length = tooLong(text); !length.empty())
+            refuse(line, what + " has " + length);
+        return text;
     }
 
     /// Row by row, each on a line of its own, up to the heading that begins with these letters.
@@ -152,8 +176,14 @@ constexpr std::array<std::pair<std::string_view, std::string Project::*>, 6> pac
     {working_file::beamDimensions, &Project::beamDimensions},
 }};
 
-bool breaksAField(std::string_view title) {
-    return title.find_first_of("\"\r\n") != title.npos;
+Failure unfitTitle(std::string_view text) {
+    const auto quoted = "The title text \"" + excerpt(text) + "\" ";
+    if (text.find_first_of("\"\r\n") != text.npos)
+        return Refusal{quoted +
+                       "holds a double quote or a line end. Take it out, then save again."};
+    if (const auto length = tooLong(text); !length.empty())
+        return Refusal{quoted + "has " + length + ". Shorten it, then save again."};
+    return std::nullopt;
 }
 
 std::string titleLines(const ProjectTitle& title) {
@@ -167,7 +197,13 @@ Outcome<std::string> projectText(const std::filesystem::path& file) {
     std::error_code missing;
     if (!std::filesystem::exists(file, missing))
         return Refusal{"\"" + file.string() + "\" is not there. Choose a project file (*.TB)."};
-    return readFile(file);
+    auto text = readFile(file);
+    if (text && isUtf16(*text))
+        return Refusal{
+            "\"" + file.string() +
+            "\" is a text in UTF-16. Open it in a text editor and save it as UTF-8, then "
+            "try again; nothing was changed."};
+    return text;
 }
 
 Outcome<Project> checkedProject(std::string_view text, const std::filesystem::path& file) {
@@ -211,6 +247,8 @@ Failure writeWorkingFiles(const Project& project, const std::filesystem::path& f
 
 Outcome<OpenedProject> unpackProject(const std::filesystem::path& file,
                                      const std::filesystem::path& folder) {
+    if (auto failure = unfitForProject(file, folder))
+        return *failure;
     const auto text = projectText(file);
     if (!text)
         return text.refusal();
@@ -256,10 +294,11 @@ void keepTitle(const std::filesystem::path& folder, const ProjectTitle& title) {
 
 Outcome<std::uint64_t> packProject(const std::filesystem::path& folder, const ProjectTitle& title,
                                    const std::filesystem::path& file) {
+    if (auto failure = unfitForProject(file, folder))
+        return *failure;
     for (const auto& text : {title.project, title.designer, title.beamName})
-        if (breaksAField(text))
-            return Refusal{"The title text " + text +
-                           " holds a double quote or a line end. Take it out, then save again."};
+        if (auto failure = unfitTitle(text))
+            return *failure;
     auto project = projectIn(folder);
     if (!project)
         return project.refusal();

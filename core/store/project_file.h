@@ -1,6 +1,7 @@
 // The project file, *.TB: the title and six working files packed into one text file.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -16,6 +17,9 @@ struct ProjectTitle {
     std::string beamName = "Beam Name";
 };
 
+/// The most characters that a box of the title form holds.
+inline constexpr std::size_t longestTitle = 32'767;
+
 /// A project taken apart: the title, and each working file's text as opening leaves it.
 struct Project {
     ProjectTitle title;
@@ -29,12 +33,14 @@ struct Project {
 /// nothing is lost and opening names it.
 [[nodiscard]] std::string rescuedText(const Project& project);
 
-/// Takes a project file's text apart. Refuses a text that lacks a heading or ends inside a row,
-/// with the line (counting from 1) and what was expected there. Headings are known by their first
-/// letters alone, and numbers are taken as they stand. LF line ends are read as well.
+/// Takes a project file's text apart. Refuses a text that lacks a heading, ends inside a row or has
+/// a title that is too long, with the line (counting from 1) and what was expected there. Headings
+/// are known by their first letters alone, and numbers are taken as they stand. LF line ends are
+/// read as well, and a byte order mark of UTF-8 is dropped. Texts keep their bytes, whatever their
+/// character set.
 [[nodiscard]] Outcome<Project> unpackedProject(std::string_view text);
 
-/// Reads and checks a project file whole. Refuses one that cannot be read.
+/// Reads and checks a project file whole. Refuses one that cannot be read or that is UTF-16.
 [[nodiscard]] Outcome<Project> readProject(const std::filesystem::path& file);
 
 /// Puts a project's texts into the six working files of a folder, all of them or none; "BM.txt"
@@ -54,9 +60,9 @@ void keepTitle(const std::filesystem::path& folder, const ProjectTitle& title);
 [[nodiscard]] ProjectTitle titleIn(const std::filesystem::path& folder);
 
 /// Packs the working files of a folder, flushed to the disk. Refuses a title text that holds a
-/// double quote or a line end, working files that cannot be read or would make a project that
-/// cannot be opened again, and a file that cannot be written; the old file then stays as it was.
-/// Returns the fingerprint of the new file.
+/// double quote or a line end or is too long, working files that cannot be read or would make a
+/// project that cannot be opened again, and a file that is a working file itself or cannot be
+/// written; the old file then stays as it was. Returns the fingerprint of the new file.
 [[nodiscard]] Outcome<std::uint64_t> packProject(const std::filesystem::path& folder,
                                                  const ProjectTitle& title,
                                                  const std::filesystem::path& file);
@@ -67,7 +73,7 @@ struct OpenedProject {
 };
 
 /// Unpacks a project file into a folder: reads it, then writes the working files. If it is refused
-/// no working file changes.
+/// no working file changes. Refuses a project file that is one of the folder's working files.
 [[nodiscard]] Outcome<OpenedProject> unpackProject(const std::filesystem::path& file,
                                                    const std::filesystem::path& folder);
 

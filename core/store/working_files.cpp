@@ -99,13 +99,6 @@ std::string readWhole(const std::filesystem::path& file) {
     return text ? std::move(*text) : std::string();
 }
 
-Failure unreadable(const std::filesystem::path& folder, std::span<const std::string_view> names) {
-    for (const auto name : names)
-        if (const auto text = readFile(folder / name); !text)
-            return text.refusal();
-    return std::nullopt;
-}
-
 Failure missing(const std::filesystem::path& folder, std::span<const std::string_view> names) {
     std::error_code error;
     for (const auto name : names)

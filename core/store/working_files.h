@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "core/outcome.h"
 
@@ -94,10 +95,19 @@ inline constexpr std::array filesDeletedAtExit{
 /// The same where the caller can go on without the file: a refused one reads as empty too.
 [[nodiscard]] std::string readWhole(const std::filesystem::path& file);
 
-/// Why one of the files cannot be read; to be asked before content that was read replaces them. A
-/// missing file is no failure.
-[[nodiscard]] Failure unreadable(const std::filesystem::path& folder,
-                                 std::span<const std::string_view> names);
+/// The contents of several files of a folder, in their order; refused as readFile refuses.
+template <std::size_t Count>
+[[nodiscard]] Outcome<std::array<std::string, Count>> readFiles(
+    const std::filesystem::path& folder, const std::array<std::string_view, Count>& names) {
+    std::array<std::string, Count> texts;
+    for (std::size_t i = 0; i < Count; ++i) {
+        auto text = readFile(folder / names[i]);
+        if (!text)
+            return text.refusal();
+        texts[i] = std::move(*text);
+    }
+    return texts;
+}
 
 /// Names the first of these files that is not there. A run creates them all, so another program
 /// has taken it away, and the rows in it must not be taken for none.

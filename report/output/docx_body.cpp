@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/text/readable.h"
 #include "report/output/table_layout.h"
 
 namespace trabeon {
@@ -25,7 +26,7 @@ class Measure {
   public:
     double operator()(const std::string& text, const TextStyle& style) {
         auto& known = style.bold ? bold_ : plain_;
-        const auto key = QString::fromStdString(text);
+        const auto key = QString::fromStdString(readable(text));
         if (const auto found = known.constFind(key); found != known.constEnd())
             return *found;
         QFont font("Liberation Serif");
@@ -131,7 +132,7 @@ class Body {
         end();
         begin("t");
         xml_.writeAttribute("xml:space", "preserve");
-        xml_.writeCharacters(QString::fromStdString(run.text));
+        xml_.writeCharacters(QString::fromStdString(readable(run.text)));
         end();
         end();
     }

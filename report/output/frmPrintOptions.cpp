@@ -1,5 +1,6 @@
 #include "report/output/frmPrintOptions.h"
 
+#include "core/text/readable.h"
 #include "forms/main/frmTitle.h"
 #include "forms/main/messages.h"
 #include "forms/results/frmOptions.h"
@@ -81,9 +82,10 @@ void frmPrintOptions::cmdPrint_Click() {
         return;
     const WaitCursor wait;
     if (!print(printedPages(source, Kinds(), optLand.Value()), *printer))
-        warn("The print of \"" + project +
-             "\" did not reach the printer or its file. See to the printer, or choose another "
-             "file, then print again.");
+        warn("The print of \"" + excerpt(project) + "\" did not reach " +
+             (printer->File().empty() ? "the printer. See to the printer"
+                                      : "\"" + printer->File() + "\". Choose another file") +
+             ", then print again.");
 }
 
 void frmPrintOptions::cmdWord_Click() {

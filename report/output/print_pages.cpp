@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "core/text/number_text.h"
+#include "core/text/readable.h"
 
 namespace trabeon {
 namespace {
@@ -107,7 +108,7 @@ class Print {
     static std::string textOf(const Row& row) {
         std::string text;
         for (const auto field : Row::fields)
-            text += (field == Row::fields[0] ? "" : gap) + row.*field;
+            text += (field == Row::fields[0] ? "" : gap) + readable(row.*field);
         return text;
     }
 
@@ -124,7 +125,7 @@ class Print {
 
 std::string printHeadingLine(const std::string& project, const std::string& designer,
                              const std::string& date, const std::string& time) {
-    return project + gap + "Designer:" + designer + gap + date + gap + time;
+    return readable(project) + gap + "Designer:" + readable(designer) + gap + date + gap + time;
 }
 
 std::size_t stripCount(std::size_t lineLength, std::size_t width) {

@@ -3,6 +3,7 @@
 #include "core/store/replacing_file.h"
 #include "core/store/rows.h"
 #include "core/text/number_text.h"
+#include "core/text/readable.h"
 
 namespace trabeon {
 namespace {
@@ -73,7 +74,8 @@ void writeInput(const OutputKinds& kinds, OutputWriter& writer) {
 
 OutputEnd writeProject(const OutputSource& source, const OutputKinds& kinds, OutputWriter& writer) {
     writer.begin();
-    writer.title("TRABEON (" + source.title.project + ") by " + source.title.designer);
+    writer.title("TRABEON (" + readable(source.title.project) + ") by " +
+                 readable(source.title.designer));
     writer.title(source.title.beamName);
     writeInput(kinds, writer);
     if (kinds.table)

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/store/folder_lock.h"
+#include "core/text/readable.h"
 #include "tests/support/batch_program.h"
 
 namespace trabeon {
@@ -108,6 +109,27 @@ TEST(Run, ShowsTheProjectsTablesAndItsDesignAndLeavesItsFiles) {
     expectAll(folder.read("x/DResult.txt"), {"Shear Failed!"});
 }
 
+TEST(Run, NamesLoadsThatLeaveTheirMemberAndAnalysesThem) {
+    const TemporaryFolder folder;
+    writeBeam(folder, 2);
+    folder.write("Udl.txt", "2,1,6,12,12,long\r\n1,0,6,12,12,fits\r\n");
+    folder.write("Point.txt", "1,7,5,late\r\n");
+    const std::string said =
+        "Row 1 of the point loads, on member 1: a is 7, beyond the member's end at 6. It is "
+        "analysed as it stands; mend the row if that is not meant.\n"
+        "Row 1 of the distributed loads, on member 2: a + b is 7, beyond the member's end at 6. It "
+        "is analysed as it stands; mend the row if that is not meant.\n";
+    const auto project = (folder / "stray.TB").string();
+    ASSERT_EQ(batch({"pack", folder.path().string(), project}).exit, 0);
+    for (const auto& words : {std::vector<std::string>{"run", project},
+                              std::vector<std::string>{"analyse", folder.path().string()}}) {
+        const auto answer = batch(words);
+        EXPECT_EQ(answer.exit, 0);
+        EXPECT_EQ(answer.err, said);
+    }
+    EXPECT_TRUE(folder.read("Udl.txt").starts_with(" 1,0,6"));  // in order by now
+}
+
 TEST(Run, LongBeamShowsItsMomentsAndSaysWhereItsTableIs) {
     const TemporaryFolder folder;
     writeBeam(folder, 21);
@@ -146,6 +168,17 @@ TEST(PackAndUnpack, GiveTheProjectBackWithItsTitle) {
               0);
     EXPECT_EQ(folder.read("again.TB"),
               TemporaryFolder::readFile(example("five-span-with-cantilever")));
+    folder.write("notes.txt", "mine");
+    fs::copy_file(folder / "again.TB", folder / "..TB");
+    const auto before = folder.contents();
+    for (const auto* taken : {"notes.txt", "work/Udl.txt", "work/Unfinished.set"}) {
+        const auto answer = batch({"pack", work, (folder / taken).string()});
+        EXPECT_EQ(answer.exit, 1);
+        expectAll(answer.err, {taken});
+    }
+    EXPECT_EQ(batch({"run", (folder / "..TB").string()}).exit, 0);
+    EXPECT_TRUE(fs::exists(folder / "..TB results/BM.txt"));
+    EXPECT_EQ(folder.contents(), before);
     EXPECT_EQ(batch({"unpack", (folder / "none.TB").string(), work}).exit, 1);
     EXPECT_EQ(batch({"pack", (folder / "none").string(), (folder / "x.TB").string()}).exit, 1);
 }
@@ -326,6 +359,9 @@ TEST(CommandLine, WrongUsageIsOneLineAndExitCodeTwo) {
          "A value is missing behind --out. Usage: trabeon-batch run FILE.TB [--divisions N] "
          "[--places N] [--out DIR]"},
         {{"analyse", ".", "--places", "few"}, "--places takes a number, not \"few\"."},
+        {{std::string(10'000, '\xE4')},
+         "There is no command \"" + readable(std::string(77, '\xE4')) +
+             "...\". See trabeon-batch --help."},
         {{"design", ".", "--no-restrict=1"}, "--no-restrict takes no value." + design},
         {{"design", ".", "--cover", "-5"}, "--cover takes a size of 0 mm or more."}};
     for (const auto& [words, line] : rows) {

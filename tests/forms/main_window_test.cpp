@@ -238,6 +238,17 @@ TEST_F(MainWindow, OpenUnpacksShowsTheTableAndCountsAnOwnTitleAsAChange) {
     EXPECT_EQ(folder.read("Job.TB"), TemporaryFolder::readFile(path));  // the same lines
 }
 
+TEST_F(MainWindow, TextsThatAreNoUtf8KeepTheirBytesFromOpenToSave) {
+    auto text = TemporaryFolder::readFile(EXAMPLES "/two-span-floor-beam.TB");
+    text.replace(text.find("Library"), 7, "Tr\xE4ger");
+    text.replace(text.find("Wall A"), 1, "\xDC");
+    folder.write("Job.TB", text);
+    Open(job);
+    EXPECT_EQ(forms().Get<frmJoints>().ListView1.ListItems(1).SubItems(2).substr(0, 2), "Ü");
+    Choose("&File|&Save");
+    EXPECT_EQ(folder.read("Job.TB"), text);
+}
+
 TEST_F(MainWindow, CancelledOrRefusedOpenLeavesTheProjectAsItWas) {
     Change();
     ExpectSave(job);

@@ -71,10 +71,10 @@ class Documents : public testing::Test {
         folder.write("BM.txt", "Span 1 \r\n0,1,2\r\n1,2,3\r\n1,2,4\r\n");
     }
     template <class Output, class Processor>
-    Document Write(const OutputKinds& kinds) {
+    Document Write(const OutputKinds& kinds, const ProjectTitle& title = {"P", "D", "B1"}) {
         Calls ignored;
         PaintingCharts charts(ignored, 2);
-        const OutputSource source{folder.path(), {"P", "D", "B1"}, 1, charts};
+        const OutputSource source{folder.path(), title, 1, charts};
         Processor objWord;
         Output writer(source, objWord);
         EXPECT_EQ(writeProject(source, kinds, writer).failure, "");
@@ -205,6 +205,12 @@ TEST_F(Documents, TheFileIsLandscapeLetterWithItsPictures) {
     EXPECT_TRUE(body.contains("&amp; Shear"));
     EXPECT_TRUE(Part(*docx, "word/media/picture6.png").startsWith("\x89PNG"));
     EXPECT_TRUE(Part(*docx, "word/_rels/document.xml.rels").contains("media/picture6.png"));
+    folder.write("Joint.txt", "1,Fixed,\"M\xFChle\x1B\"\r\n");
+    const auto mixed =
+        docxBytes(Write<WordOutput, WordDocument>(joints, {"Tr\xE4ger", "Jörg", "B\x01"}));
+    const auto texts = Part(*mixed, "word/document.xml");
+    for (const auto* text : {"TRABEON (Träger) by Jörg<", ">B?<", ">Mühle?<"})
+        EXPECT_TRUE(texts.contains(text)) << text;
     const auto wide = docxBytes({{}, {tableOf(Lines(40, "0123456789"))}});
     EXPECT_TRUE(Part(*wide, "word/document.xml").contains("</w:tbl><w:p>")) << "or they are one";
 }

@@ -90,10 +90,10 @@ TEST_F(PrintOptions, ADrawnBackPrintDoesNothingAndAFailedOneSaysSo) {
     auto& form = Open();
     outside.ExpectPrinter("Untitled", "");
     Click(form.cmdPrint);
-    outside.ExpectPrinter("Untitled", (folder / "no such folder" / "print.pdf").string());
-    outside.ExpectMsgBox(
-        "The print of \"Untitled\" did not reach the printer or its file. See to the printer, or "
-        "choose another file, then print again.");
+    const auto pdf = (folder / "no such folder" / "print.pdf").string();
+    outside.ExpectPrinter("Untitled", pdf);
+    outside.ExpectMsgBox("The print of \"Untitled\" did not reach \"" + pdf +
+                         "\". Choose another file, then print again.");
     Click(form.cmdPrint);
 }
 

@@ -46,6 +46,7 @@ std::vector<Texts> printed(const PrintSource& source, const OutputKinds& kinds) 
 TEST(PrintHeadingLine, HasNoBlankBehindDesigner) {
     EXPECT_EQ(printHeadingLine("P", "D", "Monday", "9:5:7"),
               "P     Designer:D     Monday     9:5:7");
+    EXPECT_TRUE(printHeadingLine("\xDC", "Ü", "", "").starts_with("Ü     Designer:Ü "));
 }
 
 TEST(PrintedPages, NothingTickedIsABlankPage) {
@@ -55,13 +56,13 @@ TEST(PrintedPages, NothingTickedIsABlankPage) {
 TEST(PrintedPages, HoldTheRowKindsInTheirOrder) {
     PrintSource all = source(1);
     all.members = {{"1", "200", "2", "6", "None"}};
-    all.points = {{"1", "2", "10", "Q"}};
+    all.points = {{"1", "2", "10", "\xC4"}};
     all.udls = {{"1", "0", "6", "12", "13", "R"}};
     EXPECT_EQ(
         printed(all, {}),  // as they are ticked at start: the five others change nothing
         (std::vector<Texts>{{"HEAD", "Joint Data", "1     Fixed     None", "HEAD", "Member Data",
                              "1     200     2     6     None", "HEAD", "Point Load Data",
-                             "1     2     10     Q", "Uniformly Distributed Load Data",
+                             "1     2     10     Ä", "Uniformly Distributed Load Data",
                              "1     0     6     12     13     R"}}));
     EXPECT_EQ(printed(source(0), loads),
               (std::vector<Texts>{{"HEAD", "Point Load Data", "Uniformly Distributed Load Data"}}));

@@ -46,6 +46,17 @@ TEST(ReportProgram, RefusesInOneSentence) {
         EXPECT_NE(refused.said.find(said), std::string::npos) << refused.said;
     }
     EXPECT_TRUE(folder.contents().empty());
+    folder.write("notes.docx", "mine");
+    std::filesystem::copy_file(EXAMPLES "/five-span-with-cantilever.TB", folder / "q.TB");
+    const auto before = folder.contents();
+    const auto project = QString::fromStdString((folder / "q.TB").string());
+    for (const auto* taken : {"q.TB", "notes.docx"}) {
+        const auto path = QString::fromStdString((folder / taken).string());
+        const auto refused = report({project, "--out", path});
+        EXPECT_EQ(refused.exit, 1);
+        EXPECT_NE(refused.said.find(taken), std::string::npos) << refused.said;
+    }
+    EXPECT_EQ(folder.contents(), before);
 }
 
 TEST(ReportProgram, AWordProcessorShowsItsDocumentWhole) {

@@ -64,7 +64,7 @@ void changeRows(Forms& forms) {
 
 void save(frmTrabeon& program) {
     program.mnuSave_Click();
-    std::printf("flag %d\n", program.context().dataChanged);
+    std::printf("flag %d\n", static_cast<int>(program.context().dataChanged));
 }
 
 void job(frmTrabeon& program) {

@@ -115,9 +115,9 @@ TEST_F(PageTest, APrintThatEndsEarlyIsTold) {
     folder.write("out.pdf", "old");
     const auto before = folder.contents();
     const FullDisk disk(4096);
-    EXPECT_EQ(Print(box).trouble,
-              "The report could not be printed. See to the printer, or choose another name for the "
-              "PDF file, then try again.");
+    EXPECT_EQ(Print(box).trouble, "The report could not be printed to \"" +
+                                      (folder / "out.pdf").string() +
+                                      "\". Choose another file, then try again.");
     EXPECT_EQ(folder.contents(), before);
 }
 

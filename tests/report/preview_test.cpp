@@ -128,10 +128,10 @@ TEST_F(PreviewTest, PrintsTheWholeReportAndCloses) {
         return !forms().IsLoaded("frmDocPreview");
     };
     EXPECT_FALSE(print("")) << "the user drew back";
-    outside.ExpectPrinter("Trabeon Report", (folder / "missing" / "out.pdf").string());
-    outside.ExpectMsgBox(
-        "The report could not be printed. See to the printer, or choose another name for the PDF "
-        "file, then try again.");
+    const auto missing = (folder / "missing" / "out.pdf").string();
+    outside.ExpectPrinter("Trabeon Report", missing);
+    outside.ExpectMsgBox("The report could not be printed to \"" + missing +
+                         "\". Choose another file, then try again.");
     Click(Preview().cmdPrint);
     Click(Preview().cmdNextPage);
     EXPECT_TRUE(print((folder / "out.pdf").string()));

@@ -3,6 +3,7 @@
 
 #include <QClipboard>
 #include <QInputMethodEvent>
+#include <QLineEdit>
 
 #include "tests/toolkit/controls_fixture.h"
 
@@ -33,6 +34,19 @@ TEST_F(TextBoxTest, ChangeComesForEachKeyAndForANewTextByCode) {
     Type(second, "34");
     EXPECT_EQ(changes, 3);
     EXPECT_EQ(second.Text(), "1234");
+}
+
+TEST_F(TextBoxTest, ATextThatIsNoUtf8KeepsItsBytesUntilItIsEdited) {
+    first.SetKeepsToField(true);
+    first.SetText("Tr\xE4ger");
+    EXPECT_EQ(static_cast<QLineEdit*>(first.Widget())->text(), QString("Träger"));
+    EXPECT_EQ(first.Text(), "Tr\xE4ger");
+    Key(first, Qt::Key_End);
+    Type(first, "s");
+    EXPECT_EQ(first.Text(), "Trägers");
+    Key(first, Qt::Key_Backspace);
+    first.SetText("a\r\nb");  // what the box does not take is not given back
+    EXPECT_EQ(first.Text(), "ab");
 }
 
 TEST_F(TextBoxTest, AKeyPressHandlerDropsReplacesOrMovesOn) {

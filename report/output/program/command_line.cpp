@@ -4,6 +4,7 @@
 #include <array>
 
 #include "core/text/number_text.h"
+#include "core/text/readable.h"
 
 namespace trabeon {
 namespace {
@@ -43,7 +44,8 @@ Failure readKinds(const std::string& text, OutputKinds& kinds) {
         const auto known = std::find_if(kindNames.begin(), kindNames.end(),
                                         [&](const auto& each) { return each.first == word; });
         if (known == kindNames.end())
-            return Refusal{"There is no kind \"" + word + "\". The kinds are " + allKinds() + "."};
+            return Refusal{"There is no kind \"" + excerpt(word) + "\". The kinds are " +
+                           allKinds() + "."};
         kinds.*known->second = true;
         from = comma + 1;
     }
@@ -53,7 +55,7 @@ Failure readKinds(const std::string& text, OutputKinds& kinds) {
 Failure readNumber(const std::string& name, const std::string& text, double& value) {
     const auto number = numberOfWholeText(text);
     if (!number)
-        return Refusal{name + " takes a number, not \"" + text + "\"."};
+        return Refusal{name + " takes a number, not \"" + excerpt(text) + "\"."};
     value = *number;
     return std::nullopt;
 }
@@ -66,7 +68,7 @@ Failure readOption(const std::string& name, const std::string& value, ReportComm
     if (name == "--kinds")
         return readKinds(value, command.kinds);
     if (name != "--out")
-        return Refusal{"There is no option " + name + ". " + usage};
+        return Refusal{"There is no option " + excerpt(name) + ". " + usage};
     command.out = value;
     return std::nullopt;
 }
@@ -83,7 +85,8 @@ std::string reportHelp() {
            "places to\nwhich the position of a maximum is searched, 0 to 12 (default 3). --kinds: "
            "what goes in, of\n" +
            allKinds() +
-           " (default all).\nExit code: 0 done, 1 refused (the reason stands on standard error), 2 "
+           " (default all). --out: a document that is there is replaced, any other file stays.\nExit "
+           "code: 0 done, 1 refused (the reason stands on standard error), 2 "
            "wrong usage.\n";
 }
 
@@ -98,13 +101,14 @@ Outcome<ReportCommand> readReportCommand(const std::vector<std::string>& words) 
         }
         if (!word.starts_with("--")) {
             if (!command.file.empty())
-                return Refusal{"One project at a time: \"" + word + "\" is one too many. " + usage};
+                return Refusal{"One project at a time: \"" + excerpt(word) +
+                               "\" is one too many. " + usage};
             command.file = word;
             continue;
         }
         const auto sign = word.find('=');
         if (sign == std::string::npos && i + 1 == words.size())
-            return Refusal{"A value is missing behind " + word + ". " + usage};
+            return Refusal{"A value is missing behind " + excerpt(word) + ". " + usage};
         const auto value = sign == std::string::npos ? words[++i] : word.substr(sign + 1);
         if (auto failure = readOption(word.substr(0, sign), value, command))
             return *failure;

@@ -6,6 +6,7 @@
 
 #include "core/analysis/result_files.h"
 #include "core/design/design.h"
+#include "core/store/output_file.h"
 #include "core/store/replacing_file.h"
 #include "core/store/temporary_file.h"
 #include "core/store/working_files.h"
@@ -51,6 +52,8 @@ void prepare(frmTrabeon& program, const ProjectTitle& title, const AnalysisSetti
 }
 
 Failure makeReport(const ReportCommand& command, const std::filesystem::path& folder) {
+    if (auto failure = unfitDocumentFile(command.out, command.file))
+        return failure;
     const auto opened = unpackProject(command.file, folder);
     if (!opened)
         return opened.refusal();

@@ -99,6 +99,15 @@ TEST(DesignRun, WritesTheseLines) {
         EXPECT_FALSE(designFolder(folder.path(), Divisions, {}));
     EXPECT_FALSE(designFolder(folder.path(), 2, {1 / 0.0}));
     EXPECT_FALSE(designFolder(folder / "none", 2, {}));
+    for (const auto* name : {"BM.txt", "BeamDim.txt", "Member.txt", "Joint.txt"}) {
+        std::filesystem::remove(folder / name);
+        std::filesystem::create_directory(folder / name);
+        const auto refused = designFolder(folder.path(), 2, {});
+        ASSERT_FALSE(refused);
+        EXPECT_TRUE(refused.refusal().sentence.starts_with('"' + (folder / name).string() +
+                                                           "\" cannot be read (it is a folder)"));
+        EXPECT_EQ(folder.read("DResult.txt"), lines);
+    }
 }
 
 TEST(GetData, FindsSectionsByNumberAndStationsByPlace) {

@@ -1,10 +1,11 @@
-#include "core/store/new_project.h"
 #include "core/store/project_file.h"
+#include "core/store/new_project.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
+#include "core/store/row_editing.h"
 #include "core/store/working_files.h"
 #include "tests/support/temporary_folder.h"
 
@@ -72,6 +73,22 @@ TEST_F(ProjectFile, OpenThenSaveGivesTheSameLines) {
     EXPECT_EQ(UsersFiles(), unpacked);
 }
 
+TEST_F(ProjectFile, TextsOfAnyCharacterSetKeepTheirBytes) {
+    auto text = With("Mill, west", "Tr\xE4ger");
+    for (const auto* each : {"None", "a, b", "Zero Load"})
+        text.replace(text.find(each), 4, "\xFF\x80 \xC3");
+    std::string longest;
+    while (longest.size() < 2 * longestTitle)
+        longest += "ä";
+    text.replace(text.find("B1"), 2, longest);
+    ASSERT_EQ(Refusal("\xEF\xBB\xBF" + text), "");
+    const auto opened = unpackProject(folder / "a.TB", work.path());
+    EXPECT_FALSE(addRow(work.path(), 9, JointRow{"3", "Fixed", "x"}));
+    EXPECT_FALSE(removeRow<JointRow>(work.path(), 3, Numbering::asRead));
+    EXPECT_TRUE(packProject(work.path(), opened->title, folder / "b.TB"));
+    EXPECT_EQ(folder.read("b.TB"), text);
+}
+
 TEST_F(ProjectFile, NewProjectHasAllHeadingsAndNothingBetween) {
     EXPECT_FALSE(CreateNFile(work.path()));
     EXPECT_TRUE(packProject(work.path(), {}, folder / "new.TB"));
@@ -102,6 +119,8 @@ TEST_F(ProjectFile, RefusedOnesNameTheLineAndChangeNothing) {
         {With("2,Fixed,\"\"", "2,Fixed,a,b"),
          "line 8: a joint row or the heading \"MEMBERS\" was expected; a row has 3 fields, this "
          "line has more than 3"},
+        {With("Mill, west", std::string(1'000'000, '\xE4')),
+         "line 3: the project title has 1000000 characters; 32767 are the most"},
         {With(",250,6\r\n", ",250\r\n"),
          "line 18: a row of beam dimensions was expected; a row has 10 fields, this line has 9"},
     };
@@ -113,6 +132,14 @@ TEST_F(ProjectFile, RefusedOnesNameTheLineAndChangeNothing) {
         EXPECT_EQ(work.contents(), before);
     }
     EXPECT_FALSE(unpackProject(folder / "none.TB", work.path()));
+    const auto failing = unpackProject("/proc/self/mem", work.path());  // opens, and fails to read
+    EXPECT_TRUE(failing.refusal().sentence.starts_with("\"/proc/self/mem\" cannot be read"));
+    std::string wide;
+    for (const char c : whole)
+        (wide += c) += '\0';
+    for (const auto& text : {wide, "\xFE\xFF" + std::string(1, '\0') + wide})
+        EXPECT_NE(Refusal(text).find("a.TB\" is a text in UTF-16"), std::string::npos);
+    EXPECT_EQ(work.contents(), before);
 }
 
 TEST_F(ProjectFile, WhatCannotBeSavedOrOpenedAgainLeavesTheOldFile) {
@@ -124,6 +151,9 @@ TEST_F(ProjectFile, WhatCannotBeSavedOrOpenedAgainLeavesTheOldFile) {
         return why ? "" : why.refusal().sentence;
     };
     EXPECT_NE(failure({"a \"quoted\" title", "", ""}), "");
+    EXPECT_EQ(failure({"", std::string(longestTitle + 1, 'x'), ""}),
+              "The title text \"" + std::string(77, 'x') +
+                  "...\" has 32768 characters; 32767 are the most. Shorten it, then save again.");
     work.write("BeamDim.txt", "1,1,300\r\n");
     EXPECT_NE(failure().find("a row of beam dimensions was expected"), std::string::npos);
     work.write("BeamDim.txt", "");

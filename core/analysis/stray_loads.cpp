@@ -1,0 +1,72 @@
+#include "core/analysis/stray_loads.h"
+
+#include <cmath>
+
+#include "core/text/number_text.h"
+
+namespace trabeon {
+namespace {
+
+constexpr double roundingOfLength = 1e-12;  // of the member's length
+
+/// Generated number text without its blank.
+std::string plain(double value) {
+    if (!std::isfinite(value))
+        return "too large a number";
+    const auto text = generatedText(value);
+    return text.substr(text.front() == ' ' ? 1 : 0);
+}
+
+/// What is wrong with a stretch from a to `end` on a member of the length L, if anything is.
+std::string outside(double a, double end, const std::string& endName, double L) {
+    if (a < 0)
+        return "a is " + plain(a) + ", before the member's start";
+    if (end > L * (1 + roundingOfLength))
+        return endName + " is " + plain(end) + ", beyond the member's end at " + plain(L);
+    return {};
+}
+
+std::string wrongWith(const PointLoad& load, double L) {
+    return outside(load.a, load.a, "a", L);
+}
+
+std::string wrongWith(const UdlLoad& load, double L) {
+    if (load.b < 0)
+        return "its width b is negative, " + plain(load.b);
+    return outside(load.a, load.a + load.b, "a + b", L);
+}
+
+template <class Load>
+void appendStray(std::vector<StrayLoad>& stray, const std::vector<typename Load::Row>& rows,
+                 const std::vector<double>& lengths) {
+    for (std::size_t k = 0; k < rows.size(); ++k) {
+        const Load load(rows[k]);
+        const auto member = load.isZero() ? 0 : memberOf(rows[k].member, lengths.size());
+        if (member == 0 || load.unfit())
+            continue;
+        auto what = wrongWith(load, lengths[member - 1]);
+        if (!what.empty())
+            stray.push_back({Load::name, k + 1, member, std::move(what)});
+    }
+}
+
+}  // namespace
+
+std::vector<StrayLoad> strayLoads(const BeamRows& rows) {
+    std::vector<double> lengths;
+    lengths.reserve(rows.members.size());
+    for (const auto& row : rows.members)
+        lengths.push_back(leadingNumber(row.L));
+    std::vector<StrayLoad> stray;
+    appendStray<PointLoad>(stray, rows.points, lengths);
+    appendStray<UdlLoad>(stray, rows.udls, lengths);
+    return stray;
+}
+
+std::string sentenceOf(const StrayLoad& load) {
+    return "Row " + std::to_string(load.row) + " of the " + std::string(load.kind) +
+           "s, on member " + std::to_string(load.member) + ": " + load.what +
+           ". It is analysed as it stands; mend the row if that is not meant.";
+}
+
+}  // namespace trabeon

@@ -1,0 +1,29 @@
+// Loads that do not lie on their member. The analysis takes them as they stand; users want to know.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/analysis/analysis.h"
+
+namespace trabeon {
+
+/// Row and member count from 1, the row in its file as it stands.
+struct StrayLoad {
+    std::string_view kind;  // "point load" or "distributed load"
+    std::size_t row = 0;
+    std::size_t member = 0;
+    std::string what;  // is wrong: "a is 7, beyond the member's end at 6"
+};
+
+/// The point loads with a < 0 or a > L and the distributed loads with a < 0, a + b > L or b < 0, in
+/// the order of their files. A load that ends within 1e-12 L beyond L ends at L. Loads of 0, loads
+/// that name no member, and loads with a number that the analysis refuses are left out.
+[[nodiscard]] std::vector<StrayLoad> strayLoads(const BeamRows& rows);
+
+/// One sentence for the user.
+[[nodiscard]] std::string sentenceOf(const StrayLoad& load);
+
+}  // namespace trabeon

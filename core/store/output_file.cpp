@@ -1,0 +1,66 @@
+#include "core/store/output_file.h"
+
+#include <fstream>
+
+#include "core/store/project_file.h"
+
+namespace trabeon {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view documentStart{"PK\x03\x04"};
+constexpr std::string_view projectStart{"WARNNING!"};
+constexpr std::string_view byteOrderMark{"\xEF\xBB\xBF"};
+
+/// Nothing there, or a file of 0 bytes.
+bool isFree(const fs::path& file) {
+    std::error_code missing;
+    if (!fs::exists(fs::status(file, missing)))
+        return true;
+    return fs::is_regular_file(file, missing) && fs::file_size(file, missing) == 0;
+}
+
+bool begins(const fs::path& file, std::string_view start) {
+    std::error_code missing;
+    if (!fs::is_regular_file(file, missing))
+        return false;
+    std::string read(start.size(), '\0');
+    std::ifstream(file, std::ios::binary)
+        .read(read.data(), static_cast<std::streamsize>(read.size()));
+    return read == start;
+}
+
+Refusal taken(const fs::path& file, std::string_view kind) {
+    return {"\"" + file.string() + "\" is there already and is no " + std::string(kind) +
+            ". Name another file; nothing was changed."};
+}
+
+}  // namespace
+
+Failure unfitDocumentFile(const fs::path& file, const fs::path& project) {
+    std::error_code missing;
+    if (fs::equivalent(file, project, missing))
+        return Refusal{"\"" + file.string() +
+                       "\" is the project itself. Name another file for the document; nothing was "
+                       "changed."};
+    if (isFree(file) || begins(file, documentStart))
+        return std::nullopt;
+    return taken(file, "document (.docx)");
+}
+
+Failure unfitProjectFile(const fs::path& file) {
+    const bool isProject = isFree(file) || begins(file, projectStart) ||
+                           begins(file, std::string(byteOrderMark) + std::string(projectStart)) ||
+                           readProject(file);
+    return isProject ? Failure() : taken(file, "project file");
+}
+
+fs::path resultFolder(const fs::path& project) {
+    const auto name = project.filename();
+    const auto stem = name.stem();
+    const bool usable = stem != name && stem != "." && stem != "..";
+    return project.parent_path() / (usable ? stem : fs::path(name) += " results");
+}
+
+}  // namespace trabeon
