@@ -11,6 +11,7 @@
 #include "batch/beam_report.h"
 #include "batch/design_report.h"
 #include "core/analysis/result_files.h"
+#include "core/analysis/result_state.h"
 #include "core/analysis/stray_loads.h"
 #include "core/design/reinforcement_tables.h"
 #include "core/design/shear.h"
@@ -128,6 +129,13 @@ Exit analyseCommand(const CommandLine& line) {
     return analysed(folder, *settings, [](double) {}) ? Exit::done : Exit::refused;
 }
 
+/// Results that are known to be of another beam, or of earlier rows or divisions.
+Failure outdated(const fs::path& file, ResultState state) {
+    if (state != ResultState::outdated)
+        return std::nullopt;
+    return Refusal{'"' + file.string() + "\": " + std::string(analyseAgain)};
+}
+
 /// A run takes a station file as it is; a user who has not analysed shall know it.
 Failure unfitStations(const DesignData& data) {
     if (data.NumofMem() > 0 && data.stationsFit())
@@ -161,9 +169,11 @@ Exit designCommand(const CommandLine& line) {
         return refused(data.refusal());
     if (auto failure = unfitStations(*data))
         return refused(*failure);
+    if (auto failure = outdated(folder / working_file::stations, stationsState(folder, Divisions)))
+        return refused(*failure);
     warn(*data);
     const auto design = designBeam(*data, *misc);
-    if (auto failure = writeDesign(folder, design))
+    if (auto failure = writeDesign(folder, design, Divisions, *misc))
         return refused(*failure);
     return design.ShearFailed ? refused({std::string(shearFailureSentence)}) : Exit::done;
 }
@@ -219,7 +229,10 @@ Exit packCommand(const CommandLine& line) {
                              line.option("--designer").value_or(kept.designer),
                              line.option("--beam").value_or(kept.beamName)};
     const auto packed = packProject(folder, title, line.operands[1]);
-    return packed ? Exit::done : refused(packed.refusal());
+    if (!packed)
+        return refused(packed.refusal());
+    const auto failure = outdated(folder / working_file::balanceTable, tableState(folder));
+    return failure ? refused(*failure) : Exit::done;
 }
 
 void show(const ProjectTitle& title, const Analysis& analysis, const fs::path& folder) {
@@ -235,21 +248,22 @@ void show(const ProjectTitle& title, const Analysis& analysis, const fs::path& f
     std::fputs(resultTables(analysis).c_str(), stdout);
 }
 
-/// A project that has no dimensions is not designed.
-Failure showDesign(const fs::path& folder, const AnalysisSettings& settings) {
+/// A project that has no dimensions is not designed. A section that failed in shear is told in the
+/// table, and by the exit code.
+Exit showDesign(const fs::path& folder, const AnalysisSettings& settings) {
     if (readWhole(folder / working_file::beamDimensions).empty())
-        return std::nullopt;
+        return Exit::done;
     const auto data = readDesignData(folder, settings.Divisions);
     if (!data)
-        return data.refusal();
+        return refused(data.refusal());
     warn(*data);
     const auto design = designBeam(*data, {});
-    if (auto failure = writeDesign(folder, design))
-        return failure;
+    if (auto failure = writeDesign(folder, design, settings.Divisions, {}))
+        return refused(*failure);
     const bool few = data->NumofMem() <= mostMembersShown;
     const auto text = few ? designTable(design, data->NumofMem()) : designSummary(design);
     std::printf("\n%s", text.c_str());
-    return std::nullopt;
+    return design.ShearFailed ? Exit::refused : Exit::done;
 }
 
 Exit runCommand(const CommandLine& line) {
@@ -269,10 +283,9 @@ Exit runCommand(const CommandLine& line) {
     if (!analysis)
         return Exit::refused;
     show(project->title, *analysis, folder);
-    if (auto failure = showDesign(folder, *settings))
-        return refused(*failure);
+    const auto end = showDesign(folder, *settings);
     std::printf("Result files: %s\n", folder.string().c_str());
-    return Exit::done;
+    return end;
 }
 
 }  // namespace

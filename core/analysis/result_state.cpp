@@ -14,29 +14,43 @@ bool isEmpty(const std::filesystem::path& file) {
     return missing || size == 0;
 }
 
-ResultState compared(const std::optional<std::uint64_t>& recorded, std::uint64_t now) {
-    if (!recorded)
-        return ResultState::unrecorded;
-    return *recorded == now ? ResultState::current : ResultState::outdated;
-}
-
 }  // namespace
 
 std::uint64_t stationsFingerprint(std::uint64_t input, double Divisions) {
     return mixedFingerprint({input, std::bit_cast<std::uint64_t>(Divisions)});
 }
 
-ResultState tableState(const std::filesystem::path& folder) {
-    if (isEmpty(folder / working_file::balanceTable))
+ResultState resultState(const std::filesystem::path& file,
+                        const std::optional<std::uint64_t>& recorded, std::uint64_t now) {
+    if (isEmpty(file))
         return ResultState::absent;
-    return compared(readRecord(folder).table, inputFingerprint(folder));
+    if (!recorded)
+        return ResultState::unrecorded;
+    return *recorded == now ? ResultState::current : ResultState::outdated;
+}
+
+ResultState tableState(const std::filesystem::path& folder) {
+    return resultState(folder / working_file::balanceTable, readRecord(folder).table,
+                       inputFingerprint(folder));
 }
 
 ResultState stationsState(const std::filesystem::path& folder, double Divisions) {
-    if (isEmpty(folder / working_file::stations))
-        return ResultState::absent;
-    return compared(readRecord(folder).stations,
-                    stationsFingerprint(inputFingerprint(folder), Divisions));
+    return resultState(folder / working_file::stations, readRecord(folder).stations,
+                       stationsFingerprint(inputFingerprint(folder), Divisions));
+}
+
+std::string_view remarkOn(ResultState state, Unrecorded unrecorded, std::string_view outdated) {
+    switch (state) {
+        case ResultState::absent:
+            return noResults;
+        case ResultState::unrecorded:
+            return unrecorded == Unrecorded::accepted ? "" : outdated;
+        case ResultState::outdated:
+            return outdated;
+        case ResultState::current:
+            break;
+    }
+    return "";
 }
 
 }  // namespace trabeon

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string_view>
 
 namespace trabeon {
@@ -13,14 +14,25 @@ enum class ResultState { absent, unrecorded, outdated, current };
 
 inline constexpr std::string_view analyseAgain =
     "Of another beam or an earlier state: analyse again";
-inline constexpr std::string_view designAgain =
-    "Of another beam or an earlier state: design again";
+inline constexpr std::string_view noResults = "Not analysed yet: analyse first";
+inline constexpr std::string_view designAgain = "Of another beam or an earlier state: design again";
 
 /// What stations are made from: the four input files, and the number of parts of a span.
 [[nodiscard]] std::uint64_t stationsFingerprint(std::uint64_t input, double Divisions);
 
+/// How the results in a file compare with a fingerprint of what they should be made from.
+[[nodiscard]] ResultState resultState(const std::filesystem::path& file,
+                                      const std::optional<std::uint64_t>& recorded,
+                                      std::uint64_t now);
+
 /// Of "TB.txt", and of "BM.txt" with these Divisions.
 [[nodiscard]] ResultState tableState(const std::filesystem::path& folder);
 [[nodiscard]] ResultState stationsState(const std::filesystem::path& folder, double Divisions);
+
+/// What to show beside results; nothing if they are current. A batch takes unrecorded results
+/// without a remark, the windows do not.
+enum class Unrecorded { accepted, remarked };
+[[nodiscard]] std::string_view remarkOn(ResultState state, Unrecorded unrecorded,
+                                        std::string_view outdated = analyseAgain);
 
 }  // namespace trabeon

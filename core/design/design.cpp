@@ -1,6 +1,7 @@
 #include "core/design/design.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 
 #include "core/analysis/analysis.h"
@@ -10,7 +11,8 @@
 #include "core/design/links.h"
 #include "core/design/notes.h"
 #include "core/design/shear.h"
-#include "core/store/replacing_file.h"
+#include "core/store/file_set.h"
+#include "core/store/folder_record.h"
 
 namespace trabeon {
 namespace {
@@ -65,13 +67,22 @@ DesignRow rowWithoutData(std::size_t Member, CarriedValues& carried) {
                         none.DefAllow, std::string(note::noData), 0, 0);
 }
 
+std::uint64_t designFingerprint(const std::filesystem::path& folder, double Divisions,
+                                const MiscProperties& misc) {
+    const auto bits = [](double value) { return std::bit_cast<std::uint64_t>(value); };
+    return mixedFingerprint({fingerprint(readWhole(folder / working_file::stations)),
+                             fingerprint(readWhole(folder / working_file::beamDimensions)),
+                             bits(Divisions), bits(misc.cover), bits(misc.links), bits(misc.hagg),
+                             misc.restrictDeflection ? 1U : 0U});
+}
+
 }  // namespace
 
 DesignRow designSection(std::size_t Member, std::size_t Section, CarriedValues& at,
                         const DesignData& data, const MiscProperties& misc) {
     data.GetData(Member, Section, at.b, at.d, at.effd, at.fcu, at.fy, at.YM, at.fyv, at.L, at.dist,
                  at.Moment, at.Shear, at.OriginMoment, at.OriginShear);
-    if (!hasData(at) || !designSteel(at, misc))
+    if (!data.hasStation(Member, Section) || !hasData(at) || !designSteel(at, misc))
         return rowWithoutData(Member, at);
     ProvideReinforcement(at.b, at.fy, at.Asreq, at.Aspreq, at.Asprov, at.Aspprov, at.MomentRein,
                          at.OriginMoment, at.OriginShear, misc);
@@ -108,8 +119,24 @@ Failure unfitForDesign(double Divisions, const MiscProperties& misc) {
     return std::nullopt;
 }
 
-Failure writeDesign(const std::filesystem::path& folder, const BeamDesign& design) {
-    return replaceFile(folder / DesignRow::file, textOf(design.rows, Description::bare));
+Failure writeDesign(const std::filesystem::path& folder, const BeamDesign& design, double Divisions,
+                    const MiscProperties& misc) {
+    FileSet files(folder);
+    files.add(DesignRow::file).write(textOf(design.rows, Description::bare));
+    auto record = readRecord(folder);
+    record.design = designFingerprint(folder, Divisions, misc);
+    files.add(working_file::record).write(textOf(record));
+    return files.commit();
+}
+
+std::string_view remarkOnDesign(const std::filesystem::path& folder, double Divisions,
+                                const MiscProperties& misc, Unrecorded unrecorded) {
+    const auto state = resultState(folder / DesignRow::file, readRecord(folder).design,
+                                   designFingerprint(folder, Divisions, misc));
+    if (state == ResultState::absent)
+        return "";
+    const auto onStations = remarkOn(stationsState(folder, Divisions), unrecorded);
+    return onStations.empty() ? remarkOn(state, unrecorded, designAgain) : onStations;
 }
 
 Outcome<BeamDesign> designFolder(const std::filesystem::path& folder, double Divisions,
@@ -120,7 +147,7 @@ Outcome<BeamDesign> designFolder(const std::filesystem::path& folder, double Div
     if (!data)
         return data.refusal();
     auto design = designBeam(*data, misc);
-    if (auto failure = writeDesign(folder, design))
+    if (auto failure = writeDesign(folder, design, Divisions, misc))
         return *failure;
     return design;
 }

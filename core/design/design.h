@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "core/analysis/result_state.h"
 #include "core/design/design_data.h"
 #include "core/design/design_results.h"
 #include "core/design/misc_properties.h"
@@ -31,8 +32,9 @@ struct CarriedValues {
 };
 
 /// Designs a section with the values of the one before it, and leaves its own. A section whose b,
-/// effective depth, fcu, fy or fyv is not above 0, or whose values are no finite numbers, is not
-/// calculated: its results are 0, its bars and links empty, its note "No Data".
+/// effective depth, fcu, fy or fyv is not above 0, that has no station, or whose values are no
+/// finite numbers, is not calculated: its results are 0, its bars and links empty, its note "No
+/// Data".
 [[nodiscard]] DesignRow designSection(std::size_t Member, std::size_t Section,
                                       CarriedValues& carried, const DesignData& data,
                                       const MiscProperties& misc);
@@ -48,8 +50,15 @@ struct BeamDesign {
 /// Refuses Divisions that an analysis refuses, and properties that are no finite numbers.
 [[nodiscard]] Failure unfitForDesign(double Divisions, const MiscProperties& misc);
 
-/// Writes "DResult.txt" into a working folder anew.
-[[nodiscard]] Failure writeDesign(const std::filesystem::path& folder, const BeamDesign& design);
+/// Writes "DResult.txt" into a working folder anew, and records what the design was made from.
+[[nodiscard]] Failure writeDesign(const std::filesystem::path& folder, const BeamDesign& design,
+                                  double Divisions, const MiscProperties& misc);
+
+/// What to show beside "DResult.txt": nothing if it was designed from the stations, dimensions and
+/// properties that are there now, or is absent; otherwise that the beam is to be analysed again, or
+/// designed again.
+[[nodiscard]] std::string_view remarkOnDesign(const std::filesystem::path& folder, double Divisions,
+                                              const MiscProperties& misc, Unrecorded unrecorded);
 
 /// Designs the beam whose working files stand in a folder, analysed with the same Divisions, and
 /// writes "DResult.txt".

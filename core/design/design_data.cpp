@@ -35,7 +35,8 @@ void DesignData::readStations(std::string_view text) {
         const auto& [x, moment, shear] = reader.row();
         stations_.push_back({leadingNumber(x), {leadingNumber(moment), leadingNumber(shear)}});
     }
-    stationsFit_ = stations_.size() == NumofMem_ * sectionsPerMember_ && reader.atEnd();
+    stationsRead_ = stations_.size();
+    stationsFit_ = stationsRead_ == NumofMem_ * sectionsPerMember_ && reader.atEnd();
     stations_.resize(NumofMem_ * sectionsPerMember_);
 }
 

@@ -38,6 +38,10 @@ class DesignData {
     [[nodiscard]] std::size_t NumofMem() const { return NumofMem_; }
     [[nodiscard]] std::size_t sectionsPerMember() const { return sectionsPerMember_; }
 
+    /// Whether the station file goes as far as this section.
+    [[nodiscard]] bool hasStation(std::size_t Member, std::size_t Section) const {
+        return (Member - 1) * sectionsPerMember_ + Section < stationsRead_;
+    }
     /// Whether the station file had just the blocks and rows that were looked for.
     [[nodiscard]] bool stationsFit() const { return stationsFit_; }
     [[nodiscard]] MissingDimensions missingDimensions() const;
@@ -56,6 +60,7 @@ class DesignData {
     std::size_t sectionsPerMember_;
     std::vector<Dimensions> dimensions_;
     std::vector<Station> stations_;
+    std::size_t stationsRead_ = 0;
     bool stationsFit_ = false;
 };
 

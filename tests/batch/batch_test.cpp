@@ -104,7 +104,7 @@ TEST(Run, ShowsTheProjectsTablesAndItsDesignAndLeavesItsFiles) {
               {"\n5                -50           0           0   -5.00E+01   -4.00E+01\n",
                "\n6                  0\n", "loads to 915.5: they agree.", "4Y25  1R10-109  OK\n"});
     answer = batch({"run", example("fixed-ended-transfer-beam"), "--out", (folder / "x").string()});
-    EXPECT_EQ(answer.exit, 0);
+    EXPECT_EQ(answer.exit, 1);  // a section fails in shear
     expectAll(answer.out, {"none  Shear Failed!\nPlease Increase bv or d of beam.\n"});
     expectAll(folder.read("x/DResult.txt"), {"Shear Failed!"});
 }
@@ -315,6 +315,22 @@ TEST_F(Design, ShearFailureIsExitCodeOneAndTheResultsAreThere) {
     EXPECT_EQ(answer.exit, 1);
     EXPECT_EQ(answer.err, "Please Increase bv or d of beam.\n");
     expectAll(folder.read("DResult.txt"), {"Shear Failed! Def. OK\r\n"});
+}
+
+TEST_F(Design, RefusesStationsAndTellsOfATableOfAnEarlierState) {
+    Prepare("two-span-floor-beam");
+    std::ofstream(folder / "Udl.txt", std::ios::app) << "2,1,2,5,5,more\r\n";
+    const std::string why = "\": Of another beam or an earlier state: analyse again\n";
+    auto answer = Run();
+    EXPECT_EQ(answer.exit, 1);
+    EXPECT_EQ(answer.err, '"' + (folder / "BM.txt").string() + why);
+    EXPECT_FALSE(fs::exists(folder / "DResult.txt"));
+    answer = batch({"pack", folder.path().string(), (folder / "a.TB").string()});
+    EXPECT_EQ(answer.exit, 1);
+    EXPECT_EQ(answer.err, '"' + (folder / "TB.txt").string() + why);
+    EXPECT_TRUE(fs::exists(folder / "a.TB"));
+    fs::remove(folder / "Record.txt");  // results of another program are taken as they are
+    EXPECT_EQ(Run().exit, 0);
 }
 
 TEST_F(Design, RefusesWhatDoesNotFitAndNamesMissingDimensions) {

@@ -142,7 +142,7 @@ class BatchJob(Job):
         for command in ("unpack", SMALL, folder), ("analyse", folder):
             self.programs.run([batch, *command], folder)
         shutil.copy(SMALL, folder / "Job.TB")
-        if self.name not in ("unpack", "run"):  # these two refuse rows that were changed by hand
+        if self.name not in ("unpack", "run", "design", "pack"):  # rows changed by hand are told
             with open(folder / "Udl.txt", "ab") as loads:
                 loads.write(b' 2,1,2,5,7,"one more"\r\n')
         self.begin = files(folder)

@@ -1,5 +1,8 @@
 // The run: what is read, what carries over, and the lines that come out.
 #include "core/design/design.h"
+#include "core/analysis/result_files.h"
+#include "core/analysis/result_state.h"
+#include "core/store/project_file.h"
 
 #include "tests/support/temporary_folder.h"
 
@@ -174,6 +177,11 @@ TEST(DesignRun, SectionWithoutDimensionsIsDesignedAsTheOneBefore) {
             .design()
             .rows;
     EXPECT_EQ(rows[0].x + rows[0].DefNote, " 0No Data");  // before any, all is 0
+    auto half = memberOf({usual, usual, "", usual}, {"0,0,0", "1.236,100,50", "2,0,0", "3,0,0"});
+    half.stations.resize(half.stations.find("2,0,0"));
+    const auto cut = half.design().rows;
+    EXPECT_EQ(cut[1].DefNote, "Shear OK Def. OK");
+    EXPECT_EQ(cut[2].DefNote + cut[3].DefNote, "No DataNo Data");  // the stations ran out
     EXPECT_EQ(rows[1].x, " 1.24");
     EXPECT_EQ(lineOf(rows[2]), lineOf(rows[1]));
     EXPECT_NE(rows[3].Asreq, rows[2].Asreq);
@@ -211,6 +219,41 @@ TEST(DesignRun, TakesThePropertiesOfTheBeam) {
     EXPECT_EQ(row({50, 10, 0, false}).DefNote, "Shear OK Def. Failed!");
     EXPECT_EQ(row({50, 10, 0, false}).Asreq, " 261");  // 35.36E6 / (400.2 × 337.5)
     EXPECT_EQ(row({25, 10, 40, false}).MomentRein, " 2Y 16 &   5Y 25");
+}
+
+TEST(Results, KnowTheInputThatTheyWereMadeFrom) {
+    const test::TemporaryFolder folder;
+    const auto remarks = [&](Unrecorded unrecorded, double Divisions = 10) {
+        return std::vector{
+            std::string(remarkOn(tableState(folder.path()), unrecorded)),
+            std::string(remarkOn(stationsState(folder.path(), Divisions), unrecorded)),
+            std::string(remarkOnDesign(folder.path(), Divisions, {}, unrecorded))};
+    };
+    const std::string none(noResults), analyse(analyseAgain), design(designAgain);
+    const auto project = std::string(EXAMPLES) + "/two-span-floor-beam.TB";
+    ASSERT_TRUE(unpackProject(project, folder.path()));
+    EXPECT_EQ(remarks(Unrecorded::accepted), (Texts{"", none, ""}));  // the table came with it
+    ASSERT_TRUE(analyseFolder(folder.path(), {}, {}));
+    ASSERT_TRUE(designFolder(folder.path(), 10, {}));
+    EXPECT_EQ(remarks(Unrecorded::remarked), (Texts{"", "", ""}));
+    EXPECT_EQ(remarks(Unrecorded::remarked, 20), (Texts{"", analyse, analyse}));
+    EXPECT_EQ(remarkOnDesign(folder.path(), 10, {30}, Unrecorded::accepted), design);
+    for (const auto name : {working_file::joint, working_file::member, working_file::point,
+                            working_file::udl, working_file::beamDimensions}) {
+        const auto rows = readWhole(folder / std::string(name));
+        folder.write(std::string(name), rows + " ");
+        const bool isInput = name != working_file::beamDimensions;
+        EXPECT_EQ(remarks(Unrecorded::accepted),
+                  isInput ? (Texts{analyse, analyse, analyse}) : (Texts{"", "", design}))
+            << name;
+        folder.write(std::string(name), rows);
+    }
+    ASSERT_TRUE(
+        unpackProject(std::string(EXAMPLES) + "/fixed-ended-transfer-beam.TB", folder.path()));
+    EXPECT_EQ(remarks(Unrecorded::accepted), (Texts{"", analyse, analyse}));
+    std::filesystem::remove(folder / "Record.txt");  // made by hand, or by another program
+    EXPECT_EQ(remarks(Unrecorded::accepted), (Texts{"", "", ""}));
+    EXPECT_EQ(remarks(Unrecorded::remarked), (Texts{analyse, analyse, analyse}));
 }
 
 }  // namespace
