@@ -4,6 +4,7 @@
 
 #include "core/store/replacing_file.h"
 #include "forms/main/messages.h"
+#include "forms/main/status_line.h"
 #include "report/margins.h"
 #include "toolkit/outside.h"
 
@@ -42,6 +43,15 @@ void frmReport::Form_Resize() {
     RTB.Move(100, boxTop, w, h);
     cmdCut.Move(w + 250, boxTop, cmdCut.Width(), cmdCut.Height());
     cmdWP.Move(w + 150, 1500, cmdWP.Width(), cmdWP.Height());
+}
+
+void frmReport::ClosedByUser() {
+    if (RTB.PictureCount() == 0)
+        return;
+    sayEmptied(context_, "The report", [&context = context_, pictures = RTB.AllPictures()] {
+        context.forms.Get<frmReport>().RTB.Append(*pictures);
+        say(context, "The report is back");
+    });
 }
 
 void frmReport::Add() {

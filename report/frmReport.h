@@ -25,6 +25,7 @@ class frmReport : public Form {
   protected:
     void Form_Load() override;
     void Form_Resize() override;
+    void ClosedByUser() override;
 
   private:
     void cmdCut_Click();

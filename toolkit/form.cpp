@@ -35,6 +35,7 @@ class Form::ChildFrame : public QMdiSubWindow {
   protected:
     void closeEvent(QCloseEvent* event) override {
         event->ignore();  // the form goes its own way
+        form_.ClosedByUser();
         form_.Unload();
     }
 

@@ -61,6 +61,9 @@ class Form : public Placement, public Container {
     // Runs before the form first shows and at each change of its inner size from then on.
     virtual void Form_Resize() {}
 
+    // Runs before the user's close box, or a key that does the same, unloads the form.
+    virtual void ClosedByUser() {}
+
     // The first of them has the focus each time the form comes up.
     void SetTabOrder(std::initializer_list<const Control*> controls);
     Menu AddMenu(const std::string& caption);

@@ -9,6 +9,7 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <QScreen>
+#include <QShortcut>
 #include <QStatusBar>
 
 #include "toolkit/access_keys.h"
@@ -119,6 +120,11 @@ int MdiWindow::ScreenWidth() {
 
 int MdiWindow::ScreenHeight() {
     return QGuiApplication::primaryScreen()->availableGeometry().height() * TwipsPerPixel;
+}
+
+void MdiWindow::AddKey(const std::string& key, std::function<void()> pressed) {
+    auto* shortcut = new QShortcut(QKeySequence(QString::fromStdString(key)), &Inner());
+    QObject::connect(shortcut, &QShortcut::activated, std::move(pressed));
 }
 
 Menu MdiWindow::AddMenu(const std::string& caption) {

@@ -30,6 +30,8 @@ class MdiWindow : public Placement {
     static int ScreenWidth();
     static int ScreenHeight();
 
+    // A key of the window that is in no menu. A control with the focus that knows it comes first.
+    void AddKey(const std::string& key, std::function<void()> pressed);
     Menu AddMenu(const std::string& caption);
     // A menu of the child windows in sight; choosing one brings it to the front.
     Menu AddWindowList(const std::string& caption);

@@ -106,6 +106,20 @@ void RichTextBox::Paste() {
     Inner().ensureCursorVisible();
 }
 
+std::shared_ptr<const RichTextBox::Pictures> RichTextBox::AllPictures() const {
+    return std::make_shared<const Pictures>(PicturesOf(*Inner().document()));
+}
+
+void RichTextBox::Append(const Pictures& pictures) {
+    QTextCursor cursor(Inner().document());
+    cursor.movePosition(QTextCursor::End);
+    for (PictureInText picture : pictures) {
+        picture.number = ++taken_;
+        InsertPicture(cursor, picture);
+    }
+    Inner().setTextCursor(cursor);
+}
+
 void RichTextBox::SetSelText(const std::string& text) {
     QTextCursor cursor = Inner().textCursor();
     const bool removes = cursor.hasSelection();

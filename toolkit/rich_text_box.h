@@ -5,6 +5,7 @@
 #include <QImage>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "toolkit/control.h"
 #include "toolkit/page_canvas.h"
@@ -13,6 +14,7 @@
 namespace trabeon {
 
 class PageLayout;
+struct PictureInText;
 
 // Where one page goes.
 struct PageFormat {
@@ -44,6 +46,10 @@ class RichTextBox : public Control {
     std::string Text() const;
     int TextLength() const;
     int PictureCount() const;
+    // All pictures, and how another box gets them: each goes in after those that are there.
+    using Pictures = std::vector<PictureInText>;
+    std::shared_ptr<const Pictures> AllPictures() const;
+    void Append(const Pictures& pictures);
     // A paragraph of its own for each picture, at the size it has on that paper.
     std::string TextRTF(const Paper& paper, int margin) const;
     // The picture that was taken up last of those that stand in the text, as a rich text of its

@@ -66,7 +66,7 @@ std::vector<StrayLoad> strayLoads(const BeamRows& rows) {
 std::string sentenceOf(const StrayLoad& load) {
     return "Row " + std::to_string(load.row) + " of the " + std::string(load.kind) +
            "s, on member " + std::to_string(load.member) + ": " + load.what +
-           ". It is analysed as it stands; mend the row if that is not meant.";
+           ". It was analysed as entered; correct the row if that is not intended.";
 }
 
 }  // namespace trabeon

@@ -15,6 +15,8 @@ struct ProjectTitle {
     std::string project = "Untitled";
     std::string designer = "Annonymous";
     std::string beamName = "Beam Name";
+
+    bool operator==(const ProjectTitle&) const = default;
 };
 
 /// The most characters that a box of the title form holds.

@@ -80,7 +80,7 @@ class RowEditor {
         const auto after = hasRows() ? " added after " + nameOf(position) : " added";
         if (!written(addRow(context_.folder, position, row)))
             return false;
-        say(context_, kind_.row + numberOf(row) + after);
+        say(context_, nameOf(row) + after);
         Fill();
         resetDescription();
         SelectLast();
@@ -92,7 +92,7 @@ class RowEditor {
         const auto position = static_cast<std::size_t>(list_.SelectedItem().FilePosition());
         const auto name = hasRows() ? nameOf(position) : "";
         if (hasRows() && written(removeRow<Row>(context_.folder, position, kind_.numbering))) {
-            say(context_, name + " removed");
+            say(context_, (isNumbered() ? "" : kind_.row + ", ") + name + " removed");
             resetDescription();
             Fill();
             SelectLast();
@@ -121,16 +121,18 @@ class RowEditor {
         list_.SetSorted(true);
     }
 
-    /// " 4" where rows have numbers of their own; loads and sections have that of their member.
-    [[nodiscard]] std::string numberOf(const Row& row) const {
-        return kind_.numbering == Numbering::fromOne ? shownNumber(row.*Row::fields.front()) : "";
+    /// Joints and members have numbers of their own; loads and sections have that of their member.
+    [[nodiscard]] bool isNumbered() const { return kind_.numbering == Numbering::fromOne; }
+
+    /// What the status line calls a row that is added: "Joint 4", or "Point load".
+    [[nodiscard]] std::string nameOf(const Row& row) const {
+        return isNumbered() ? kind_.row + shownNumber(row.*Row::fields.front()) : kind_.row;
     }
 
-    /// The row at a position of the file, from 1: "Joint 3", or "Point load, row 3".
+    /// What it calls the selected row, at a position of the file from 1: "Joint 3", or "row 3".
     [[nodiscard]] std::string nameOf(std::size_t position) const {
-        const bool isNumbered = kind_.numbering == Numbering::fromOne;
-        return isNumbered ? list_.SelectedItem().Text()
-                          : kind_.row + ", row " + std::to_string(position);
+        return isNumbered() ? kind_.row + list_.SelectedItem().Text().substr(kind_.noun.size())
+                            : "row " + std::to_string(position);
     }
 
     [[nodiscard]] bool hasRows() const { return list_.ListItems.Count() > 0; }

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 #include <utility>
+#include <vector>
 
 #include "toolkit/common_dialog.h"
 #include "toolkit/forms.h"
@@ -31,9 +32,12 @@ class ChangedFlag {
 struct Context {
     std::filesystem::path folder;  // of the working files
     ChangedFlag dataChanged{};
-    CommonDialog CommonDialog1;    // serves all file dialogs
+    CommonDialog CommonDialog1;  // serves all file dialogs
     MenuEntry mnuContinuous, mnuSingle;
     Forms& forms;
+    // What bring back the content of windows that were closed, the last one last. New, Open and
+    // Exit forget them.
+    std::vector<std::function<void()>> closedWindows{};
     // Pastes the clipboard's picture into the report; the report takes this place up at start.
     std::function<void()> pasteIntoReport{};
 };

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "forms/main/status_line.h"
+
 namespace trabeon {
 
 frmTitle::frmTitle(Context& context)
@@ -25,6 +27,16 @@ frmTitle::frmTitle(Context& context)
 
 void frmTitle::Form_Load() {
     SetScaleSize(5400, 2190);
+}
+
+void frmTitle::ClosedByUser() {
+    const auto title = Title();
+    if (title == ProjectTitle())
+        return;
+    sayEmptied(context_, "The title", [&context = context_, title] {
+        context.forms.Get<frmTitle>().SetTitle(title);
+        say(context, "The title is back");
+    });
 }
 
 ProjectTitle frmTitle::Title() const {

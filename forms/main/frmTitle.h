@@ -29,6 +29,7 @@ class frmTitle : public Form {
 
   protected:
     void Form_Load() override;
+    void ClosedByUser() override;
 
   private:
     void cmdOK_Click();

@@ -46,6 +46,7 @@ frmTrabeon::frmTrabeon(const std::filesystem::path& folder)
     context_.CommonDialog1.InitDir = (folder / "examples").string();
     registerForms();
     addMenus();
+    window_.AddKey("Ctrl+Z", [this] { bringBackClosed(context_); });
     window_.QueryUnload = [this](bool& cancel) { QueryUnload(cancel); };
     window_.Unload = [this](bool& cancel) { Unload(cancel); };
 }
@@ -212,6 +213,7 @@ bool frmTrabeon::FileOpen() {
         return false;
     }
     rememberFile(opened->fingerprint);
+    context_.closedWindows.clear();
     setProjectName(captionName(dialog.FileName));
     fillTitle(opened->title);
     forms_.Get<frmAnalysis>().ShowTable();
@@ -232,6 +234,7 @@ void frmTrabeon::rememberFile(std::uint64_t fingerprint) {
 }
 
 void frmTrabeon::startUntitled() {
+    context_.closedWindows.clear();
     projectFile_.clear();
     setProjectName(untitled);
     showSummary(context_);

@@ -24,6 +24,19 @@ void say(const Context& context, const std::string& event) {
     context.forms.Window().SetEvent(event);
 }
 
+void sayEmptied(Context& context, const std::string& what, std::function<void()> bringBack) {
+    context.closedWindows.push_back(std::move(bringBack));
+    say(context, what + " is empty again, because its window was closed. Ctrl+Z brings it back");
+}
+
+void bringBackClosed(Context& context) {
+    if (context.closedWindows.empty())
+        return;
+    const auto bringBack = std::move(context.closedWindows.back());
+    context.closedWindows.pop_back();
+    bringBack();
+}
+
 void showSummary(const Context& context) {
     const auto beam = beamSummary(context.folder);
     std::string text = counted(beam.joints, "joint") + gap + counted(beam.members, "member") + gap +

@@ -14,6 +14,12 @@ class TextBox;
 /// Shows the latest event, until the next one.
 void say(const Context& context, const std::string& event);
 
+/// Tells that closing a window has emptied it, and keeps what brings its content back.
+void sayEmptied(Context& context, const std::string& what, std::function<void()> bringBack);
+
+/// Brings back what the window held that was closed last. Nothing happens if there is none.
+void bringBackClosed(Context& context);
+
 /// Shows the number of joints and members, the length of the beam, and "Changed" while the flag is
 /// 1. To be called when rows or the flag have changed.
 void showSummary(const Context& context);

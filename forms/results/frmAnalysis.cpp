@@ -4,9 +4,11 @@
 #include <chrono>
 
 #include "core/analysis/result_files.h"
+#include "core/analysis/stray_loads.h"
 #include "forms/input/frmPoint.h"
 #include "forms/input/frmUDL.h"
 #include "forms/main/messages.h"
+#include "forms/main/status_line.h"
 #include "forms/results/frmOptions.h"
 #include "toolkit/outside.h"
 #include "toolkit/wait_cursor.h"
@@ -34,6 +36,10 @@ class PacedProgress {
     ProgressBar& bar_;
     std::chrono::steady_clock::time_point last_;
 };
+
+std::string othersOf(std::size_t loads) {
+    return loads == 1 ? "" : " (and " + std::to_string(loads - 1) + " more)";
+}
 
 }  // namespace
 
@@ -77,11 +83,17 @@ void frmAnalysis::cmdAnalyse_Click() {
         Outside::Current().MsgBox(message.text, message.style, message.title);
     };
     outputs.progress = PacedProgress(PBAnalysis);
+    std::vector<StrayLoad> stray;
+    outputs.rowsRead = [&](const BeamRows& rows) { stray = strayLoads(rows); };
     const auto analysis = analyseFolder(context_.folder, settings, outputs);
     if (!analysis)
         return;
     refillLoads(*analysis);
     ShowTable();
+    showSummary(context_);
+    say(context_, stray.empty()
+                      ? "Analysed"
+                      : "Analysed. " + sentenceOf(stray.front()) + othersOf(stray.size()));
 }
 
 /// The load editors show the rows in normal form, out of sight until they are opened again.

@@ -115,10 +115,10 @@ TEST(Run, NamesLoadsThatLeaveTheirMemberAndAnalysesThem) {
     folder.write("Udl.txt", "2,1,6,12,12,long\r\n1,0,6,12,12,fits\r\n");
     folder.write("Point.txt", "1,7,5,late\r\n");
     const std::string said =
-        "Row 1 of the point loads, on member 1: a is 7, beyond the member's end at 6. It is "
-        "analysed as it stands; mend the row if that is not meant.\n"
+        "Row 1 of the point loads, on member 1: a is 7, beyond the member's end at 6. It was "
+        "analysed as entered; correct the row if that is not intended.\n"
         "Row 1 of the distributed loads, on member 2: a + b is 7, beyond the member's end at 6. It "
-        "is analysed as it stands; mend the row if that is not meant.\n";
+        "was analysed as entered; correct the row if that is not intended.\n";
     const auto project = (folder / "stray.TB").string();
     ASSERT_EQ(batch({"pack", folder.path().string(), project}).exit, 0);
     for (const auto& words : {std::vector<std::string>{"run", project},

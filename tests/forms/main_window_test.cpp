@@ -6,6 +6,8 @@
 #include "core/store/folder_lock.h"
 #include "core/store/working_files.h"
 #include "forms/input/frmJoints.h"
+#include "forms/input/frmMembers.h"
+#include "forms/input/frmPoint.h"
 #include "forms/main/frmTitle.h"
 #include "forms/results/frmAnalysis.h"
 #include "tests/support/program_fixture.h"
@@ -350,6 +352,53 @@ TEST_F(MainWindow, ANewThatCannotEmptyTheRowsKeepsTheProject) {
     EXPECT_EQ(folder.contents(), before);
     EXPECT_EQ(Title().project, "Library extension");
     EXPECT_EQ(context().dataChanged, 1);
+}
+
+TEST_F(MainWindow, StatusLineTellsWhatHappenedAndWhatTheProjectHolds) {
+    auto& status = program.window();
+    EXPECT_EQ(status.Summary(), "0 joints    0 members    length 0");
+    Open(EXAMPLES "/two-span-floor-beam.TB");
+    EXPECT_EQ(status.Summary(), "3 joints    2 members    length 12    Changed");
+    auto& joints = forms().Get<frmJoints>();
+    joints.cmdAddJoint.Press();
+    EXPECT_EQ(status.Event(), "Joint 4 added after Joint 3");
+    joints.cmdRemove.SetEnabled(true);
+    joints.cmdRemove.Press();
+    EXPECT_EQ(status.Event(), "Joint 4 removed");
+    auto& members = forms().Get<frmMembers>();
+    Type(members.txtYM, "e");
+    EXPECT_EQ(status.Event(), "E accepts digits and a point");
+    members.cmdAddJoint.Press();
+    EXPECT_EQ(status.Event(), "No member added: E, I and L must all be numbers above 0");
+    auto& point = forms().Get<frmPoint>();
+    Type(point.txtPtLoad, "x");
+    EXPECT_EQ(status.Event(), "P accepts digits, a point and a minus sign");
+    point.cmdAdd.Press();
+    EXPECT_EQ(status.Event(), "No load added: P is 0");
+    Type(point.txtPtA, "7");
+    Type(point.txtPtLoad, "5");
+    point.cmdAdd.Press();
+    EXPECT_EQ(status.Event(), "Point load added after row 2");
+    forms().Get<frmAnalysis>().cmdAnalyse.Press();
+    EXPECT_EQ(
+        status.Event(),
+        "Analysed. Row 3 of the point loads, on member 1: a is 7, beyond the member's end at 6. "
+        "It was analysed as entered; correct the row if that is not intended.");
+    context().CommonDialog1.FileName = job;
+    Choose("&File|&Save");
+    EXPECT_EQ(status.Summary(), "3 joints    2 members    length 12");
+}
+
+TEST_F(MainWindow, AClosedTitleComesBack) {
+    Change();
+    Choose("&Structure|&Title");
+    QTest::keyClick(&window(), Qt::Key_W, Qt::ControlModifier);
+    EXPECT_EQ(program.window().Event(),
+              "The title is empty again, because its window was closed. Ctrl+Z brings it back");
+    EXPECT_EQ(Title().project, "Untitled");
+    QTest::keyClick(&window(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Title().project, "Mill");
+    EXPECT_EQ(program.window().Event(), "The title is back");
 }
 
 TEST_F(MainWindow, ClosingAsksAgainAfterACancel) {
