@@ -25,6 +25,7 @@ class MdiWindow::Window : public QMainWindow {
         // A long event is cut off at its end instead of making the window wider.
         lastEvent->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         lastEvent->setTextFormat(Qt::PlainText);
+        lastEvent->setContentsMargins(6, 0, 0, 0);
         lastEvent->setAccessibleName("Latest event");
         summary->setAccessibleName("Summary of the project");
         statusBar()->addWidget(lastEvent, 1);
