@@ -1,18 +1,19 @@
 #!/usr/bin/env python3
-"""Holds the manual against itself and against the program.
+"""Checks the manual's pages against each other and against the program.
 
     check_pages.py PAGES PICTURES EXAMPLE_PROJECTS trabeon-batch
 
-Every link leads to a page and a place in it, every page is linked with the contents both ways, and
-every picture is there in the size that the page gives it. On the two examples every number is what
-the program or plain arithmetic makes of it. The marks:
+Every link must lead to a page and a place in it. Every page and the contents must link to each
+other. Every picture must exist, in the size that the page gives. Pictures and typed lines must fit
+the window that shows the pages where there is no browser. The workings on all pages must give
+their results, and every other number of the two examples must come from the program or from such a
+working. The marks:
 
-    data-file="five/BM.txt"       each line or row stands so in that result file, in this order;
-                                  data-columns="1 2" if the page shows these fields only
-    class="sum"                   the cells behind the first are a chain "working = result": all
-                                  sides agree to the last digit of the result
-    data-of="five/BM.txt 2 0 1"   the result is the program's: the rest says which cell
-    class="typed"                 what the user types; each of it is in the example's project
+    data-file="five/BM.txt"       the lines or rows are in that result file, in this order;
+                                  data-columns="1 2" if the page shows only these fields
+    class="sum"                   the cells after the first are a chain "working = result": all
+                                  sides agree to the last digit of the result; <i> is a remark
+    data-of="five/BM.txt 2 0 1"   the program has the same result in the cell that the rest names
 """
 import math
 import re
@@ -27,6 +28,7 @@ from urllib.parse import unquote
 PAGES, PICTURES, PROJECTS, BATCH = Path(sys.argv[1]), Path(sys.argv[2]), sys.argv[3], sys.argv[4]
 CONTENTS = "Contents and Index.htm"
 TOLERANCES = {"0.01", "0.0001", "8110"}  # and the number of the standard
+WIDEST_PICTURE, LONGEST_LINE = 720, 90  # pixels and characters that fit the window of 840 pixels
 failures = []
 
 
@@ -48,7 +50,7 @@ class Element:
 
     def text(self):
         words = "".join(p if isinstance(p, str) else p.text() for p in self.parts)
-        return f"**({words})" if self.tag == "sup" else words
+        return {"sup": f"**({words})", "i": ""}.get(self.tag, words)
 
     def marked(self, *marks):
         """Whether this or something around it carries one of the marks."""
@@ -99,6 +101,13 @@ def check_links(pages):
         expect(others <= targets, f"{page.name}: no link to {others - targets}")
 
 
+def check_widths(pages):
+    for page in pages:
+        for pre in page.root.all("pre"):
+            for line in pre.text().split("\n"):
+                expect(len(line) <= LONGEST_LINE, f"{page.name}: too long: {line}")
+
+
 def check_pictures(pages):
     shown = set()
     for page in pages:
@@ -108,6 +117,7 @@ def check_pictures(pages):
             expect(path, f"{page.name}: no picture {name}")
             size = (int(img.attributes["width"]), int(img.attributes["height"]))
             expect(path and picture_size(path) == size, f"{page.name}: {name} is not {size}")
+            expect(size[0] <= WIDEST_PICTURE, f"{page.name}: {name} is too wide")
             shown.add(name)
     unused = {p.name for p in PAGES.glob("*.png")} - shown
     expect(not unused, f"pictures on no page: {unused}")
@@ -150,7 +160,7 @@ def check_sum(where, text):
 
 
 class Results:
-    """What the program makes of the projects, as rows of fields by "project/file"."""
+    """The program's results for the projects, as rows of fields by "project/file"."""
 
     def __init__(self, folder):
         self.rows, self.texts = {}, {}
@@ -178,8 +188,8 @@ class Results:
         return [" ".join(p.strip(' "').split()) for p in parts]
 
     def cell(self, address):
-        """A moment of TB.txt by row and end, of BM.txt by member, x and column, of DResult.txt
-        by member, x and column; the first that fits."""
+        """The first cell that fits: of TB.txt by row and end, of BM.txt and DResult.txt by
+        member, x and column."""
         file, *keys = address.split()
         at, block = int(keys.pop()), 0
         for row in self.rows[file]:
@@ -217,11 +227,9 @@ def check_rows(where, element, results):
         expect(row in picked, f"{where}: no row {row}")
 
 
-def check_numbers(page, results):
-    known = set(TOLERANCES)
-    for element in page.root.all("table", "pre"):
-        if "data-file" in element.attributes:
-            check_rows(page.name, element, results)
+def check_sums(page, results):
+    """Returns the numbers of the workings."""
+    known = set()
     for row in page.root.all("tr", "p"):
         if row.attributes.get("class") == "sum":
             cells = [c.text() for c in row.all("td")][1:] or [row.text()]
@@ -229,7 +237,10 @@ def check_numbers(page, results):
             if "data-of" in row.attributes and result:
                 check_cell(page.name, result, row.attributes["data-of"], results)
             known |= set(re.findall(r"\d+(?:\.\d+)?", row.text()))
-    known |= set(re.findall(r"\d+(?:\.\d+)?(?:E[+-]\d+)?", results.texts[page.root.project]))
+    return known
+
+
+def check_numbers(page, known):
     for element in page.root.all("td", "p", "li", "pre"):
         if not element.marked("sum", "data-file") and element.tag != "table":
             own = "".join(p if isinstance(p, str) else p.text() for p in element.parts)
@@ -237,16 +248,26 @@ def check_numbers(page, results):
                 expect(number in known, f"{page.name}: where is {number} from? {own.strip()[:60]}")
 
 
+def check_page(page, results):
+    for element in page.root.all("table", "pre"):
+        if "data-file" in element.attributes:
+            check_rows(page.name, element, results)
+    known = check_sums(page, results)
+    if page.name.startswith("Example"):
+        project = "two" if page.name == "Example1.htm" else "five"
+        program = re.findall(r"\d+(?:\.\d+)?(?:E[+-]\d+)?", results.texts[project])
+        check_numbers(page, known | TOLERANCES | set(program))
+
+
 def main():
     pages = [Page(path) for path in sorted(PAGES.glob("*.htm"))]
     check_links(pages)
+    check_widths(pages)
     check_pictures(pages)
     with tempfile.TemporaryDirectory() as folder:
         results = Results(folder)
         for page in pages:
-            if page.name.startswith("Example"):
-                page.root.project = "two" if page.name == "Example1.htm" else "five"
-                check_numbers(page, results)
+            check_page(page, results)
     print("\n".join(failures) or f"{len(pages)} pages hold.")
     return 1 if failures else 0
 
