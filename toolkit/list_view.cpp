@@ -69,6 +69,12 @@ class ListView::Tree : public QTreeWidget {
     bool gridLines = false;
 
   protected:
+    // A press on blank space keeps the selection.
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override {
+        return index.isValid() ? QTreeWidget::selectionCommand(index, event)
+                               : QItemSelectionModel::NoUpdate;
+    }
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const override {
         QTreeWidget::drawRow(painter, option, index);

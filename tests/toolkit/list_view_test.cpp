@@ -98,6 +98,7 @@ TEST_F(ListViewTest, TheUserClicksRowsTitlesAndTheSpaceBelow) {
     EXPECT_EQ(list.SelectedItem().Index(), 3);
     ClickAt(Below());
     EXPECT_EQ(list.SelectedItem().Index(), 3);
+    EXPECT_TRUE(tree.topLevelItem(2)->isSelected()) << "and the user sees it";
     EXPECT_EQ(log, "cc");
     QTest::mouseClick(tree.header()->viewport(), Qt::LeftButton, {},
                       {tree.header()->sectionViewportPosition(1) + 20, 5});
