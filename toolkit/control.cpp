@@ -24,6 +24,17 @@ bool IsReturning(Qt::FocusReason reason) {
 
 constexpr int DeleteCode = 127;
 
+// Alt and a character is a command, also where nothing answers it. Alt with Ctrl is AltGr, which
+// types.
+bool IsAltCharacter(const QEvent& event) {
+    if (event.type() != QEvent::KeyPress)
+        return false;
+    const auto& press = static_cast<const QKeyEvent&>(event);
+    const bool alt = (press.modifiers() & Qt::AltModifier) &&
+                     !(press.modifiers() & (Qt::ControlModifier | Qt::GroupSwitchModifier));
+    return alt && !press.text().isEmpty() && press.text().at(0).isPrint();
+}
+
 // The code of a key that types one character; 0 for all else, shortcuts and Tab among them.
 int CharacterOf(const QKeyEvent& event) {
     const Qt::KeyboardModifiers commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
@@ -73,6 +84,10 @@ bool Control::OnEvent(QEvent& event) {
         Deliver(*Widget(), event);
         if (GotFocus && !IsReturning(static_cast<QFocusEvent&>(event).reason()))
             GotFocus();
+        return true;
+    }
+    if (IsAltCharacter(event)) {
+        event.ignore();
         return true;
     }
     if (event.type() == QEvent::KeyPress && KeyPress)
