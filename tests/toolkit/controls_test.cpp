@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QListWidget>
 #include <QProgressBar>
+#include <QWheelEvent>
 
 #include "tests/toolkit/controls_fixture.h"
 #include "toolkit/button.h"
@@ -125,6 +126,19 @@ TEST_F(ControlsTest, ListBoxClicksForEachSelectionByCodeAndForEachUsersClick) {
     expect("x-x", 7);
     list.Clear();
     expect("", 7);
+}
+
+TEST_F(ControlsTest, TheWheelPassesByAClosedComboBox) {
+    ComboBox combo(Bench());
+    int clicks = 0;
+    combo.Click = Count(clicks);
+    for (const char* entry : {"Member 1", "Member 2"})
+        combo.AddItem(entry);
+    combo.SetFocus();
+    QWheelEvent wheel({5, 5}, combo.Widget()->mapToGlobal(QPoint(5, 5)), {}, {0, -120},
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(combo.Widget(), &wheel);
+    EXPECT_EQ(combo.ListIndex() + clicks, -1);
 }
 
 TEST_F(ControlsTest, AListBoxTooNarrowShowsTheEndsOfItsEntries) {
