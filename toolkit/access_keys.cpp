@@ -8,6 +8,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <algorithm>
 
 namespace trabeon {
 
@@ -17,24 +18,35 @@ bool Answers(const QWidget& widget, const QString& text, const QKeySequence& key
     return widget.isVisible() && widget.isEnabled() && QKeySequence::mnemonic(text) == key;
 }
 
-// The one control of the child that answers the key: a button, or what a label names. None also if
-// there are several, which then take turns.
-QWidget* AnsweringControl(const QWidget& child, const QKeySequence& key) {
-    QList<QWidget*> answering;
+// A control that answers the key.
+struct Answering {
+    QWidget* control = nullptr;
+    bool isPressed = false;  // the key is the button's own
+};
+
+// A button, or what a label names. Where several answer, the one behind the focus, or the first:
+// then the key only moves the focus.
+Answering AnsweringControl(const QWidget& child, const QKeySequence& key) {
+    QList<Answering> answering;
     for (auto* button : child.findChildren<QAbstractButton*>())
         if (Answers(*button, button->text(), key))
-            answering << button;
+            answering << Answering{button, true};
     for (auto* label : child.findChildren<QLabel*>())
         if (label->buddy() && Answers(*label, label->text(), key))
-            answering << label->buddy();
-    return answering.size() == 1 ? answering.first() : nullptr;
+            answering << Answering{label->buddy()};
+    if (answering.size() < 2)
+        return answering.value(0);
+    const auto focus = std::find_if(answering.begin(), answering.end(),
+                                    [](const auto& one) { return one.control->hasFocus(); });
+    const auto at = focus == answering.end() ? 0 : focus - answering.begin() + 1;
+    return {answering[at % answering.size()].control};
 }
 
-void Answer(QWidget& control) {
-    if (auto* button = qobject_cast<QAbstractButton*>(&control))
-        button->click();
+void Answer(const Answering& answering) {
+    if (answering.isPressed)
+        static_cast<QAbstractButton*>(answering.control)->click();
     else
-        control.setFocus(Qt::ShortcutFocusReason);
+        answering.control->setFocus(Qt::ShortcutFocusReason);
 }
 
 // Where several menus share the key: the one behind `open`, or the first.
@@ -74,13 +86,13 @@ bool AccessKeys::eventFilter(QObject*, QEvent* event) {
         return false;
     const QKeySequence key(Qt::ALT | Qt::Key(press.key()));
     const QMdiSubWindow* child = area_.activeSubWindow();
-    QWidget* control = child ? AnsweringControl(*child, key) : nullptr;
-    QAction* menu = control ? nullptr : MenuInTurn(bar, key, openBeforeAlt_);
-    if (!control && !menu)
+    const Answering answering = child ? AnsweringControl(*child, key) : Answering();
+    QAction* menu = answering.control ? nullptr : MenuInTurn(bar, key, openBeforeAlt_);
+    if (!answering.control && !menu)
         return false;
     event->accept();  // the override keeps the key from Qt's own turns, and the press comes here
     if (event->type() == QEvent::KeyPress && !press.isAutoRepeat())
-        control ? Answer(*control) : Open(bar, menu);
+        answering.control ? Answer(answering) : Open(bar, menu);
     return true;
 }
 

@@ -104,6 +104,18 @@ TEST_F(BeamDimensions, ARowRefersToItsLineWithTenMembersAndMore) {
     EXPECT_EQ(form.ListView1.SelectedItem().Text(), "Member  10");
 }
 
+TEST_F(BeamDimensions, AltALeadsToAddFirstAndFromThereToRemoveAll) {
+    auto& form = OpenWith(Lines(1, 1, 1));
+    for (Control* from : std::initializer_list<Control*>{&form.txtfy, &form.Command1, &form.txtYM}) {
+        from->SetFocus();
+        Alt(Qt::Key_A);
+        EXPECT_TRUE(form.cmdAdd.HasFocus());
+    }
+    Alt(Qt::Key_A);
+    EXPECT_TRUE(form.Command1.HasFocus());
+    EXPECT_EQ(File(), Lines(1, 1, 1));
+}
+
 TEST_F(BeamDimensions, ADoubleClickRemovesAndTitlesDoNotSort) {
     auto& form = OpenWith(Lines(1, 1, 2));
     ClickTitle(form.ListView1, 2);
