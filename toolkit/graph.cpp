@@ -91,8 +91,18 @@ void Graph::SetMarks(std::vector<GraphMark> marks) {
 }
 
 void Graph::SetNote(const std::string& note) {
-    Inner().note->setText(QString::fromStdString(note));
+    Inner().note = QString::fromStdString(note);
     Inner().Refresh();
+}
+
+void Graph::SetExtremes(int greatest, int least) {
+    Inner().greatestPoint = greatest;
+    Inner().leastPoint = least;
+    Inner().Refresh();
+}
+
+void Graph::SetPointText(std::function<std::string(int index)> text) {
+    Inner().pointText = std::move(text);
 }
 
 std::vector<GraphPoint> Graph::Points() const {
@@ -109,7 +119,7 @@ const std::vector<GraphMark>& Graph::Marks() const {
 }
 
 std::string Graph::Note() const {
-    return Inner().note->text().toStdString();
+    return Inner().note.toStdString();
 }
 
 QImage Graph::Picture() const {
@@ -125,6 +135,10 @@ std::string Graph::GreatestLabel() const {
 std::string Graph::LeastLabel() const {
     Inner().Prepare();
     return Inner().least->text().toStdString();
+}
+
+std::string Graph::ReadOut() const {
+    return Inner().ReadOut().toStdString();
 }
 
 }  // namespace trabeon

@@ -31,8 +31,11 @@ void SingleSpanDiagram::cmdPlot_Click() {
     const auto member = static_cast<std::size_t>(cboMember.ListIndex() + 1);
     if (member == 0)
         return;
-    const auto rows = rowsPerMember();
-    draw(spanCurve(stations(), rows, kind().field, member), rows);
+    draw(spanOf(member), rowsPerMember());
+}
+
+std::string SingleSpanDiagram::subject() const {
+    return cboMember.Text() + ". ";
 }
 
 void SingleSpanDiagram::openValueTable() {

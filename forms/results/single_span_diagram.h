@@ -23,6 +23,7 @@ class SingleSpanDiagram : public Diagram {
     void Form_Load() override;
     void Form_Resize() override;
     void cmdPlot_Click() override;
+    [[nodiscard]] std::string subject() const override;
 
   private:
     void openValueTable();
