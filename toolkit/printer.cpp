@@ -45,8 +45,19 @@ void Printer::Print(double x, double y, const std::string& text) {
     if (failed_)
         return;
     const double dots = printer_->resolution() / MillimetresPerInch;
-    const double ascent = QFontMetricsF(painter_->font(), printer_.get()).ascent();
-    painter_->drawText(QPointF(x * dots, y * dots + ascent), QString::fromStdString(text));
+    const QString line = QString::fromStdString(text);
+    const QFontMetricsF metrics(painter_->font(), printer_.get());
+    const double wide = metrics.horizontalAdvance(line);
+    const double sheet = printer_->pageLayout().fullRect(QPageLayout::Millimeter).width();
+    const double room = (sheet - 2 * x) * dots;  // as much is free on the right as on the left
+    painter_->save();
+    if (wide > room && room > 0) {
+        QFont smaller = painter_->font();
+        smaller.setPointSizeF(smaller.pointSizeF() * room / wide);
+        painter_->setFont(smaller);
+    }
+    painter_->drawText(QPointF(x * dots, y * dots + metrics.ascent()), line);
+    painter_->restore();
 }
 
 bool Printer::EndDoc() {
