@@ -5,6 +5,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QWidget>
+#include <utility>
 
 #include "toolkit/look.h"
 
@@ -82,10 +83,15 @@ bool Control::OnEvent(QEvent& event) {
     if (event.type() == QEvent::FocusIn) {
         // The widget first, so that what the handler selects stays selected.
         Deliver(*Widget(), event);
-        if (GotFocus && !IsReturning(static_cast<QFocusEvent&>(event).reason()))
+        // A control that was given the focus while its window was not the active one has yet to
+        // hear of it.
+        const bool isNew = !std::exchange(focused_, true);
+        if (GotFocus && (isNew || !IsReturning(static_cast<QFocusEvent&>(event).reason())))
             GotFocus();
         return true;
     }
+    if (event.type() == QEvent::FocusOut && !IsReturning(static_cast<QFocusEvent&>(event).reason()))
+        focused_ = false;
     if (IsAltCharacter(event)) {
         event.ignore();
         return true;

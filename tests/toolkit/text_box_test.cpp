@@ -97,6 +97,17 @@ TEST_F(TextBoxTest, GotFocusComesByKeyMouseAndCodeButNotWithTheWindow) {
         QApplication::sendEvent(second.Widget(), &back);
     }
     EXPECT_EQ(focused, 3);
+    first.SetFocus();
+    for (int time = 0; time < 2; ++time) {
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
+        second.SetFocus();  // it hears of that when its window becomes the active one
+        window.Widget()->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.Widget()));
+        EXPECT_EQ(focused, 4);
+    }
 }
 
 TEST_F(TextBoxTest, WhatGotFocusSelectsOutlastsTheClick) {
