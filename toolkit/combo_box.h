@@ -1,4 +1,5 @@
-// A drop-down list; the wheel chooses only while the list is open. Positions count from 0; -1 is nothing chosen.
+// A drop-down list; the wheel chooses only while the list is open. Positions count from 0; -1 is
+// nothing chosen.
 #pragma once
 
 #include <functional>

@@ -10,6 +10,7 @@
 #include <QToolTip>
 #include <QTreeWidget>
 
+#include "toolkit/look.h"
 #include "toolkit/outside.h"
 
 namespace trabeon {
@@ -28,10 +29,26 @@ class Row : public QTreeWidgetItem {
 
 namespace {
 
+constexpr int MarkRole = Qt::UserRole;
+
 // A little air above and below the text; one that is cut shows whole under the pointer.
 class RowDelegate : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyledItemDelegate::paint(painter, option, index);
+        const QString mark = index.data(MarkRole).toString();
+        if (mark.isEmpty())
+            return;
+        const bool selected = option.state & QStyle::State_Selected;
+        painter->setFont(FontNamed("Arial", 7.5, true));
+        painter->setPen(selected ? option.palette.highlightedText().color()
+                                 : QColor(HighlightColour));
+        painter->drawText(option.rect.adjusted(0, 0, -6, 0), Qt::AlignRight | Qt::AlignVCenter,
+                          mark);
+    }
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 4);
@@ -121,6 +138,15 @@ void ListItem::SetForeColor(Colour colour) {
 void ListItem::SetWarningSign(bool shown) {
     const QStyle& style = *row_->treeWidget()->style();
     row_->setIcon(0, shown ? style.standardIcon(QStyle::SP_MessageBoxWarning) : QIcon());
+}
+
+void ListItem::SetMark(const std::string& word) {
+    row_->setData(0, MarkRole, QString::fromStdString(word));
+}
+
+void ListItem::SetToolTip(const std::string& text) {
+    for (int column = 0; column < row_->treeWidget()->columnCount(); ++column)
+        row_->setToolTip(column, QString::fromStdString(text));
 }
 
 int ListItemsOf::Count() const {

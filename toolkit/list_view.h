@@ -27,9 +27,11 @@ class ListItem {
     // The text of column n + 1.
     std::string SubItems(int n) const;
     void SetSubItems(int n, const std::string& text);
-    // How the row looks; neither changes its texts.
+    // How the row looks; none of these changes its texts.
     void SetForeColor(Colour colour);
-    void SetWarningSign(bool shown);  // in front of the first text
+    void SetWarningSign(bool shown);           // in front of the first text
+    void SetMark(const std::string& word);     // at the right end of the first column
+    void SetToolTip(const std::string& text);  // of the whole row
 
   private:
     friend class ListView;

@@ -157,6 +157,19 @@ TEST_F(ListViewTest, AColouredRowWithASignKeepsItsTextAndItsHeight) {
     EXPECT_TRUE(row.icon(0).isNull());
 }
 
+TEST_F(ListViewTest, AMarkShowsInItsRowAndIsNoPartOfTheText) {
+    const QImage bare = Face(list);
+    list.ListItems(3).SetMark("max");
+    Settle();
+    const QImage marked = Face(list);
+    EXPECT_NE(marked, bare);
+    EXPECT_EQ(list.ListItems(3).Text(), "Member  1");
+    const auto above = [this](const QImage& face) {
+        return face.copy(0, 0, face.width(), tree.header()->height() + At(2).y());
+    };
+    EXPECT_EQ(above(marked), above(bare));
+}
+
 TEST_F(ListViewTest, WrappedTitlesHaveRoomForTwoLines) {
     list.SetWrapsTitles(true);
     Settle();
