@@ -34,8 +34,9 @@ class MdiWindow : public Placement {
     // A menu of the child windows in sight; choosing one brings it to the front.
     Menu AddWindowList(const std::string& caption);
 
-    // Puts the child windows back into the order in which they stand now, the front one in front.
-    std::function<void()> KeptOrder() const;
+    // Puts the child windows back into the order, the places and the states that they have now, the
+    // front one in front; also those that were unloaded and loaded again meanwhile.
+    std::function<void()> KeptWindows() const;
 
     WindowState State() const;
     // Waits until the desktop has given the window its new size.

@@ -34,6 +34,13 @@ void SingleSpanDiagram::cmdPlot_Click() {
     draw(spanOf(member), rowsPerMember());
 }
 
+void SingleSpanDiagram::Empty() {
+    cboMember.SetListIndex(-1);
+    chart.SetPointCount(0);
+    chart.SetNote("");
+    openValueTable();
+}
+
 std::string SingleSpanDiagram::subject() const {
     return cboMember.Text() + ". ";
 }
@@ -43,7 +50,7 @@ void SingleSpanDiagram::openValueTable() {
     if (const auto* former = context().forms.PlaceOf(valueTable_))
         tablePlace_ = {former->Left(), former->Top()};
     context().forms.Unload(valueTable_);
-    context().forms.Show(valueTable_);
+    context().forms.ShowWithoutFocus(valueTable_);
 }
 
 }  // namespace trabeon

@@ -166,8 +166,12 @@ TEST_F(ResultDiagrams, PlotOnAUsersChoiceAndWithNoneTheChartStays) {
     EXPECT_EQ(single.GraphMoment1.PointCount(), 0);
     EXPECT_EQ(Line(forms().Get<frmBMData>().ListView1, 1), " 0|-3.17E+01");  // the first member
     single.cboMember.SetFocus();
-    Press(single.cboMember, Qt::Key_Down);
-    EXPECT_EQ(single.GraphMoment1.Points(), Expected({1}, moment, -1));
+    for (const std::size_t member : {1, 2, 3}) {
+        Key(Qt::Key_Down);  // the value table that opens leaves the focus in the list
+        EXPECT_EQ(single.GraphMoment1.Points(), Expected({member}, moment, -1));
+        Settle();
+    }
+    EXPECT_TRUE(forms().Get<frmBMData>().Visible());
 }
 
 TEST_F(ResultDiagrams, FollowAChangeOfTheMemberCount) {
@@ -206,6 +210,20 @@ TEST_F(ResultDiagrams, LayoutFollowsTheWindowAndNeverGoesBelowZero) {
     ExpectBounds(single.cboMember, 2450, 5530, 1650, single.cboMember.Height());
     single.Move(0, 0, 0, 0);
     EXPECT_EQ(single.GraphMoment1.Height(), 0);
+}
+
+TEST_F(ResultDiagrams, BothTablesMarkTheRowOfTheMaximum) {
+    MomentOf(2);
+    ShearOf(2);
+    for (const ListView* table :
+         {&forms().Get<frmBMData>().ListView1, &forms().Get<frmSData>().ListView1}) {
+        std::string marked;
+        for (int row = 0; row < Tree(*table).topLevelItemCount(); ++row)
+            if (Tree(*table).topLevelItem(row)->toolTip(0).contains("maximum"))
+                marked += std::to_string(row + 1) + Line(*table, row + 1);
+        EXPECT_EQ(marked, table == &forms().Get<frmBMData>().ListView1 ? "6 3.63|1.65E+02"
+                                                                       : "6 3.63|1.15E-03");
+    }
 }
 
 TEST_F(ResultDiagrams, EachPlotOpensTheValueTableAnewWhereItStood) {
