@@ -14,6 +14,9 @@ class TextBox : public Control {
 
     // The text became another one, by the user or by code.
     std::function<void()> Change;
+    // What is to be said about a new text; empty if nothing is. The box is tinted while there is
+    // something, and shows it under the pointer, after the tip that the box has anyway.
+    std::function<std::string(const std::string& text)> Remark;
 
     std::string Text() const;
     // Fires Change if the text is another one.
@@ -37,8 +40,10 @@ class TextBox : public Control {
 
   private:
     bool OnMouse(QEvent& event);
+    void ShowRemark();
 
     bool entering_ = false;  // the focus comes by the click that is under way
+    std::string remark_;
     bool dragging_ = false;  // that click was swallowed, its moves are as well
 };
 

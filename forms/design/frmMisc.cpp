@@ -13,6 +13,7 @@ frmMisc::frmMisc(Context&) : Form("Miscellaneous Properties") {
         box->GotFocus = [box = box] { box->SelectAll(); };
         box->KeyPress = [next = next](int& keyAscii) { keepKeys(keyAscii, plainNumber, *next); };
     }
+    remarkOnNumbers({&txtCover, &txtLinks, &txthagg});
     cmdOK.Click = [this] { cmdOK_Click(); };
     SetTabOrder({&txtCover, &txtLinks, &txthagg, &chkrestrict, &cmdOK});
 }
