@@ -178,8 +178,11 @@ ListView::ListView(Container& parent, const std::vector<ListColumn>& columns)
     Tree& tree = Inner();
     tree.setColumnCount(static_cast<int>(columns.size()));
     tree.setHeaderLabels(titles);
-    for (int i = 0; i < titles.size(); ++i)
-        tree.setColumnWidth(i, ToPixels(columns[static_cast<std::size_t>(i)].width));
+    for (int i = 0; i < titles.size(); ++i) {
+        const ListColumn& column = columns[static_cast<std::size_t>(i)];
+        tree.setColumnWidth(i, ToPixels(column.width));
+        tree.headerItem()->setToolTip(i, QString::fromStdString(column.toolTip));
+    }
     Watch(tree.viewport());
     QObject::connect(tree.header(), &QHeaderView::sectionClicked, [this](int section) {
         if (ColumnClick)
@@ -203,6 +206,12 @@ ListItem ListView::SelectedItem() const {
 void ListView::SetSelectedItem(const ListItem& item) {
     Settle();
     Inner().setCurrentItem(item.row_);
+    if (item.row_)
+        Inner().scrollToItem(item.row_);
+}
+
+void ListView::EnsureVisible(const ListItem& item) {
+    Settle();
     if (item.row_)
         Inner().scrollToItem(item.row_);
 }

@@ -58,7 +58,8 @@ class ListItemsOf {
 
 struct ListColumn {
     std::string title;
-    int width;  // twips
+    int width;                 // twips
+    std::string toolTip = {};  // of the title
 };
 
 enum class ListSortOrder { Rising = 0, Falling = 1 };
@@ -77,6 +78,7 @@ class ListView : public Control {
     // While the list has rows and none is selected it is the first one.
     ListItem SelectedItem() const;
     void SetSelectedItem(const ListItem& item);  // and brings it into sight
+    void EnsureVisible(const ListItem& item);
 
     // Rows show sorted as text by the column of the key while Sorted is on; when it goes off they
     // stay in the order they have.
