@@ -24,9 +24,9 @@ struct Answering {
     bool isPressed = false;  // the key is the button's own
 };
 
-// A button, or what a label names. Where several answer, the one behind the focus, or the first:
-// then the key only moves the focus.
-Answering AnsweringControl(const QWidget& child, const QKeySequence& key) {
+// A button, or what a label names. Where several answer, the key only moves the focus: to the first
+// of them, and when it is pressed again at once to the next.
+Answering AnsweringControl(const QWidget& child, const QKeySequence& key, bool again) {
     QList<Answering> answering;
     for (auto* button : child.findChildren<QAbstractButton*>())
         if (Answers(*button, button->text(), key))
@@ -38,7 +38,7 @@ Answering AnsweringControl(const QWidget& child, const QKeySequence& key) {
         return answering.value(0);
     const auto focus = std::find_if(answering.begin(), answering.end(),
                                     [](const auto& one) { return one.control->hasFocus(); });
-    const auto at = focus == answering.end() ? 0 : focus - answering.begin() + 1;
+    const auto at = again && focus != answering.end() ? focus - answering.begin() + 1 : 0;
     return {answering[at % answering.size()].control};
 }
 
@@ -74,6 +74,8 @@ AccessKeys::AccessKeys(QMainWindow& window, QMdiArea& area)
 }
 
 bool AccessKeys::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress)
+        former_ = {};
     if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
         return false;
     const auto& press = static_cast<const QKeyEvent&>(*event);
@@ -81,18 +83,24 @@ bool AccessKeys::eventFilter(QObject*, QEvent* event) {
     QMenuBar& bar = *window_.menuBar();
     if (press.key() == Qt::Key_Alt && event->type() == QEvent::ShortcutOverride)
         openBeforeAlt_ = popup ? bar.activeAction() : nullptr;
+    const QKeySequence key(Qt::ALT | Qt::Key(press.key()));
+    const bool typed = event->type() == QEvent::KeyPress && press.key() != Qt::Key_Alt;
+    const bool again = former_ == key && press.modifiers() == Qt::AltModifier;
+    if (typed && !again)
+        former_ = {};
     if (press.modifiers() != Qt::AltModifier || popup || QApplication::activeWindow() != &window_ ||
         QApplication::activeModalWidget())
         return false;
-    const QKeySequence key(Qt::ALT | Qt::Key(press.key()));
     const QMdiSubWindow* child = area_.activeSubWindow();
-    const Answering answering = child ? AnsweringControl(*child, key) : Answering();
+    const Answering answering = child ? AnsweringControl(*child, key, again) : Answering();
     QAction* menu = answering.control ? nullptr : MenuInTurn(bar, key, openBeforeAlt_);
     if (!answering.control && !menu)
         return false;
     event->accept();  // the override keeps the key from Qt's own turns, and the press comes here
-    if (event->type() == QEvent::KeyPress && !press.isAutoRepeat())
-        answering.control ? Answer(answering) : Open(bar, menu);
+    if (!typed || press.isAutoRepeat())
+        return true;
+    former_ = key;
+    answering.control ? Answer(answering) : Open(bar, menu);
     return true;
 }
 

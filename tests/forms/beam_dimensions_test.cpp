@@ -147,17 +147,21 @@ TEST_F(BeamDimensions, ARowRefersToItsLineWithTenMembersAndMore) {
     EXPECT_EQ(form.ListView1.SelectedItem().Text(), "Member  10");
 }
 
-TEST_F(BeamDimensions, AltALeadsToAddFirstAndFromThereToRemoveAll) {
+TEST_F(BeamDimensions, AltALeadsToAddFirstAndPressedAgainAtOnceToRemoveAll) {
     auto& form = OpenWith(Lines(1, 1, 1));
     for (Control* from :
-         std::initializer_list<Control*>{&form.txtfy, &form.Command1, &form.txtYM}) {
+         std::initializer_list<Control*>{&form.txtfy, &form.Command1, &form.cmdAdd, &form.txtYM}) {
         from->SetFocus();
+        Key(Qt::Key_Shift);
         Alt(Qt::Key_A);
         EXPECT_TRUE(form.cmdAdd.HasFocus());
     }
+    Key(Qt::Key_Space);
+    Alt(Qt::Key_A);
+    EXPECT_TRUE(form.cmdAdd.HasFocus()) << "not at Remove All, which Space would press";
     Alt(Qt::Key_A);
     EXPECT_TRUE(form.Command1.HasFocus());
-    EXPECT_EQ(File(), Lines(1, 1, 1));
+    EXPECT_TRUE(File().starts_with(Lines(1, 1, 1)));
 }
 
 TEST_F(BeamDimensions, ADoubleClickRemovesAndTitlesDoNotSort) {
