@@ -50,13 +50,11 @@ void Printer::Print(double x, double y, const std::string& text) {
     const double wide = metrics.horizontalAdvance(line);
     const double sheet = printer_->pageLayout().fullRect(QPageLayout::Millimeter).width();
     const double room = (sheet - 2 * x) * dots;  // as much is free on the right as on the left
+    const double size = wide > room && room > 0 ? room / wide : 1;
     painter_->save();
-    if (wide > room && room > 0) {
-        QFont smaller = painter_->font();
-        smaller.setPointSizeF(smaller.pointSizeF() * room / wide);
-        painter_->setFont(smaller);
-    }
-    painter_->drawText(QPointF(x * dots, y * dots + metrics.ascent()), line);
+    painter_->translate(x * dots, y * dots + metrics.ascent());
+    painter_->scale(size, size);
+    painter_->drawText(QPointF(), line);
     painter_->restore();
 }
 
