@@ -6,6 +6,7 @@
 #include "forms/main/frmTrabeon.h"
 #include "report/output/frmPrintOptions.h"
 #include "report/registration.h"
+#include "report/sent_pictures.h"
 #include "toolkit/application.h"
 #include "toolkit/desktop.h"
 
@@ -19,7 +20,9 @@ int main(int argc, char** argv) try {
     frmTrabeon program(folder);
     takeUpReport(program.context());
     program.context().forms.Register<frmPrintOptions>(program.context());
-    return program.Start() ? application.Run() : 0;
+    const int exit = program.Start() ? application.Run() : 0;
+    removeLentPictures(folder);
+    return exit;
 } catch (const std::exception& error) {  // above all: not enough memory
     std::fprintf(stderr, "Trabeon cannot go on (%s).\n", error.what());
     return 1;

@@ -4,6 +4,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QMainWindow>
+#include <QMouseEvent>
 #include <QTimer>
 
 #include <chrono>
@@ -38,6 +39,38 @@ void measure(const char* name, const Step& step) {
     settle();
     const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
     std::printf("%s %.3f\n", name, time.count());
+}
+
+/// The same for each of several, on average.
+template <class Step>
+void measureEach(const char* name, int times, const Step& step) {
+    const auto start = std::chrono::steady_clock::now();
+    for (int k = 0; k < times; ++k) {
+        step(k);
+        settle();
+    }
+    const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
+    std::printf("%s %.3f\n", name, time.count() / times);
+}
+
+/// The mouse over a part of the curve: what a move costs, and what it would cost to draw the whole
+/// chart again.
+void readOff(Graph& chart) {
+    QWidget& widget = *chart.Widget();
+    const QPointF middle = widget.rect().center();
+    for (int notch = 0; notch < 10; ++notch) {
+        QWheelEvent wheel(middle, widget.mapToGlobal(middle), {}, {0, 120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&widget, &wheel);
+    }
+    settle();
+    measureEach("replot", 10, [&](int) { chart.SetNote(chart.Note()); });
+    measureEach("move", 50, [&](int k) {
+        const QPointF at = middle + QPointF(2 * k - 50, 0);
+        QMouseEvent move(QEvent::MouseMove, at, widget.mapToGlobal(at), Qt::NoButton, Qt::NoButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(&widget, &move);
+    });
 }
 
 struct Program {
@@ -80,6 +113,7 @@ void work(const std::string& folder, const std::string& project, Unattended& ans
     settle();
     auto* members = static_cast<QAbstractItemView*>(diagram.List1.Widget());
     measure("plot", [&] { members->selectAll(); });
+    readOff(diagram.GraphCMoment);
     auto& sections = forms.Get<frmBeamDimensions>();
     settle();
     measure("design", [&] { sections.cmdDesign.Press(); });

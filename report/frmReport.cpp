@@ -6,6 +6,7 @@
 #include "forms/main/messages.h"
 #include "forms/main/status_line.h"
 #include "report/margins.h"
+#include "report/sent_pictures.h"
 #include "toolkit/outside.h"
 
 namespace trabeon {
@@ -97,17 +98,6 @@ void frmReport::SaveReport() {
         path_ = path;
 }
 
-/// A picture that was sent before may be open and worked on in the word processor: each has a file
-/// of its own.
-std::filesystem::path frmReport::freePicturePath() const {
-    for (int number = 1;; ++number) {
-        auto path = context_.folder / ("Picture " + std::to_string(number) + ".rtf");
-        std::error_code unknown;
-        if (!std::filesystem::exists(path, unknown))
-            return path;
-    }
-}
-
 void frmReport::cmdWP_Click() {
     const auto text = RTB.LastPictureRTF(Outside::Current().DefaultPaper(), marginTwips);
     if (text.empty()) {
@@ -115,10 +105,12 @@ void frmReport::cmdWP_Click() {
             "There is no picture in the report. Put one there with Add To Report, then try again.");
         return;
     }
-    const auto path = freePicturePath();
+    const auto path = freePicturePath(context_.folder);
     if (const auto failure = replaceFile(path, text))
         warn(failure->sentence);
-    else if (!Outside::Current().OpenDocument(path.string()))
+    else if (Outside::Current().OpenDocument(path.string()))
+        lendPicture(path);
+    else
         warn("The desktop has no program for rich text. The picture is in \"" + path.string() +
              "\": open it in a word processor.");
 }

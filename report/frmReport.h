@@ -34,7 +34,6 @@ class frmReport : public Form {
     void mnuSave_Click();
     void mnufileexit_Click();
     void SaveReport();
-    [[nodiscard]] std::filesystem::path freePicturePath() const;
 
     Context& context_;
     std::string path_;  // of the last save

@@ -1,7 +1,9 @@
 // Where a child window and the menu bar have the same access key, the child window in front answers
-// it: without this the two would take turns. Menus that share one begin with the first each time.
+// it: without this the two would take turns. Menus that share one begin with the first each time,
+// and so do controls.
 #pragma once
 
+#include <QKeySequence>
 #include <QObject>
 
 class QAction;
@@ -20,6 +22,7 @@ class AccessKeys : public QObject {
   private:
     QMainWindow& window_;
     QMdiArea& area_;
+    QKeySequence former_;  // the access key that was pressed last, at once before
     const QAction* openBeforeAlt_ = nullptr;  // the menu that the press of Alt closed
 };
 

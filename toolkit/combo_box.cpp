@@ -1,6 +1,7 @@
 #include "toolkit/combo_box.h"
 
 #include <QComboBox>
+#include <QEvent>
 
 #include "toolkit/shown_text.h"
 
@@ -22,6 +23,14 @@ ComboBox::ComboBox(Container& parent) : Control(new QComboBox(parent.Canvas())) 
         if (Click)
             Click();
     });
+}
+
+// The wheel turns the form, not the choice: an open list has its own window.
+bool ComboBox::OnEvent(QEvent& event) {
+    if (event.type() != QEvent::Wheel)
+        return Control::OnEvent(event);
+    event.ignore();
+    return true;
 }
 
 void ComboBox::AddItem(const std::string& text) {

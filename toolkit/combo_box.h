@@ -1,4 +1,5 @@
-// A drop-down list. Positions count from 0; -1 is nothing chosen.
+// A drop-down list; the wheel chooses only while the list is open. Positions count from 0; -1 is
+// nothing chosen.
 #pragma once
 
 #include <functional>
@@ -26,6 +27,9 @@ class ComboBox : public Control {
     std::string Text() const;
     // Shows the entry of that text; changes nothing if there is none. Fires nothing.
     void SetText(const std::string& text);
+
+  protected:
+    bool OnEvent(QEvent& event) override;
 };
 
 }  // namespace trabeon

@@ -5,6 +5,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QWidget>
+#include <utility>
 
 #include "toolkit/look.h"
 #include "toolkit/shown_text.h"
@@ -24,6 +25,17 @@ bool IsReturning(Qt::FocusReason reason) {
 }
 
 constexpr int DeleteCode = 127;
+
+// Alt and a character is a command, also where nothing answers it. Alt with Ctrl is AltGr, which
+// types.
+bool IsAltCharacter(const QEvent& event) {
+    if (event.type() != QEvent::KeyPress)
+        return false;
+    const auto& press = static_cast<const QKeyEvent&>(event);
+    const bool alt = (press.modifiers() & Qt::AltModifier) &&
+                     !(press.modifiers() & (Qt::ControlModifier | Qt::GroupSwitchModifier));
+    return alt && !press.text().isEmpty() && press.text().at(0).isPrint();
+}
 
 // The code of a key that types one character; 0 for all else, shortcuts and Tab among them.
 int CharacterOf(const QKeyEvent& event) {
@@ -72,8 +84,17 @@ bool Control::OnEvent(QEvent& event) {
     if (event.type() == QEvent::FocusIn) {
         // The widget first, so that what the handler selects stays selected.
         Deliver(*Widget(), event);
-        if (GotFocus && !IsReturning(static_cast<QFocusEvent&>(event).reason()))
+        // A control that was given the focus while its window was not the active one has yet to
+        // hear of it.
+        const bool isNew = !std::exchange(focused_, true);
+        if (GotFocus && (isNew || !IsReturning(static_cast<QFocusEvent&>(event).reason())))
             GotFocus();
+        return true;
+    }
+    if (event.type() == QEvent::FocusOut && !IsReturning(static_cast<QFocusEvent&>(event).reason()))
+        focused_ = false;
+    if (IsAltCharacter(event)) {
+        event.ignore();
         return true;
     }
     if (event.type() == QEvent::KeyPress && KeyPress)

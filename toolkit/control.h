@@ -53,6 +53,7 @@ class Control : public Placement {
     bool OnKey(QKeyEvent& event);
 
     std::unique_ptr<Tap> tap_;
+    bool focused_ = false;  // also while the window is not the active one
 };
 
 }  // namespace trabeon

@@ -6,6 +6,7 @@
 #include <QEventLoop>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMenuBar>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -30,7 +31,12 @@ class Form::Body : public QWidget {
 
 class Form::ChildFrame : public QMdiSubWindow {
   public:
-    explicit ChildFrame(Form& form) : form_(form) {}
+    explicit ChildFrame(Form& form) : form_(form) {
+        const auto platform = QKeySequence::keyBindings(QKeySequence::Close);
+        for (QAction* action : systemMenu()->actions())
+            if (action->shortcuts() == platform)  // not on every platform is Ctrl+F4 among them
+                action->setShortcuts({QKeySequence("Ctrl+F4"), QKeySequence("Ctrl+W")});
+    }
 
   protected:
     void closeEvent(QCloseEvent* event) override {

@@ -1,7 +1,10 @@
 #include "toolkit/forms.h"
 
+#include <QApplication>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QObject>
+#include <QPointer>
 #include <algorithm>
 
 #include "toolkit/form.h"
@@ -48,6 +51,7 @@ Form& Forms::Load(const std::string& name) {
     Form& form = *made;
     // In the registry before its load event runs, which may touch it again through other forms.
     open_.push_back({name, std::move(made)});
+    form.Widget()->setObjectName(QString::fromStdString(name));
     form.Load([this, &form] { Unload(form); }, window_);
     return form;
 }
@@ -59,6 +63,19 @@ void Forms::Show(const std::string& name) {
         form = &Load(name);
     if (!cameUp || !form->Visible())
         form->Show();
+}
+
+void Forms::ShowWithoutFocus(const std::string& name) {
+    const QPointer<QMdiSubWindow> front = window_.Area().activeSubWindow();
+    const QPointer<QWidget> focus = QApplication::focusWidget();
+    Show(name);
+    Form* form = Find(name);
+    if (!front || !form || front == form->Widget())
+        return;
+    window_.Area().setActiveSubWindow(front);
+    if (focus)
+        focus->setFocus(Qt::ActiveWindowFocusReason);
+    form->Widget()->raise();
 }
 
 bool Forms::IsLoaded(const std::string& name) const {

@@ -43,6 +43,8 @@ class Forms {
     // By name, for whoever needs no more of a form. A name that was never registered ends the
     // program in Show and is passed over by the others.
     void Show(const std::string& name);
+    // In sight, while the window in front and its control keep the focus.
+    void ShowWithoutFocus(const std::string& name);
     void Unload(const std::string& name);
     bool IsLoaded(const std::string& name) const;
     // Where it stands; null if it is not loaded.

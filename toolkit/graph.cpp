@@ -92,8 +92,18 @@ void Graph::SetMarks(std::vector<GraphMark> marks) {
 }
 
 void Graph::SetNote(const std::string& note) {
-    Inner().note->setText(ShownText(note));
+    Inner().note = ShownText(note);
     Inner().Refresh();
+}
+
+void Graph::SetExtremes(int greatest, int least) {
+    Inner().greatestPoint = greatest;
+    Inner().leastPoint = least;
+    Inner().Refresh();
+}
+
+void Graph::SetPointText(std::function<std::string(int index)> text) {
+    Inner().pointText = std::move(text);
 }
 
 std::vector<GraphPoint> Graph::Points() const {
@@ -110,7 +120,7 @@ const std::vector<GraphMark>& Graph::Marks() const {
 }
 
 std::string Graph::Note() const {
-    return Inner().note->text().toStdString();
+    return Inner().note.toStdString();
 }
 
 QImage Graph::Picture() const {
@@ -126,6 +136,10 @@ std::string Graph::GreatestLabel() const {
 std::string Graph::LeastLabel() const {
     Inner().Prepare();
     return Inner().least->text().toStdString();
+}
+
+std::string Graph::ReadOut() const {
+    return Inner().ReadOut().toStdString();
 }
 
 }  // namespace trabeon

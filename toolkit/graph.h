@@ -2,6 +2,7 @@
 // the chart control that the diagram forms speak to.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -39,6 +40,11 @@ class Graph : public Control {
     void SetValueFactor(double factor);
     void SetMarks(std::vector<GraphMark> marks);
     void SetNote(const std::string& note);
+    // The points, counted from 1, that bear the label of the greatest and of the least value where
+    // several points have that value.
+    void SetExtremes(int greatest, int least);
+    // What the chart says of the point under the pointer, by the point's index from 1.
+    void SetPointText(std::function<std::string(int index)> text);
 
     // What shows: the points of the plot that runs, with the values that were written.
     std::vector<GraphPoint> Points() const;
@@ -51,6 +57,8 @@ class Graph : public Control {
     // What the label of the greatest or the least value reads; empty while there is none.
     std::string GreatestLabel() const;
     std::string LeastLabel() const;
+    // What shows under the pointer; empty while nothing does.
+    std::string ReadOut() const;
 
   private:
     GraphPlot& Inner() const;

@@ -1,4 +1,4 @@
-// The parts of the chart that tell a number or a name where it stands.
+// The parts of the chart that name a number or a joint at its place.
 #include <algorithm>
 #include <cmath>
 
@@ -10,11 +10,11 @@ namespace trabeon {
 
 namespace {
 
-// Four significant digits, and all of those before the point while they are few.
+// Four significant digits, and all of those in front of the point while they are few.
 QString ShortNumber(double value) {
     const double size = std::abs(value);
     return size >= 1e3 && size < 1e6 ? QString::number(value, 'f', 0)
-                                     : QString::number(value + 0.0, 'g', 4);
+                                     : QString::number(value + 0.0, 'G', 4);
 }
 
 QString LabelText(double value, double x) {
@@ -29,7 +29,6 @@ void SetPixel(QCPItemText& item, const QPointF& at) {
 
 void GraphPlot::FindExtremes() {
     const auto& curve = *graph(0)->data();
-    extremes_->data()->clear();
     greatest->setText({});
     least->setText({});
     if (curve.isEmpty())
@@ -39,59 +38,92 @@ void GraphPlot::FindExtremes() {
     };
     const auto low = std::min_element(curve.constBegin(), curve.constEnd(), lower);
     const auto high = std::max_element(curve.constBegin(), curve.constEnd(), lower);
-    top_ = {high->key, high->value};
-    bottom_ = {low->key, low->value};
+    // The caller knows which of several points it is.
+    const auto told = [this](const QCPGraphData& found, int index) {
+        const bool isShown = index >= 1 && index <= shown;
+        const Point point = isShown ? points[static_cast<std::size_t>(index - 1)] : Point();
+        return isShown && point.y == found.value && std::isfinite(point.x)
+                   ? point
+                   : Point{found.key, found.value};
+    };
+    top_ = told(*high, factor < 0 ? leastPoint : greatestPoint);
+    bottom_ = told(*low, factor < 0 ? greatestPoint : leastPoint);
     const QString above = LabelText(top_.y * factor, top_.x);
     const QString below = LabelText(bottom_.y * factor, bottom_.x);
     greatest->setText(factor < 0 ? below : above);
     if (top_.y > bottom_.y)
         least->setText(factor < 0 ? above : below);
-    extremes_->addData(top_.x, top_.y);
-    extremes_->addData(bottom_.x, bottom_.y);
 }
 
-// Gives the height that the two take. In a small chart they share a line, if it is long enough.
+// Gives the height that the two take. In a small chart they share a line; if it is too short the
+// note has it, since the window names the diagram as well.
 int GraphPlot::FitTitles() {
     const bool roomy = IsRoomy();
     const bool titled = viewport().height() >= 70;
+    const QFontMetricsF noteMetrics(note_->font());
+    const QString hint = zoomed_ && !pictured_ ? "Double click shows all" : "";
+    QString text = note.isEmpty() || hint.isEmpty() ? note + hint : note + ". " + hint;
+    if (!hint.isEmpty() && noteMetrics.horizontalAdvance(text) > viewport().width())
+        text = hint;
+    note_->setText(text);
     title_->setFont(FontNamed("Arial", roomy ? 10 : 8, true));
     const double titleWide = QFontMetricsF(title_->font()).horizontalAdvance(title_->text());
-    const double noteWide = QFontMetricsF(note->font()).horizontalAdvance(note->text()) + 12;
+    const double noteWide = noteMetrics.horizontalAdvance(text) + 12;
     const bool inOneLine = !roomy && titleWide + noteWide <= viewport().width();
-    title_->setVisible(titled);
-    note->setVisible(titled && !note->text().isEmpty() && (roomy || inOneLine));
+    title_->setVisible(titled && (roomy || inOneLine || text.isEmpty()));
+    note_->setVisible(titled && !text.isEmpty());
     const double middle = viewport().width() / 2.0;
-    const double aside = note->visible() && inOneLine ? 0.5 : 0;
+    const double aside = note_->visible() && inOneLine ? 0.5 : 0;
     SetPixel(*title_, {middle - aside * noteWide, roomy ? 6.0 : 2.0});
-    SetPixel(*note, {middle + aside * titleWide, roomy ? 23.0 : 2.0});
+    SetPixel(*note_, {middle + aside * titleWide, roomy ? 23.0 : 2.0});
     if (!titled)
         return 6;
-    return roomy ? (note->visible() ? 40 : 26) : 21;
+    return roomy ? (note_->visible() ? 40 : 26) : 21;
 }
 
-// Leaves out labels that would stand on one another, and lines that would become a grey area.
+// Leaves out lines that would become a grey area.
 void GraphPlot::FitMarks() {
     constexpr double LeastApart = 8;
     xAxis2->setVisible(!marks.empty());
-    xAxis2->setTickLabels(!marks.empty());
     QMap<double, QString> ticks;
     const double pixelsPerX = (viewport().width() - 80) / xAxis->range().size();
-    const QFontMetricsF metrics(xAxis2->tickLabelFont());
     double former = -1e300;
-    double free = -1e300;
     for (const GraphMark& mark : marks) {
-        const QString label = ShownText(mark.label);
         const double at = mark.x * pixelsPerX;
-        const double half = metrics.horizontalAdvance(label) / 2 + 3;
-        const bool fits = at - half >= free;
-        if (!fits && at - former < LeastApart)
+        if (at - former < LeastApart)
             continue;
-        ticks.insert(mark.x, fits ? label : QString());
+        ticks.insert(mark.x, {});
         former = at;
-        if (fits)
-            free = at + half;
     }
     markTicks_->setTicks(ticks);
+}
+
+bool GraphPlot::IsInSight(double x) const {
+    const QCPRange& range = xAxis->range();
+    const double dust = 1e-9 * range.size();
+    return x >= range.lower - dust && x <= range.upper + dust;
+}
+
+void GraphPlot::PlaceAll() {
+    PlaceMarkNames();
+    PlaceDots();
+    PlaceLabels();
+    PlaceReadOut();
+}
+
+void GraphPlot::PlaceMarkNames() {
+    std::vector<MarkNames::Name> names;
+    for (const GraphMark& mark : marks)
+        if (IsInSight(mark.x))
+            names.push_back({xAxis->coordToPixel(mark.x), QString::fromStdString(mark.label)});
+    markNames_->Place(names);
+}
+
+void GraphPlot::PlaceDots() {
+    for (auto [dot, at] : {std::pair{topDot_, top_}, {bottomDot_, bottom_}}) {
+        dot->position->setCoords(at.x, at.y);
+        dot->setVisible(!graph(0)->data()->isEmpty() && IsInSight(at.x));
+    }
 }
 
 QRectF GraphPlot::PlaceLabel(QCPItemText& label, const Point& at, bool above) {
@@ -125,41 +157,6 @@ void GraphPlot::PlaceLabels() {
         SetPixel(lower, {first.left() - 6 - second.width(), second.top()});
     else
         lower.setVisible(false);
-}
-
-void GraphPlot::ReadOut(const QPointF& mouse) {
-    const QRect area = axisRect()->rect();
-    if (graph(0)->data()->isEmpty() || !area.contains(mouse.toPoint())) {
-        HideReadOut();
-        return;
-    }
-    dot_->setGraph(graph(0));
-    dot_->setGraphKey(xAxis->pixelToCoord(mouse.x()));
-    dot_->updatePosition();
-    const QPointF at = dot_->position->pixelPosition();
-    readOut_->setText(QString("x = %1   %2")
-                          .arg(ShortNumber(dot_->position->key()),
-                               ShortNumber(dot_->position->value() * factor)));
-    const double wide = QFontMetricsF(readOut_->font()).horizontalAdvance(readOut_->text()) + 12;
-    SetPixel(*readOut_, {at.x() + 10 + wide > area.right() ? at.x() - 10 - wide : at.x() + 10,
-                         std::max(at.y() - 6, area.top() + 20.0)});
-    dot_->setVisible(true);
-    readOut_->setVisible(true);
-    Refresh();
-}
-
-void GraphPlot::HideReadOut() {
-    if (!readOut_->visible())
-        return;
-    dot_->setVisible(false);
-    dot_->setGraph(nullptr);  // it cannot stand on a chart that may be empty the next time
-    readOut_->setVisible(false);
-    Refresh();
-}
-
-void GraphPlot::leaveEvent(QEvent* event) {
-    QCustomPlot::leaveEvent(event);
-    HideReadOut();
 }
 
 }  // namespace trabeon

@@ -57,16 +57,28 @@ GraphPlot::GraphPlot(const GraphTitles& titles, QWidget* parent)
     MakeItems(titles);
     MakeMouse();
     connect(this, &QCustomPlot::beforeReplot, this, &GraphPlot::Prepare);
-    connect(this, &QCustomPlot::afterLayout, this, &GraphPlot::PlaceLabels);
-    Rescale();
+    connect(this, &QCustomPlot::afterLayout, this, &GraphPlot::PlaceAll);
+    ShowWhole();
+    FitValues();
 }
 
 void GraphPlot::MakeCurve() {
     new PiecewiseGraph(xAxis, yAxis);
-    extremes_ = addGraph();
-    extremes_->setLineStyle(QCPGraph::lsNone);
-    extremes_->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssDisc, Curve, Curve, 6));
+    MakeAxes();
+    // Joints and the like have a line down through the chart, and their names above it.
+    xAxis2->setTicker(markTicks_);
+    xAxis2->setTickLength(4);
+    xAxis2->setSubTicks(false);
+    xAxis2->setTickLabels(false);
+    xAxis2->setBasePen(Qt::NoPen);
+    xAxis2->grid()->setVisible(true);
+    xAxis2->grid()->setPen(QPen(QColor(0xb4bdc6), 1, Qt::DashLine));
+    markNames_ = new MarkNames(this);
+    markNames_->font = FontNamed("Arial", 8, false);
+    markNames_->colour = Faint;
+}
 
+void GraphPlot::MakeAxes() {
     xAxis->setTicker(distances_);
     yAxis->setTicker(values_);
     xAxis->setSubTicks(false);
@@ -81,16 +93,6 @@ void GraphPlot::MakeCurve() {
         axis->grid()->setPen(QPen(QColor(0xe3e7eb)));
         axis->grid()->setZeroLinePen(Qt::NoPen);
     }
-    // Joints and the like stand on the upper edge, with a line down through the chart.
-    xAxis2->setTicker(markTicks_);
-    xAxis2->setTickLength(4);
-    xAxis2->setSubTicks(false);
-    xAxis2->setTickLabelColor(Faint);
-    xAxis2->setBasePen(Qt::NoPen);
-    xAxis2->grid()->setVisible(true);
-    xAxis2->grid()->setPen(QPen(QColor(0xb4bdc6), 1, Qt::DashLine));
-    connect(xAxis, QOverload<const QCPRange&>::of(&QCPAxis::rangeChanged), xAxis2,
-            QOverload<const QCPRange&>::of(&QCPAxis::setRange));
 }
 
 QCPItemText* GraphPlot::MakeText(const QColor& colour, double size, bool bold) {
@@ -112,39 +114,37 @@ void GraphPlot::MakeItems(const GraphTitles& titles) {
     title_ = MakeText(Ink, 10, true);
     title_->setText(ShownText(titles.title));
     title_->setPositionAlignment(Qt::AlignTop | Qt::AlignHCenter);
-    note = MakeText(Faint, 8, false);
-    note->setPositionAlignment(Qt::AlignTop | Qt::AlignHCenter);
+    note_ = MakeText(Faint, 8, false);
+    note_->setPositionAlignment(Qt::AlignTop | Qt::AlignHCenter);
+    topDot_ = MakeDot(Curve, 6);
+    bottomDot_ = MakeDot(Curve, 6);
+    for (QCPItemTracer* dot : {topDot_, bottomDot_})
+        dot->setBrush(Curve);
     greatest = MakeText(Ink, 8, true);
     least = MakeText(Ink, 8, true);
     for (QCPItemText* label : {greatest, least})
         label->setBrush(QColor(255, 255, 255, 190));  // grid and joints shine through, faintly
-    dot_ = new QCPItemTracer(this);
-    dot_->setInterpolating(true);
-    dot_->setStyle(QCPItemTracer::tsCircle);
-    dot_->setSize(8);
-    dot_->setPen(QPen(QColor(0xc0392b), 2));
-    dot_->setVisible(false);
+    ring_ = MakeDot(QPen(QColor(0xc0392b), 2), 8);
     readOut_ = MakeText(Ink, 8, false);
     readOut_->setBrush(QColor(0xffffe8));
     readOut_->setPen(QPen(Faint));
     readOut_->setPadding(QMargins(4, 2, 4, 2));
     readOut_->setPositionAlignment(Qt::AlignLeft | Qt::AlignBottom);
     readOut_->setVisible(false);
+    // A layer of their own, so that a move of the mouse draws nothing else.
+    ring_->setLayer("overlay");
+    readOut_->setLayer("overlay");
 }
 
-void GraphPlot::MakeMouse() {
-    setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
-    connect(this, &QCustomPlot::mouseWheel, this, [this] { zoomed_ = true; });
-    connect(this, &QCustomPlot::mouseMove, this, [this](const QMouseEvent* event) {
-        if (event->buttons() & Qt::LeftButton)
-            zoomed_ = true;
-        ReadOut(event->position());
-    });
-    connect(this, &QCustomPlot::mouseDoubleClick, this, [this] {
-        zoomed_ = false;
-        Refresh();
-    });
-    setMouseTracking(true);
+QCPItemTracer* GraphPlot::MakeDot(const QPen& pen, double size) {
+    auto* dot = new QCPItemTracer(this);
+    dot->setStyle(QCPItemTracer::tsCircle);
+    dot->setPen(pen);
+    dot->setSize(size);
+    dot->setClipToAxisRect(false);  // else those on the edge would be half cut
+    dot->setSelectable(false);
+    dot->setVisible(false);
+    return dot;
 }
 
 void GraphPlot::Redraw() {
@@ -187,7 +187,8 @@ void GraphPlot::Prepare() {
     FindExtremes();
     FitToSize();
     if (!zoomed_)
-        Rescale();
+        ShowWhole();
+    FitValues();
     FitCurve();
     FitMarks();
 }
@@ -236,16 +237,20 @@ void GraphPlot::FitCurve() {
     graph(0)->setBrush(dense ? QBrush() : QColor(Curve.red(), Curve.green(), Curve.blue(), 38));
 }
 
-void GraphPlot::Rescale() {
+void GraphPlot::ShowWhole() {
     const auto& curve = *graph(0)->data();
-    QCPRange x(0, 1), y(-1, 1);
-    if (!curve.isEmpty()) {
-        x = {curve.constBegin()->key, (curve.constEnd() - 1)->key};
-        y = {std::min(0.0, bottom_.y), std::max(0.0, top_.y)};
-    }
-    distances_->end = x.upper;
-    if (!(x.size() > 0))
-        x.upper = x.lower + 1;
+    whole_ = {0, 1};
+    if (!curve.isEmpty())
+        whole_ = {curve.constBegin()->key, (curve.constEnd() - 1)->key};
+    distances_->end = whole_.upper;
+    if (!(whole_.size() > 0))
+        whole_.upper = whole_.lower + 1;
+    xAxis->setRange(whole_);
+}
+
+// Zero and all of the curve that is in sight, with room for the labels.
+void GraphPlot::FitValues() {
+    QCPRange y = ValuesInSight();
     if (!(y.size() > 0))
         y = {-1, 1};
     const int below = IsRoomy() ? 42 : 20;  // the axis, its numbers and its title
@@ -253,18 +258,40 @@ void GraphPlot::Rescale() {
     const double room =
         std::max(labelHigh, viewport().height() - topMargin_ - below - 2 * labelHigh);
     const double margin = y.size() * labelHigh / room;
-    xAxis->setRange(x);
     yAxis->setRange(y.lower - margin, y.upper + margin);
 }
 
+QCPRange GraphPlot::ValuesInSight() const {
+    const QCPRange x = xAxis->range();
+    const auto& curve = *graph(0)->data();
+    QCPRange y(0, 0);
+    const auto last = curve.findEnd(x.upper);
+    for (auto at = curve.findBegin(x.lower); at != last; ++at) {
+        if (x.contains(at->key))
+            y.expand(at->value);
+        if (at + 1 == last)
+            break;
+        const auto next = at + 1;
+        for (const double edge : {x.lower, x.upper})  // where the line leaves the chart
+            if (at->key < edge && edge < next->key)
+                y.expand(at->value +
+                         (next->value - at->value) * (edge - at->key) / (next->key - at->key));
+    }
+    return y;
+}
+
 QImage GraphPlot::PictureOf(QSize size, double ratio) {
-    HideReadOut();
+    const auto mouse = mouse_;
+    MoveReadOut({});
+    pictured_ = true;
     const QRect onScreen = viewport();
     setViewport(QRect(QPoint(0, 0), size));
     Prepare();
     QImage picture = toPixmap(size.width(), size.height(), ratio).toImage();
+    pictured_ = false;
     setViewport(onScreen);
     Prepare();
+    MoveReadOut(mouse);
     SetRatio(picture, ratio);
     return picture;
 }

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QListWidget>
+#include <QStyle>
 #include <QStyledItemDelegate>
 #include <algorithm>
 
@@ -15,14 +16,34 @@ QListWidget& Inner(const Control& control) {
     return *static_cast<QListWidget*>(control.Widget());
 }
 
-// As wide as the list, whatever the text: what does not fit is left out in front, since entries
-// differ at their end.
+// As wide as the list, whatever the text. Entries differ in the number at their end: where the text
+// does not fit, what is in front of the number is shortened, and shows whole under the pointer.
 class EntryDelegate : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         return {0, QStyledItemDelegate::sizeHint(option, index).height()};
+    }
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const int margins = 2 * (option->widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin,
+                                                                      option, option->widget) +
+                                 1);
+        const int room = option->rect.width() - margins;
+        const QString whole = option->text;
+        const auto number = whole.lastIndexOf(' ') + 1;
+        for (auto kept = number - 1; kept > 0 && Wide(*option) > room; --kept)
+            option->text = whole.left(kept).trimmed() + ". " + whole.mid(number);
+        if (Wide(*option) > room)
+            option->text = whole.mid(number);
+    }
+
+  private:
+    static int Wide(const QStyleOptionViewItem& option) {
+        return option.fontMetrics.horizontalAdvance(option.text);
     }
 };
 
@@ -56,7 +77,8 @@ bool ListBox::OnInnerEvent(QEvent& event) {
 }
 
 void ListBox::AddItem(const std::string& text) {
-    Inner(*this).addItem(ShownText(text));
+    auto* item = new QListWidgetItem(ShownText(text), &Inner(*this));
+    item->setToolTip(item->text());
 }
 
 void ListBox::Clear() {

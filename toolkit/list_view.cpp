@@ -10,6 +10,7 @@
 #include <QToolTip>
 #include <QTreeWidget>
 
+#include "toolkit/look.h"
 #include "toolkit/outside.h"
 #include "toolkit/shown_text.h"
 
@@ -29,10 +30,26 @@ class Row : public QTreeWidgetItem {
 
 namespace {
 
+constexpr int MarkRole = Qt::UserRole;
+
 // A little air above and below the text; one that is cut shows whole under the pointer.
 class RowDelegate : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyledItemDelegate::paint(painter, option, index);
+        const QString mark = index.data(MarkRole).toString();
+        if (mark.isEmpty())
+            return;
+        const bool selected = option.state & QStyle::State_Selected;
+        painter->setFont(FontNamed("Arial", 7.5, true));
+        painter->setPen(selected ? option.palette.highlightedText().color()
+                                 : QColor(HighlightColour));
+        painter->drawText(option.rect.adjusted(0, 0, -6, 0), Qt::AlignRight | Qt::AlignVCenter,
+                          mark);
+    }
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 4);
@@ -70,6 +87,12 @@ class ListView::Tree : public QTreeWidget {
     bool gridLines = false;
 
   protected:
+    // A press on blank space keeps the selection.
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override {
+        return index.isValid() ? QTreeWidget::selectionCommand(index, event)
+                               : QItemSelectionModel::NoUpdate;
+    }
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const override {
         QTreeWidget::drawRow(painter, option, index);
@@ -118,6 +141,15 @@ void ListItem::SetWarningSign(bool shown) {
     row_->setIcon(0, shown ? style.standardIcon(QStyle::SP_MessageBoxWarning) : QIcon());
 }
 
+void ListItem::SetMark(const std::string& word) {
+    row_->setData(0, MarkRole, QString::fromStdString(word));
+}
+
+void ListItem::SetToolTip(const std::string& text) {
+    for (int column = 0; column < row_->treeWidget()->columnCount(); ++column)
+        row_->setToolTip(column, QString::fromStdString(text));
+}
+
 int ListItemsOf::Count() const {
     return view_.Inner().topLevelItemCount();
 }
@@ -147,8 +179,11 @@ ListView::ListView(Container& parent, const std::vector<ListColumn>& columns)
     Tree& tree = Inner();
     tree.setColumnCount(static_cast<int>(columns.size()));
     tree.setHeaderLabels(titles);
-    for (int i = 0; i < titles.size(); ++i)
-        tree.setColumnWidth(i, ToPixels(columns[static_cast<std::size_t>(i)].width));
+    for (int i = 0; i < titles.size(); ++i) {
+        const ListColumn& column = columns[static_cast<std::size_t>(i)];
+        tree.setColumnWidth(i, ToPixels(column.width));
+        tree.headerItem()->setToolTip(i, QString::fromStdString(column.toolTip));
+    }
     Watch(tree.viewport());
     QObject::connect(tree.header(), &QHeaderView::sectionClicked, [this](int section) {
         if (ColumnClick)
@@ -172,6 +207,12 @@ ListItem ListView::SelectedItem() const {
 void ListView::SetSelectedItem(const ListItem& item) {
     Settle();
     Inner().setCurrentItem(item.row_);
+    if (item.row_)
+        Inner().scrollToItem(item.row_);
+}
+
+void ListView::EnsureVisible(const ListItem& item) {
+    Settle();
     if (item.row_)
         Inner().scrollToItem(item.row_);
 }

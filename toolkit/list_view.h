@@ -27,9 +27,11 @@ class ListItem {
     // The text of column n + 1.
     std::string SubItems(int n) const;
     void SetSubItems(int n, const std::string& text);
-    // How the row looks; neither changes its texts.
+    // How the row looks; none of these changes its texts.
     void SetForeColor(Colour colour);
-    void SetWarningSign(bool shown);  // in front of the first text
+    void SetWarningSign(bool shown);           // in front of the first text
+    void SetMark(const std::string& word);     // at the right end of the first column
+    void SetToolTip(const std::string& text);  // of the whole row
 
   private:
     friend class ListView;
@@ -56,7 +58,8 @@ class ListItemsOf {
 
 struct ListColumn {
     std::string title;
-    int width;  // twips
+    int width;                 // twips
+    std::string toolTip = {};  // of the title
 };
 
 enum class ListSortOrder { Rising = 0, Falling = 1 };
@@ -75,6 +78,7 @@ class ListView : public Control {
     // While the list has rows and none is selected it is the first one.
     ListItem SelectedItem() const;
     void SetSelectedItem(const ListItem& item);  // and brings it into sight
+    void EnsureVisible(const ListItem& item);
 
     // Rows show sorted as text by the column of the key while Sorted is on; when it goes off they
     // stay in the order they have.

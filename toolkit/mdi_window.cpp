@@ -7,10 +7,10 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
-#include <QPointer>
 #include <QScreen>
 #include <QShortcut>
 #include <QStatusBar>
+#include <vector>
 
 #include "toolkit/access_keys.h"
 #include "toolkit/shown_text.h"
@@ -79,6 +79,29 @@ void FillWindowList(QMdiArea& area, Menu& menu) {
         menu.Add("(No window is open)", "", [] {}).SetEnabled(false);
 }
 
+struct KeptChild {
+    QString form;
+    QRect place;
+    WindowState state;
+};
+
+QMdiSubWindow* ChildNamed(const QMdiArea& area, const QString& form) {
+    for (QMdiSubWindow* child : area.subWindowList())
+        if (child->objectName() == form && !child->isHidden())
+            return child;
+    return nullptr;
+}
+
+void PutBack(const QMdiArea& area, const KeptChild& kept) {
+    QMdiSubWindow* child = ChildNamed(area, kept.form);
+    if (!child)
+        return;
+    SetStateOf(*child, kept.state);
+    if (kept.state == WindowState::Normal)
+        child->setGeometry(kept.place);
+    child->raise();
+}
+
 }  // namespace
 
 MdiWindow::MdiWindow(const std::string& caption) {
@@ -138,16 +161,17 @@ Menu MdiWindow::AddWindowList(const std::string& caption) {
     return menu;
 }
 
-std::function<void()> MdiWindow::KeptOrder() const {
-    QList<QPointer<QMdiSubWindow>> order;
-    for (QMdiSubWindow* child : Area().subWindowList(QMdiArea::StackingOrder))
-        order.append(child);
-    return [order, area = &Area(), front = QPointer(Area().activeSubWindow())] {
-        for (const auto& child : order)
-            if (child)
-                child->raise();
-        if (front)
-            area->setActiveSubWindow(front);
+std::function<void()> MdiWindow::KeptWindows() const {
+    std::vector<KeptChild> kept;
+    for (const QMdiSubWindow* child : Area().subWindowList(QMdiArea::StackingOrder))
+        if (!child->isHidden())
+            kept.push_back({child->objectName(), child->geometry(), StateOf(*child)});
+    const QMdiSubWindow* active = Area().activeSubWindow();
+    return [kept, area = &Area(), front = active ? active->objectName() : QString()] {
+        for (const KeptChild& child : kept)
+            PutBack(*area, child);
+        if (QMdiSubWindow* child = ChildNamed(*area, front))
+            area->setActiveSubWindow(child);
     };
 }
 

@@ -36,8 +36,9 @@ class MdiWindow : public Placement {
     // A menu of the child windows in sight; choosing one brings it to the front.
     Menu AddWindowList(const std::string& caption);
 
-    // Puts the child windows back into the order in which they stand now, the front one in front.
-    std::function<void()> KeptOrder() const;
+    // Puts the child windows back into the order, the places and the states that they have now, the
+    // front one in front; also those that were unloaded and loaded again meanwhile.
+    std::function<void()> KeptWindows() const;
 
     // The line below the desktop: the latest event at the left, a summary at the right.
     void SetEvent(const std::string& text);

@@ -41,6 +41,11 @@ QImage Scaled(const QImage& picture, const QSize& size) {
     return picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
+double NextStop(const std::vector<double>& stops, double x, double tab) {
+    const auto stop = std::upper_bound(stops.begin(), stops.end(), x);
+    return stop == stops.end() ? (std::floor(x / tab) + 1) * tab : *stop;
+}
+
 }  // namespace
 
 Colour QBColor(int number) {
@@ -119,7 +124,7 @@ void PictureBox::Print(const std::string& text) {
     const QStringList parts = ShownText(text).split('\t');
     for (qsizetype i = 0; i < parts.size(); ++i) {
         if (i > 0)
-            CurrentX = (std::floor(CurrentX / tab) + 1) * tab;
+            CurrentX = NextStop(TabStops, CurrentX, tab);
         if (parts.at(i).isEmpty())
             continue;
         Add({Stroke::Kind::Text, CurrentX, CurrentY, 0, 0, ForeColor, parts.at(i).toStdString()});

@@ -32,6 +32,7 @@ class PictureBox : public Control, public Container {
     double CurrentX = 0;          // where the next text begins
     double CurrentY = 0;
     int TabWidth = 0;  // twips from one tab stop to the next; 0: eight average characters
+    std::vector<double> TabStops;  // rising, in twips; beyond the last of them TabWidth counts
 
     void SetBackColor(Colour colour);
     void SetBorder(bool shown);

@@ -46,8 +46,17 @@ void Printer::Print(double x, double y, const std::string& text) {
     if (failed_)
         return;
     const double dots = printer_->resolution() / MillimetresPerInch;
-    const double ascent = QFontMetricsF(painter_->font(), printer_.get()).ascent();
-    painter_->drawText(QPointF(x * dots, y * dots + ascent), ShownText(text));
+    const QString line = ShownText(text);
+    const QFontMetricsF metrics(painter_->font(), printer_.get());
+    const double wide = metrics.horizontalAdvance(line);
+    const double sheet = printer_->pageLayout().fullRect(QPageLayout::Millimeter).width();
+    const double room = (sheet - 2 * x) * dots;  // as much is free on the right as on the left
+    const double size = wide > room && room > 0 ? room / wide : 1;
+    painter_->save();
+    painter_->translate(x * dots, y * dots + metrics.ascent());
+    painter_->scale(size, size);
+    painter_->drawText(QPointF(), line);
+    painter_->restore();
 }
 
 bool Printer::EndDoc() {

@@ -26,7 +26,8 @@ class Printer {
 
     // Begins a page, the first one too.
     void NewPage(Orientation orientation);
-    // x and y of the text's top left corner, in millimetres.
+    // x and y of the text's top left corner, in millimetres. A text too long for the sheet, with
+    // the same margin on the right, is printed in a smaller size.
     void Print(double x, double y, const std::string& text);
     // Whether the printer took the document.
     [[nodiscard]] bool EndDoc();

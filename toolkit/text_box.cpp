@@ -2,6 +2,7 @@
 
 #include <QFocusEvent>
 #include <QLineEdit>
+#include <QPalette>
 #include <QValidator>
 
 #include "toolkit/shown_text.h"
@@ -38,9 +39,31 @@ TextBox::TextBox(Container& parent, const std::string& text)
     : Control(new QLineEdit(ShownText(text), parent.Canvas())), given_(text) {
     Control::Resize(ToPixels(1215), ToPixels(345));
     QObject::connect(&Inner(*this), &QLineEdit::textChanged, [this] {
+        ShowRemark();
         if (Change)
             Change();
     });
+}
+
+void TextBox::ShowRemark() {
+    const std::string remark = Remark ? Remark(Text()) : "";
+    if (remark == remark_)
+        return;
+    QLineEdit& edit = Inner(*this);
+    QString tip = edit.toolTip();
+    if (!remark_.empty())
+        tip.chop(QString::fromStdString(remark_).size());
+    else if (!tip.isEmpty())
+        tip += '\n';
+    remark_ = remark;
+    if (remark.empty() && tip.endsWith('\n'))
+        tip.chop(1);
+    edit.setToolTip(tip + QString::fromStdString(remark));
+    edit.setAccessibleDescription(QString::fromStdString(remark));
+    QPalette palette;
+    if (!remark.empty())
+        palette.setColor(QPalette::Base, QColor(0xffe9a8));
+    edit.setPalette(palette);
 }
 
 std::string TextBox::Text() const {

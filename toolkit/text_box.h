@@ -14,6 +14,9 @@ class TextBox : public Control {
 
     // The text became another one, by the user or by code.
     std::function<void()> Change;
+    // What is to be said about a new text; empty if nothing is. The box is tinted while there is
+    // something, and shows it under the pointer, after the tip that the box has anyway.
+    std::function<std::string(const std::string& text)> Remark;
 
     // While the box shows the text that it was given, the very bytes of that text; else UTF-8.
     std::string Text() const;
@@ -38,9 +41,11 @@ class TextBox : public Control {
 
   private:
     bool OnMouse(QEvent& event);
+    void ShowRemark();
 
     std::string given_;
     bool entering_ = false;  // the focus comes by the click that is under way
+    std::string remark_;
     bool dragging_ = false;  // that click was swallowed, its moves are as well
 };
 

@@ -12,8 +12,13 @@ namespace trabeon {
 /// Which result a diagram or a table shows: &StationRow::moment or &StationRow::shear.
 using StationField = std::string_view StationRow::*;
 
+/// A row of the station file on a diagram.
 struct CurvePoint {
-    double x, value;
+    double x;                 // on the diagram's axis
+    double value;             // with the sign of the file
+    std::size_t member, row;  // the row's member, and its place among that member's rows, from 1
+    double distance;          // from the member's left joint
+    bool isMaximum;           // the row of the member's greatest moment
 };
 
 /// The end of a member on the axis: joint `left` to the left of it, joint `right` to the right.
@@ -24,20 +29,30 @@ struct CurveJoint {
     std::size_t left, right;
 };
 
-/// The points with the signs of the file, as far as the file goes.
+/// The points as far as the file goes.
 struct DiagramCurve {
     std::vector<CurvePoint> points;
-    std::vector<CurveJoint> joints;  // none for a single span
-    bool whole = false;              // the file had every row of every member asked for
+    std::vector<CurveJoint> joints;  // those that the file reaches; none for a single span
+    bool whole = false;              // the file had every row of every member asked for, no more
+    /// The points where the greatest and the least value belong, from 0; 0 without points. Of rows
+    /// that round to the same value it is the maximum of a member, else the end of a member, else
+    /// the middle one.
+    std::size_t greatest = 0, least = 0;
+};
+
+/// The result files of an analysis.
+struct ResultTexts {
+    std::string_view stations;  // "BM.txt"
+    std::string_view maxima;    // "BMMax.txt"; without it no point is a maximum
 };
 
 /// One member, from 1, over the distance from its left joint.
-[[nodiscard]] DiagramCurve spanCurve(std::string_view stations, std::size_t rowsPerMember,
+[[nodiscard]] DiagramCurve spanCurve(const ResultTexts& results, std::size_t rowsPerMember,
                                      StationField field, std::size_t member);
 
-/// Members, by rising number, laid end to end, one behind the other whatever stands between them
-/// on the beam. At the end of each but the last two points share an x.
-[[nodiscard]] DiagramCurve beamCurve(std::string_view stations, std::size_t rowsPerMember,
+/// Members, by rising number, laid end to end whatever lies between them on the beam. At the end of
+/// each but the last two points share an x.
+[[nodiscard]] DiagramCurve beamCurve(const ResultTexts& results, std::size_t rowsPerMember,
                                      StationField field, const std::vector<std::size_t>& members);
 
 }  // namespace trabeon

@@ -42,6 +42,13 @@ bool StationReader::passRow() {
     return whole;
 }
 
+bool StationReader::endsMember() const {
+    if (ended_ || member_ == 0 || section_ != rowsPerMember_)
+        return false;
+    auto ahead = *this;
+    return ahead.reader_.atEnd() || ahead.passHeading();
+}
+
 std::vector<StationRow> stationRows(std::string_view text, std::size_t rowsPerMember,
                                     std::size_t member) {
     std::vector<StationRow> rows;

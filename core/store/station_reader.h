@@ -31,8 +31,12 @@ class StationReader {
     /// Steps to the next row. False: there is none.
     [[nodiscard]] bool next();
 
-    /// Whether the text ends behind the row.
+    /// Whether the text ends after the row.
     [[nodiscard]] bool atEnd() const { return reader_.atEnd(); }
+
+    /// Whether the row is the last of its member, and a heading or the end of the text follows. If
+    /// a row follows instead, the member has more rows than expected.
+    [[nodiscard]] bool endsMember() const;
 
     [[nodiscard]] const StationRow& row() const { return row_; }
     /// The member of the row, from 1, by the place of its block.

@@ -1,5 +1,8 @@
 #include "forms/design/frmBeamDesign.h"
 
+#include <algorithm>
+#include <array>
+
 #include "core/design/design_results.h"
 #include "core/design/notes.h"
 #include "core/text/number_text.h"
@@ -9,9 +12,12 @@ namespace {
 
 constexpr Colour darkRed = 0xA61B1B;
 
-bool hasFailed(const DesignRow& row) {
-    return note::holds(row.DefNote, note::shearFailed) ||
-           note::holds(row.DefNote, note::deflectionFailed);
+/// Whether the section has failed, or the design could not do it.
+bool needsTheUser(const DesignRow& row) {
+    constexpr std::array notes{note::shearFailed, note::deflectionFailed, note::noData,
+                               note::manualCalculation};
+    return std::any_of(notes.begin(), notes.end(),
+                       [&](auto words) { return note::holds(row.DefNote, words); });
 }
 
 }  // namespace
@@ -38,7 +44,7 @@ void frmBeamDesign::AddtoListbox() {
         auto item = ListView1.ListItems.Add(generatedText(leadingNumber(row.Member)));
         for (std::size_t n = 1; n < DesignRow::fields.size(); ++n)
             item.SetSubItems(static_cast<int>(n), row.*DesignRow::fields[n]);
-        if (hasFailed(row)) {
+        if (needsTheUser(row)) {
             item.SetForeColor(darkRed);
             item.SetWarningSign(true);
         }

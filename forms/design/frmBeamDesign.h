@@ -18,19 +18,19 @@ class frmBeamDesign : public Form {
 
     ListView ListView1{*this,
                        {{"Member", 690},
-                        {"x", 465},
-                        {"As req", 435},
-                        {"As'req", 570},
-                        {"As prov", 450},
-                        {"As'prov", 600},
-                        {"Max Rein", 450},
-                        {"Reinf", 1215},
-                        {"As/sv req", 495},
-                        {"As/sv prov", 495},
-                        {"Reinf", 900},
-                        {"Def Actual", 510},
-                        {"Def Allow", 480},
-                        {"Def Note", 1500}}};
+                        {"x", 465, "Distance from the left joint of the member, m"},
+                        {"As req", 435, "Tension steel required, mm2"},
+                        {"As'req", 555, "Compression steel required, mm2"},
+                        {"As prov", 450, "Tension steel provided, mm2"},
+                        {"As'prov", 585, "Compression steel provided, mm2"},
+                        {"Max Rein", 525, "Greatest area of steel allowed, mm2"},
+                        {"Reinf", 1215, "Bars: number, kind and diameter in mm"},
+                        {"As/sv req", 495, "Links required: area to spacing, mm2/mm"},
+                        {"As/sv prov", 495, "Links provided: area to spacing, mm2/mm"},
+                        {"Reinf", 900, "Links: kind, diameter and spacing in mm"},
+                        {"Def Actual", 510, "Span to effective depth ratio of the member"},
+                        {"Def Allow", 480, "Greatest span to effective depth ratio allowed"},
+                        {"Def Note", 1455}}};
 
   protected:
     void Form_Load() override;

@@ -38,6 +38,7 @@ frmBeamDimensions::frmBeamDimensions(Context& context)
     ListView1.ColumnClick = nullptr;  // the list always stands in order of the members
     cmdRemove.SetEnabled(false);
     optUniform_Click();
+    rows_.RowShown = [this](ListItem item, const BeamDimensionRow& row) { rowShown(item, row); };
 
     optUniform.Click = [this] { optUniform_Click(); };
     optVary.Click = [this] { optVary_Click(); };
@@ -93,6 +94,7 @@ void frmBeamDimensions::wireBoxes() {
                 next->SetFocus();
         };
     }
+    remarkOnNumbers({&txtBreadth, &txtDepth, &txtEffDepth, &txtfcu, &txtfy, &txtYM, &txtfyv});
     txtfyv.Change = [this] { txtfyv_Change(); };
 }
 
@@ -116,6 +118,28 @@ void frmBeamDimensions::Form_Resize() {
 
 double frmBeamDimensions::divisions() const {
     return optionsInTheBackground(context_).Settings().Divisions;
+}
+
+/// The design uses the first row of a section: others are grey.
+void frmBeamDimensions::rowShown(ListItem item, const BeamDimensionRow& row) {
+    constexpr Colour grey = 0x8a8a8a;
+    if (item.FilePosition() == 1)
+        sectionsShown_.clear();
+    if (sectionsShown_.insert({leadingNumber(row.Member), leadingNumber(row.Section)}).second)
+        return;
+    item.SetForeColor(grey);
+    item.SetToolTip("Not used: the design takes the first row of this member and section.");
+}
+
+void frmBeamDimensions::bringInSight(const BeamDimensionRow& row) {
+    for (int i = ListView1.ListItems.Count(); i >= 1; --i) {
+        const auto item = ListView1.ListItems(i);
+        if (item.Text() == "Member " + row.Member && item.SubItems(1) == row.Section &&
+            item.SubItems(2) == row.b) {
+            ListView1.EnsureVisible(item);
+            return;
+        }
+    }
 }
 
 void frmBeamDimensions::sortList() {
@@ -161,13 +185,17 @@ void frmBeamDimensions::Adding(const SectionRange& SelectedSection, double MemLe
                                txtYM.Text(),
                                txtfyv.Text(),
                                lengthText(MemLen)};
+    auto lastAdded = row;
+    lastAdded.Section = std::to_string(SelectedSection.last);
     if (const auto failure = addDimensions(context_.folder, position, row, SelectedSection, order))
         warn(failure->sentence);
     ListView1.SetSorted(false);  // the last row of the file is looked for, not of the order shown
     rows_.Fill();
     rows_.SelectLast();
     sortList();
-    ListView1.SetSelectedItem(ListView1.SelectedItem());  // in sight where it stands now
+    ListView1.SetSelectedItem(ListView1.SelectedItem());  // in sight at its place in the order
+    if (order)
+        bringInSight(lastAdded);
 }
 
 void frmBeamDimensions::cmdRemove_Click() {

@@ -1,6 +1,9 @@
 // The size and the materials of each member at each of its sections, and the start of the design.
 #pragma once
 
+#include <set>
+#include <utility>
+
 #include "core/store/dimension_editing.h"
 #include "forms/input/row_editor.h"
 #include "toolkit/combo_box.h"
@@ -68,6 +71,8 @@ class frmBeamDimensions : public Form {
     void txtfyv_Change();
 
     void Adding(const SectionRange& SelectedSection, double MemLen);
+    void rowShown(ListItem item, const BeamDimensionRow& row);
+    void bringInSight(const BeamDimensionRow& row);
     void sortList();
     void placeControls();
     void wireBoxes();
@@ -75,6 +80,7 @@ class frmBeamDimensions : public Form {
 
     Context& context_;
     RowEditor<BeamDimensionRow> rows_;
+    std::set<std::pair<double, double>> sectionsShown_;  // member and section of the rows so far
 };
 
 }  // namespace trabeon

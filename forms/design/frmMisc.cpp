@@ -14,6 +14,7 @@ frmMisc::frmMisc(Context& context) : Form("Miscellaneous Properties") {
         box->GotFocus = [box = box] { box->SelectAll(); };
         takeNumbers(context, *box, {name, plainNumber, next});
     }
+    remarkOnNumbers({&txtCover, &txtLinks, &txthagg});
     cmdOK.Click = [this] { cmdOK_Click(); };
     SetTabOrder({&txtCover, &txtLinks, &txthagg, &chkrestrict, &cmdOK});
 }

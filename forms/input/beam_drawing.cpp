@@ -12,9 +12,10 @@ namespace {
 // Twips.
 constexpr double beamLeft = 100;
 constexpr double beamAboveBottom = 400;
-// A value is wider than one tab stop and narrower than two: so one tab behind it leads as far as
-// the two tabs behind its heading.
-constexpr int tabWidth = 450;
+// The headings print two tabs where the rows print one. So beside the stops at which the columns
+// begin there are some that only a heading reaches: a number is wider than the way to them.
+const std::vector<double> tabStops{500,  1000, 1250, 1700, 2000, 2500,
+                                   3100, 3600, 4050, 4350, 4800, 5100};
 
 void drawWall(PictureBox& picture, double x, double y) {
     picture.Line(x, y, x, y - 300);
@@ -77,7 +78,7 @@ void drawBeam(PictureBox& picture, double width, double height, const std::vecto
 }
 
 void printMembers(PictureBox& picture, const std::vector<MemberRow>& members) {
-    picture.TabWidth = tabWidth;
+    picture.TabStops = tabStops;
     picture.CurrentX = 0;
     picture.CurrentY = 100;
     picture.PrintLine("Member    E\t\t    I\t\t    L\t          Member\t    E\t\t    I\t\t    L");

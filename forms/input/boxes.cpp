@@ -28,6 +28,17 @@ double numberIn(const TextBox& box) {
     return leadingNumber(box.Text());
 }
 
+void remarkOnNumbers(std::initializer_list<TextBox*> boxes) {
+    for (TextBox* box : boxes)
+        box->Remark = [](const std::string& text) -> std::string {
+            const double number = leadingNumber(text);
+            if (text.empty() || numberOfWholeText(text) || !std::isfinite(number))
+                return {};
+            const auto plain = generatedText(number);
+            return "read as " + plain.substr(plain.front() == ' ' ? 1 : 0);
+        };
+}
+
 void zeroIfNone(TextBox& box) {
     if (numberIn(box) == 0)
         box.SetText("0");

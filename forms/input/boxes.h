@@ -21,6 +21,10 @@ void setNumber(TextBox& box, double value);
 /// The longest leading decimal number of what the box holds, 0 if there is none.
 [[nodiscard]] double numberIn(const TextBox& box);
 
+/// From now on each of the boxes says what number its text is read as where the text is not wholly
+/// one number: "1,200" is "read as 1". An empty box says nothing.
+void remarkOnNumbers(std::initializer_list<TextBox*> boxes);
+
 /// The text of the box becomes "0" if it reads as 0.
 void zeroIfNone(TextBox& box);
 

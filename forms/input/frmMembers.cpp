@@ -19,6 +19,7 @@ frmMembers::frmMembers(Context& context)
     cmdRemove.SetEnabled(false);
 
     wireNumberBoxes();
+    remarkOnNumbers({&txtYM, &txtMI, &txtLength});
     txtMemberD.GotFocus = [this] { txtMemberD_GotFocus(); };
     txtMemberD.KeyPress = [this](int& keyAscii) { txtMemberD_KeyPress(keyAscii); };
     for (TextBox* box : {&txtYM, &txtMI, &txtLength, &txtMemberD}) {

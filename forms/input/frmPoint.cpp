@@ -42,6 +42,7 @@ void frmPoint::wireBoxes() {
             context_.dataChanged = 1;
         };
     }
+    remarkOnNumbers({&txtPtA, &txtPtLoad});
     for (TextBox* box : {&txtPtA, &txtPtLoad})
         box->GotFocus = [box] { box->SelectAll(); };
     txtPtD.GotFocus = [this] { description_GotFocus(); };

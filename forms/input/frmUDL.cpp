@@ -54,6 +54,7 @@ void frmUDL::placeControls() {
 }
 
 void frmUDL::wireBoxes() {
+    remarkOnNumbers({&txtUdlA, &txtUDLB, &txtUDLw1, &txtUDLw2});
     for (TextBox* box : numberBoxes_) {
         box->SetKeepsToField(true);
         box->GotFocus = [box] { box->SelectAll(); };

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cmath>
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -42,6 +43,9 @@ class RowEditor {
         list_.ColumnClick = [this](int column) { ListView1_ColumnClick(column); };
     }
 
+    /// A row of the file was added to the list, to be coloured and the like.
+    std::function<void(ListItem item, const Row& row)> RowShown;
+
     /// Shows the rows of the file.
     void Fill() { Show(readRows<Row>(context_.folder)); }
 
@@ -52,6 +56,8 @@ class RowEditor {
             auto item = list_.ListItems.Add(kind_.noun + shownNumber(row.*Row::fields.front()));
             for (std::size_t n = 1; n < Row::fields.size(); ++n)
                 item.SetSubItems(static_cast<int>(n), row.*Row::fields[n]);
+            if (RowShown)
+                RowShown(item, row);
         }
     }
 

@@ -42,12 +42,11 @@ void ContinuousDiagram::cmdPlot_Click() {
     auto members = selectedMembers();
     if (members.empty())
         return;
-    const auto rows = rowsPerMember();
-    const auto count = rows * members.size();
+    const auto count = rowsPerMember() * members.size();
     const auto gone = std::upper_bound(members.begin(), members.end(), onTheBeam);
     const bool allThere = gone == members.end();
     members.erase(gone, members.end());
-    auto curve = beamCurve(stations(), rows, kind().field, members);
+    auto curve = beamOf(members);
     curve.whole = curve.whole && allThere;
     draw(curve, count, [&](std::size_t done) {
         progress.SetValue(100.0 * static_cast<double>(done) / static_cast<double>(count));

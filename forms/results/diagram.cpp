@@ -22,18 +22,28 @@ std::string labelOf(const CurveJoint& joint) {
     return std::to_string(joint.left) + ", " + std::to_string(joint.right);
 }
 
+/// Generated text without the blank in front.
+std::string plainText(double value) {
+    const auto text = generatedText(value);
+    return text.front() == ' ' ? text.substr(1) : text;
+}
+
+std::string readOutOf(const CurvePoint& point, const char* symbol) {
+    return "member " + std::to_string(point.member) + ", row " + std::to_string(point.row) +
+           ": x = " + plainText(point.distance) + ", " + symbol + " = " + plainText(point.value);
+}
+
 }  // namespace
 
-const DiagramKind momentDiagram{"Bending Moment vs. Span", "Bending moment",
-                                &StationRow::moment,       &frmOptions::lblMOption,
-                                "Sagging drawn upward",    "Sagging drawn downward"};
+const DiagramKind momentDiagram{
+    "Bending Moment vs. Span", "Bending moment",        "M",
+    &StationRow::moment,       &frmOptions::lblMOption, "Sagging drawn upward",
+    "Sagging drawn downward"};
 
-const DiagramKind shearDiagram{"Shear vs. Span",
-                               "Shear force",
-                               &StationRow::shear,
-                               &frmOptions::lblSOption,
-                               "Upward reactions step down",
-                               "Upward reactions step up"};
+const DiagramKind shearDiagram{
+    "Shear vs. Span",          "Shear force",           "V",
+    &StationRow::shear,        &frmOptions::lblSOption, "Upward reactions step down",
+    "Upward reactions step up"};
 
 Diagram::Diagram(Context& context, const char* caption, const DiagramKind& kind, const char* xTitle,
                  const char* reportCaption)
@@ -57,12 +67,20 @@ std::vector<std::string> Diagram::memberItems(const char* blanks) const {
     return items;
 }
 
-std::string Diagram::stations() const {
-    return readWhole(context_.folder / working_file::stations);
-}
-
 std::size_t Diagram::rowsPerMember() const {
     return stationRowsOf(optionsInTheBackground(context_).Settings().Divisions);
+}
+
+DiagramCurve Diagram::spanOf(std::size_t member) const {
+    const auto stations = readWhole(context_.folder / working_file::stations);
+    const auto maxima = readWhole(context_.folder / working_file::maxima);
+    return spanCurve({stations, maxima}, rowsPerMember(), kind_.field, member);
+}
+
+DiagramCurve Diagram::beamOf(const std::vector<std::size_t>& members) const {
+    const auto stations = readWhole(context_.folder / working_file::stations);
+    const auto maxima = readWhole(context_.folder / working_file::maxima);
+    return beamCurve({stations, maxima}, rowsPerMember(), kind_.field, members);
 }
 
 void Diagram::draw(const DiagramCurve& curve, std::size_t count,
@@ -73,15 +91,19 @@ void Diagram::draw(const DiagramCurve& curve, std::size_t count,
     chart.SetPointIndex(1);  // empties the chart, in case the file has not one row to draw
     chart.SetValueFactor(sign);
     chart.SetMarks(marksOf(curve));
+    chart.SetExtremes(pointCountOf(curve.greatest + 1), pointCountOf(curve.least + 1));
+    chart.SetPointText([points = curve.points, symbol = kind_.symbol](int index) {
+        return readOutOf(points[static_cast<std::size_t>(index - 1)], symbol);
+    });
     const char* side = isA ? kind_.sideA : kind_.sideB;
-    chart.SetNote(curve.whole ? side : "Incomplete: analyse again");
+    chart.SetNote(subject() + (curve.whole ? side : "Incomplete: analyse again"));
     std::size_t done = 0;
-    for (const auto& [x, value] : curve.points) {
+    for (const auto& point : curve.points) {
         chart.SetAutoAdvance(false);
         chart.SetPointCount(pointCountOf(count));
         chart.SetPointIndex(pointCountOf(++done));
-        chart.SetPointValue(sign * value);
-        chart.SetPointX(x);
+        chart.SetPointValue(sign * point.value);
+        chart.SetPointX(point.x);
         chart.SetDrawAction(DrawActions::Redraw);
         if (pointDone)
             pointDone(done);

@@ -11,7 +11,8 @@ namespace trabeon {
 /// What makes a moment diagram differ from a shear diagram.
 struct DiagramKind {
     const char* title;
-    const char* value;  // title of the value axis
+    const char* value;   // title of the value axis
+    const char* symbol;  // the value in the readout
     StationField field;
     Label frmOptions::*option;  // its caption tells which way up to draw
     const char* sideA;          // the same in plain words
@@ -34,8 +35,13 @@ class Diagram : public Form {
 
     /// "Member", `blanks` and the number, for each member of the beam.
     [[nodiscard]] std::vector<std::string> memberItems(const char* blanks) const;
-    [[nodiscard]] std::string stations() const;
     [[nodiscard]] std::size_t rowsPerMember() const;
+    /// The result files as they are now.
+    [[nodiscard]] DiagramCurve spanOf(std::size_t member) const;
+    [[nodiscard]] DiagramCurve beamOf(const std::vector<std::size_t>& members) const;
+
+    /// What the note begins with: the member, where the diagram is that of one.
+    [[nodiscard]] virtual std::string subject() const { return {}; }
 
     /// Gives the chart the curve point by point, of which `count` were asked for, and calls
     /// `pointDone` with the points so far.

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "core/text/number_text.h"
+#include "forms/input/boxes.h"
 #include "forms/main/status_line.h"
 
 namespace trabeon {
@@ -42,6 +43,7 @@ frmOptions::frmOptions(Context& context) : Form("Plotting Options"), context_(co
     txtPlaces.Change = [this] { DisablePlot(context_); };
     for (auto* box : {&txtDivision, &txtPlaces})
         box->GotFocus = [box] { box->SelectAll(); };
+    remarkOnNumbers({&txtDivision});
     txtDivision.KeyPress = [this](int& keyAscii) { txtDivision_KeyPress(keyAscii); };
     cmdChangeM.Click = [this] { cmdChangeM_Click(); };
     cmdChangeS.Click = [this] { cmdChangeS_Click(); };

@@ -31,8 +31,18 @@ void SingleSpanDiagram::cmdPlot_Click() {
     const auto member = static_cast<std::size_t>(cboMember.ListIndex() + 1);
     if (member == 0)
         return;
-    const auto rows = rowsPerMember();
-    draw(spanCurve(stations(), rows, kind().field, member), rows);
+    draw(spanOf(member), rowsPerMember());
+}
+
+void SingleSpanDiagram::Empty() {
+    cboMember.SetListIndex(-1);
+    chart.SetPointCount(0);
+    chart.SetNote("");
+    openValueTable();
+}
+
+std::string SingleSpanDiagram::subject() const {
+    return cboMember.Text() + ". ";
 }
 
 void SingleSpanDiagram::openValueTable() {
@@ -40,7 +50,7 @@ void SingleSpanDiagram::openValueTable() {
     if (const auto* former = context().forms.PlaceOf(valueTable_))
         tablePlace_ = {former->Left(), former->Top()};
     context().forms.Unload(valueTable_);
-    context().forms.Show(valueTable_);
+    context().forms.ShowWithoutFocus(valueTable_);
 }
 
 }  // namespace trabeon

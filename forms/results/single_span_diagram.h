@@ -16,6 +16,9 @@ class SingleSpanDiagram : public Diagram {
     /// Left and top of the value table that the present plot took away.
     [[nodiscard]] std::optional<std::pair<int, int>> tablePlace() const { return tablePlace_; }
 
+    /// Shows no member's curve, as before the first choice; the value table is loaded anew.
+    void Empty();
+
   protected:
     SingleSpanDiagram(Context& context, const char* caption, const DiagramKind& kind,
                       const char* valueTable);
@@ -23,6 +26,7 @@ class SingleSpanDiagram : public Diagram {
     void Form_Load() override;
     void Form_Resize() override;
     void cmdPlot_Click() override;
+    [[nodiscard]] std::string subject() const override;
 
   private:
     void openValueTable();

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/store/maximum_rows.h"
 #include "core/store/working_files.h"
 #include "core/text/number_text.h"
 
@@ -37,11 +38,25 @@ void ValueTable::Form_Load() {
     }
     const auto rows = stationRowsOf(optionsInTheBackground(context_).Settings().Divisions);
     ListView1.ListItems.Clear();
-    const auto text = readWhole(context_.folder / working_file::stations);
-    const auto member = static_cast<std::size_t>(std::max(1, diagram().cboMember.ListIndex() + 1));
-    for (const auto& row : stationRows(text, rows, member))
-        ListView1.ListItems.Add(distanceText(row.x)).SetSubItems(1, std::string(row.*field_));
+    fill(rows);
     ListView1.SetGridLines(true);
+}
+
+void ValueTable::fill(std::size_t rowsPerMember) {
+    const auto stations = readWhole(context_.folder / working_file::stations);
+    const auto records = readWhole(context_.folder / working_file::maxima);
+    const MaximumRows maxima(records);
+    const auto member = static_cast<std::size_t>(std::max(1, diagram().cboMember.ListIndex() + 1));
+    bool marked = false;
+    for (const auto& row : stationRows(stations, rowsPerMember, member)) {
+        auto item = ListView1.ListItems.Add(distanceText(row.x));
+        item.SetSubItems(1, std::string(row.*field_));
+        if (marked || !maxima.contain(member, row))
+            continue;
+        item.SetMark("max");
+        item.SetToolTip("The row of the member's maximum bending moment");
+        marked = true;
+    }
 }
 
 void ValueTable::Form_Resize() {

@@ -22,6 +22,9 @@ class ValueTable : public Form {
     [[nodiscard]] Context& context() const { return context_; }
 
   private:
+    /// The rows of the member; the one of the maximum is marked.
+    void fill(std::size_t rowsPerMember);
+
     Context& context_;
     StationField field_;
 };

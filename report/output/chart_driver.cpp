@@ -21,7 +21,7 @@ std::vector<bool> selectionOf(const ListBox& list) {
 }  // namespace
 
 ChartDriver::ChartDriver(Context& context)
-    : context_(context), restores_{context.forms.Window().KeptOrder()} {}
+    : context_(context), restores_{context.forms.Window().KeptWindows()} {}
 
 ChartDriver::~ChartDriver() {
     for (auto restore = restores_.rbegin(); restore != restores_.rend(); ++restore)
@@ -45,8 +45,12 @@ void ChartDriver::takeSingleSpan() {
     auto& form = take<Form>();
     if (!wasLoaded)
         return;
-    restores_.emplace_back(
-        [&form, member = form.cboMember.ListIndex()] { form.cboMember.SetListIndex(member); });
+    restores_.emplace_back([&form, member = form.cboMember.ListIndex()] {
+        if (member < 0)
+            form.Empty();
+        else
+            form.cboMember.SetListIndex(member);
+    });
 }
 
 int ChartDriver::ShowSingleSpan() {

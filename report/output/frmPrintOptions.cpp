@@ -103,6 +103,8 @@ void frmPrintOptions::output() {
     {
         const WaitCursor wait;
         ChartDriver charts(context_);
+        if (!context_.forms.IsLoaded(frmTitle::Name))
+            context_.forms.Get<frmTitle>().Hide();
         const OutputSource source{
             context_.folder, title(),
             static_cast<int>(optionsInTheBackground(context_).Settings().Divisions), charts};

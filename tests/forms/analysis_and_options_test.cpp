@@ -138,6 +138,20 @@ TEST_F(Options, EachChangeWithdrawsTheResultsAtOnceAndTurnsItsConvention) {
               "103Option B");
 }
 
+TEST_F(Options, TheKeysOfTheConventionsLeadToTheirButtonsAndSpacePresses) {
+    ShowResults();
+    Open<frmOptions>();
+    for (auto [key, button] :
+         {std::pair{Qt::Key_B, &options.cmdChangeM}, {Qt::Key_S, &options.cmdChangeS}}) {
+        Alt(key);
+        EXPECT_TRUE(button->HasFocus());
+        EXPECT_EQ(options.lblMOption.Caption() + options.lblSOption.Caption(), "Option BOption B");
+    }
+    EXPECT_TRUE(ResultsStand());
+    Key(Qt::Key_Space);
+    EXPECT_EQ(options.lblSOption.Caption(), "Option A");
+}
+
 TEST_F(Options, DivisionTakesDigitsAndPointsAndIsAtLeastTen) {
     for (const auto& [typed, becomes] : {std::pair{"9", "10"},
                                          {"", "10"},

@@ -68,6 +68,49 @@ TEST_F(BeamDimensions, AVaryingSectionLandsInItsPlaceAndADuplicateBehindTheFirst
     form.txtBreadth.SetText("200");
     Vary(form, 1, 2);
     EXPECT_EQ(Shown(form.ListView1, 3), "z|200|300|y|x");
+    const auto unused = [&] {
+        std::string rows;
+        for (int i = 0; i < Tree(form.ListView1).topLevelItemCount(); ++i)
+            if (Tree(form.ListView1).topLevelItem(i)->toolTip(0).startsWith("Not used"))
+                rows += std::to_string(i + 1);
+        return rows;
+    };
+    EXPECT_EQ(unused(), "2");
+    EXPECT_EQ(Tree(form.ListView1).topLevelItem(1)->foreground(4).color(), QColor(0x8a8a8a));
+    DoubleClickRow(form.ListView1, 1);  // the first goes, the second takes its place
+    EXPECT_EQ(unused(), "");
+}
+
+TEST_F(BeamDimensions, TheSectionThatWasAddedIsInSight) {
+    auto& form = OpenWith(Lines(1, 1, 12) + Lines(2, 1, 12));
+    form.txtBreadth.SetText("200");
+    Vary(form, 1, 3);
+    EXPECT_TRUE(
+        Tree(form.ListView1)
+            .viewport()
+            ->rect()
+            .contains(Tree(form.ListView1).visualItemRect(Tree(form.ListView1).topLevelItem(3))));
+}
+
+TEST_F(BeamDimensions, ANumberBoxSaysWhatItIsReadAs) {
+    auto& form = OpenWith("");
+    TextBox& box = form.txtBreadth;
+    const QColor plain = box.Widget()->palette().color(QPalette::Base);
+    for (const auto& [text, remark] : {std::pair{"1,200", "\nread as 1"},
+                                       {"2e2x", "\nread as 200"},
+                                       {"-", "\nread as 0"},
+                                       {"1.2.3", "\nread as 1.2"},
+                                       {"1.", ""},
+                                       {" 28e6", ""},
+                                       {"x", "\nread as 0"},
+                                       {"", ""}}) {
+        box.SetFocus();
+        box.SelectAll();
+        box.SetText("");
+        Paste(text);
+        EXPECT_EQ(box.Widget()->toolTip().toStdString(), std::string("Breadth b, mm") + remark);
+        EXPECT_EQ(box.Widget()->palette().color(QPalette::Base) != plain, *remark != 0) << text;
+    }
 }
 
 TEST_F(BeamDimensions, WhatIsNotChosenIsWrittenAsZeroAndLeftOutWhenPutInOrder) {
@@ -102,6 +145,23 @@ TEST_F(BeamDimensions, ARowRefersToItsLineWithTenMembersAndMore) {
     Add(form, 10);
     EXPECT_TRUE(File().starts_with(Lines(1, 1, 1) + Lines(2, 1, 1) + "10,1,3"));
     EXPECT_EQ(form.ListView1.SelectedItem().Text(), "Member  10");
+}
+
+TEST_F(BeamDimensions, AltALeadsToAddFirstAndPressedAgainAtOnceToRemoveAll) {
+    auto& form = OpenWith(Lines(1, 1, 1));
+    for (Control* from :
+         std::initializer_list<Control*>{&form.txtfy, &form.Command1, &form.cmdAdd, &form.txtYM}) {
+        from->SetFocus();
+        Key(Qt::Key_Shift);
+        Alt(Qt::Key_A);
+        EXPECT_TRUE(form.cmdAdd.HasFocus());
+    }
+    Key(Qt::Key_Space);
+    Alt(Qt::Key_A);
+    EXPECT_TRUE(form.cmdAdd.HasFocus()) << "not at Remove All, which Space would press";
+    Alt(Qt::Key_A);
+    EXPECT_TRUE(form.Command1.HasFocus());
+    EXPECT_TRUE(File().starts_with(Lines(1, 1, 1)));
 }
 
 TEST_F(BeamDimensions, ADoubleClickRemovesAndTitlesDoNotSort) {

@@ -73,6 +73,17 @@ TEST_F(DesignWindows, WhatFailedStandsOutAndTheNextRunStartsPlain) {
     EXPECT_EQ(Marked(results), 12);
 }
 
+TEST_F(DesignWindows, WhatTheDesignCouldNotDoStandsOutToo) {
+    auto& results = Open<frmBeamDesign>();
+    for (const auto& [words, marked] : {std::pair{"No Data", 1},
+                                        {"Shear OKPlease Provide Manual Calculation", 1},
+                                        {"Shear OK Def. OK", 0}}) {
+        folder.write("DResult.txt", std::string(" 1, 0, 0, 0, 0, 0, 0,, 0, 0,, 0, 0,") + words);
+        results.AddtoListbox();
+        EXPECT_EQ(Marked(results), marked) << words;
+    }
+}
+
 TEST_F(DesignWindows, ColumnsAreReadAtTheWindowsSizeAndRowsAreCopied) {
     OpenExample("five-span-with-cantilever");
     const auto& results = Design();
@@ -83,6 +94,8 @@ TEST_F(DesignWindows, ColumnsAreReadAtTheWindowsSizeAndRowsAreCopied) {
             EXPECT_LE(tree.fontMetrics().horizontalAdvance(tree.topLevelItem(i)->text(column)) + 6,
                       tree.columnWidth(column))
                 << tree.topLevelItem(i)->text(column).toStdString();
+    EXPECT_LE(tree.fontMetrics().horizontalAdvance(" 99999") + 6, tree.columnWidth(6));
+    EXPECT_TRUE(tree.headerItem()->toolTip(6).endsWith("mm2"));
     ClickRow(results.ListView1, 1);
     Key(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(outside.clipboardText.substr(0, 4), "1\t0\t");

@@ -58,11 +58,16 @@ TEST_F(Diagram, TheTableRunsTwoMembersToALineUnderItsHeadings) {
               "4.00E+00| 2 |2.50E+04|5.00E-01|6.00E+00| 3 |1e999|1.00E+00|1.00E+01|");
     EXPECT_EQ(std::pair(texts[0].x1, texts[0].y1), std::pair(0.0, 100.0));
     const QFontMetricsF metrics(diagram.picContBeam.Widget()->font());
-    const double blank = metrics.horizontalAdvance(" ") * TwipsPerPixel;
-    const double number = metrics.horizontalAdvance("2.00E+02") * TwipsPerPixel;
-    for (const std::size_t column : {1, 2, 4, 5, 6}) {  // a heading's letter above its value
-        const double letter = texts[column].x1 + 4 * blank;
-        EXPECT_NEAR(letter, texts[column + 8].x1 + number / 2, number / 2) << column;
+    const auto wide = [&](const std::string& text) {
+        return metrics.horizontalAdvance(QString::fromStdString(text)) * TwipsPerPixel;
+    };
+    const double number = wide("2.00E+02");
+    for (const std::size_t heading : {1, 2, 3, 4, 5, 6}) {  // above the middle of its value
+        const auto &above = texts[heading], &below = texts[heading + 8];
+        const auto blanks = above.text.find_first_not_of(' ');
+        const double middle =
+            above.x1 + (wide(above.text.substr(0, blanks)) + wide(above.text)) / 2;
+        EXPECT_NEAR(middle, below.x1 + wide(below.text) / 2, number / 4) << above.text;
     }
     EXPECT_EQ(texts[7].y1, texts[14].y1);
     EXPECT_GT(texts[15].y1, texts[14].y1);

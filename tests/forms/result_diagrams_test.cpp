@@ -74,8 +74,9 @@ class ResultDiagrams : public EditorTest {
     /// What a chart must hold of members that are laid end to end.
     Points Expected(const Numbers& members, StationField field, double sign) {
         Points points;
-        for (const auto& [x, value] : beamCurve(folder.read("BM.txt"), 12, field, members).points)
-            points.push_back({x, sign * value});
+        const auto file = folder.read("BM.txt");
+        for (const auto& point : beamCurve({file, ""}, 12, field, members).points)
+            points.push_back({point.x, sign * point.value});
         return points;
     }
     static std::string Marks(const Graph& chart) {
@@ -102,13 +103,14 @@ TEST_F(ResultDiagrams, HoldTheFilesRowsByTheOptions) {
         }
         EXPECT_EQ(MomentOf(5), Expected({5}, moment, sign));
         EXPECT_EQ(ShearOf(5), Expected({5}, shear, sign));
-        for (const Graph* chart : {&WholeMoment().GraphCMoment, &Moment().GraphMoment1}) {
-            EXPECT_EQ(chart->ValueFactor(), sign);
-            EXPECT_EQ(chart->Note(), sign > 0 ? "Sagging drawn upward" : "Sagging drawn downward");
-        }
-        for (const Graph* chart : {&WholeShear().GraphCshear, &Shear().GraphShear1})
-            EXPECT_EQ(chart->Note(),
-                      sign > 0 ? "Upward reactions step down" : "Upward reactions step up");
+        const std::string sagging = sign > 0 ? "Sagging drawn upward" : "Sagging drawn downward";
+        const std::string steps =
+            sign > 0 ? "Upward reactions step down" : "Upward reactions step up";
+        EXPECT_EQ(WholeMoment().GraphCMoment.ValueFactor(), sign);
+        EXPECT_EQ(WholeMoment().GraphCMoment.Note(), sagging);
+        EXPECT_EQ(WholeShear().GraphCshear.Note(), steps);
+        EXPECT_EQ(Moment().GraphMoment1.Note(), "Member 5. " + sagging);
+        EXPECT_EQ(Shear().GraphShear1.Note(), "Member 5. " + steps);
     }
     SetOptions("Option B", "Option A");  // each follows its own
     EXPECT_EQ(MomentOf(1), Expected({1}, moment, -1));
@@ -124,6 +126,22 @@ TEST_F(ResultDiagrams, JointsAreMarkedAlsoWhereMembersMeetThatAreNoNeighbours) {
               "0.00 Joint 1; 6.00 2; 13.5 3; 18.5 4; 24.5 5; 26.5 6; ");
     Select(WholeMoment(), {1, 3});
     EXPECT_EQ(Marks(WholeMoment().GraphCMoment), "0.00 Joint 1; 6.00 2, 3; 11.0 4; ");
+}
+
+TEST_F(ResultDiagrams, LabelAndReadTheRowsOfTheFileAsTheyAre) {
+    // One span of 6, both ends fixed, whose maximum lies between two stations that round alike.
+    folder.write("BM.txt",
+                 "Span 1 \r\n0.00E+00,-2.00E+02,-1.00E+02\r\n2.40E+00,1.03E+02,-1.00E+01\r\n"
+                 "2.55E+00,1.03E+02,0.00E+00\r\n3.00E+00,1.03E+02,4.00E+01\r\n"
+                 "5.40E+00,-2.00E+02,9.00E+01\r\n6.00E+00,-2.00E+02,1.00E+02\r\n");
+    folder.write("BMMax.txt", "Span # 1 \r\n 2.5518 ,1.03E+02,0.00E+00\r\n");
+    forms().Get<frmOptions>().txtDivision.SetText("4");
+    MomentOf(1);
+    auto& chart = Moment().GraphMoment1;
+    EXPECT_EQ(chart.GreatestLabel() + ", " + chart.LeastLabel(), "103 at 2.55, -200 at 0");
+    Settle();
+    QTest::mouseMove(chart.Widget(), chart.Widget()->rect().center() + QPoint(20, 0));
+    EXPECT_EQ(chart.ReadOut(), "member 1, row 4: x = 3, M = 103");
 }
 
 TEST_F(ResultDiagrams, PlotOnAUsersChoiceAndWithNoneTheChartStays) {
@@ -148,8 +166,12 @@ TEST_F(ResultDiagrams, PlotOnAUsersChoiceAndWithNoneTheChartStays) {
     EXPECT_EQ(single.GraphMoment1.PointCount(), 0);
     EXPECT_EQ(Line(forms().Get<frmBMData>().ListView1, 1), " 0|-3.17E+01");  // the first member
     single.cboMember.SetFocus();
-    Press(single.cboMember, Qt::Key_Down);
-    EXPECT_EQ(single.GraphMoment1.Points(), Expected({1}, moment, -1));
+    for (const std::size_t member : {1, 2, 3}) {
+        Key(Qt::Key_Down);  // the value table that opens leaves the focus in the list
+        EXPECT_EQ(single.GraphMoment1.Points(), Expected({member}, moment, -1));
+        Settle();
+    }
+    EXPECT_TRUE(forms().Get<frmBMData>().Visible());
 }
 
 TEST_F(ResultDiagrams, FollowAChangeOfTheMemberCount) {
@@ -188,6 +210,20 @@ TEST_F(ResultDiagrams, LayoutFollowsTheWindowAndNeverGoesBelowZero) {
     ExpectBounds(single.cboMember, 2450, 5530, 1650, single.cboMember.Height());
     single.Move(0, 0, 0, 0);
     EXPECT_EQ(single.GraphMoment1.Height(), 0);
+}
+
+TEST_F(ResultDiagrams, BothTablesMarkTheRowOfTheMaximum) {
+    MomentOf(2);
+    ShearOf(2);
+    for (const ListView* table :
+         {&forms().Get<frmBMData>().ListView1, &forms().Get<frmSData>().ListView1}) {
+        std::string marked;
+        for (int row = 0; row < Tree(*table).topLevelItemCount(); ++row)
+            if (Tree(*table).topLevelItem(row)->toolTip(0).contains("maximum"))
+                marked += std::to_string(row + 1) + Line(*table, row + 1);
+        EXPECT_EQ(marked, table == &forms().Get<frmBMData>().ListView1 ? "6 3.63|1.65E+02"
+                                                                       : "6 3.63|1.15E-03");
+    }
 }
 
 TEST_F(ResultDiagrams, EachPlotOpensTheValueTableAnewWhereItStood) {
@@ -231,7 +267,7 @@ TEST_F(ResultDiagrams, AFileThatIsShortOrOfOtherDivisionsIsNotReadAskew) {
     folder.write("BM.txt", text.substr(0, cut));
     EXPECT_EQ(ShearOf(2), Points(whole.begin(), whole.begin() + 5));
     EXPECT_EQ(Shear().GraphShear1.PointCount(), 12);
-    EXPECT_EQ(Shear().GraphShear1.Note(), "Incomplete: analyse again");
+    EXPECT_EQ(Shear().GraphShear1.Note(), "Member 2. Incomplete: analyse again");
     EXPECT_TRUE(ShearOf(5).empty());  // nothing of it is there: no other member's curve stays
 
     forms().Get<frmOptions>().txtDivision.SetText("20");

@@ -5,8 +5,11 @@
 
 #include "forms/main/frmTitle.h"
 #include "forms/results/frmAnalysis.h"
+#include "forms/results/frmBMData.h"
+#include "forms/results/frmContinuousTB.h"
 #include "forms/results/frmMoment1.h"
 #include "tests/output/recording.h"
+#include "tests/support/other_programs.h"
 #include "tests/support/program_fixture.h"
 
 namespace trabeon::test {
@@ -86,6 +89,23 @@ TEST_F(PrintOptions, PrintsThePagesAsAFile) {
     EXPECT_EQ(Count(printed, "/MediaBox [0 0 595.000000 842.000000]"), 1);
 }
 
+TEST_F(PrintOptions, ALongTitleIsPrintedWholeWithinTheSheet) {
+    if (QStandardPaths::findExecutable("pdftotext").isEmpty())
+        GTEST_SKIP() << "needs poppler-utils";
+    auto& form = Open();
+    const std::string project(60, 'W'), designer(30, 'D');
+    forms().Get<frmTitle>().SetTitle({project, designer, "Beam"});
+    const auto pdf = (folder / "print.pdf").string();
+    outside.ExpectPrinter(project, pdf);
+    Click(form.cmdPrint);
+    const auto words = run("pdftotext", {"-bbox", QString::fromStdString(pdf), "-"}).out;
+    EXPECT_TRUE(words.contains(QString::fromStdString(project)));
+    EXPECT_TRUE(words.contains(QString::fromStdString(designer)));
+    const QRegularExpression right("xMax=.([0-9.]+)");
+    for (const auto& match : right.globalMatch(words))
+        EXPECT_LE(match.captured(1).toDouble(), 595 - 20 / 25.4 * 72 + 1);
+}
+
 TEST_F(PrintOptions, ADrawnBackPrintDoesNothingAndAFailedOneSaysSo) {
     auto& form = Open();
     outside.ExpectPrinter("Untitled", "");
@@ -117,21 +137,34 @@ TEST_F(PrintOptions, LotusSavesAndOpensTheWholeDocument) {
     EXPECT_EQ(program.window().State(), WindowState::Normal);
 }
 
-TEST_F(PrintOptions, AnOpenDiagramShowsItsMemberAgainBehindTheOptions) {
+TEST_F(PrintOptions, WindowsAreAsTheyWereWhenTheDocumentIsMade) {
     auto& form = Open();
     AnalyseExample();
+    const auto& area = program.window().Area();
+    const auto windows = [&] {
+        std::string all;
+        for (const auto* child : area.subWindowList(QMdiArea::StackingOrder))
+            if (child->isVisible())
+                all += child->objectName().toStdString() + ' ' +
+                       std::to_string(child->isMaximized() ? 0 : child->width()) + ", ";
+        return all + "in front " + area.activeSubWindow()->objectName().toStdString();
+    };
     auto& diagram = forms().Get<frmMoment1>();
-    diagram.cboMember.SetListIndex(0);
-    forms().Show("frmPrintOptions");
-    const auto* front = program.window().Area().activeSubWindow();
-    outside.ExpectSave("Save the Document", "");  // the user draws back: nothing is left
-    Click(form.cmdLotus);
-    EXPECT_EQ(program.window().Area().activeSubWindow(), front);
-    EXPECT_EQ(program.window().Area().subWindowList(QMdiArea::StackingOrder).last(), front);
-    ASSERT_EQ(forms().Loaded<frmMoment1>(), &diagram);
-    EXPECT_TRUE(diagram.Visible());
-    EXPECT_EQ(diagram.cboMember.ListIndex(), 0);
-    EXPECT_TRUE(forms().IsLoaded("frmBMData"));
+    for (const int member : {-1, 0}) {
+        diagram.cboMember.SetListIndex(member);
+        diagram.cmdPlot.Press();
+        forms().Get<frmBMData>().SetWidth(4500);
+        forms().Get<frmContinuousTB>().SetState(WindowState::Maximized);
+        for (const auto* front : {"frmPrintOptions", "frmBMData"}) {
+            forms().Show(front);
+            const auto before = windows();
+            outside.ExpectSave("Save the Document", "");  // the user draws back: nothing is left
+            form.cmdLotus.Press();
+            EXPECT_EQ(windows(), before);
+            EXPECT_EQ(diagram.cboMember.ListIndex(), member);
+            EXPECT_EQ(diagram.GraphMoment1.Points().empty(), member < 0);
+        }
+    }
     EXPECT_FALSE(forms().IsLoaded("frmShear1"));
 }
 

@@ -9,6 +9,7 @@
 #include "forms/results/frmContinuousTB.h"
 #include "forms/results/frmMoment1.h"
 #include "forms/results/frmShear1.h"
+#include "report/sent_pictures.h"
 #include "tests/report/report_fixture.h"
 
 namespace trabeon::test {
@@ -192,6 +193,32 @@ TEST_F(ReportEditor, TheWordProcessorGetsThePictureThatWasAddedLast) {
                          "\": open it in a word processor.");
     Click(Report().cmdWP);
     EXPECT_EQ(Widths(folder.read("Picture 2.rtf")), (std::vector<int>{100}));
+}
+
+TEST_F(ReportEditor, PicturesThatWereSentGoWhenTheWordProcessorHasReadThem) {
+    Add(200, 50);
+    for (const auto* name : {"Picture 1.rtf", "Picture 2.rtf", "Picture 3.rtf"}) {
+        outside.ExpectDocument((folder / name).string());
+        Click(Report().cmdWP);
+    }
+    folder.write("Picture 4.rtf", "the user's own");
+    std::filesystem::permissions(folder / "Picture 3.rtf", std::filesystem::perms::owner_write,
+                                 std::filesystem::perm_options::add);  // and saved
+    const auto left = [this] {
+        std::string numbers;
+        for (const auto& [name, text] : folder.contents())
+            if (name.starts_with("Picture"))
+                numbers += name[8];
+        return numbers;
+    };
+    const auto longAgo = std::filesystem::file_time_type::clock::now() - std::chrono::hours(2);
+    for (const auto* name : {"Picture 1.rtf", "Picture 3.rtf", "Picture 4.rtf"})
+        std::filesystem::last_write_time(folder / name, longAgo);
+    removeLentPictures(folder.path());
+    EXPECT_EQ(left(), "234") << "the second may not be read yet, the others are the user's";
+    std::filesystem::last_write_time(folder / "Picture 2.rtf", longAgo);
+    takeUpReport(context());  // as at the next start
+    EXPECT_EQ(left(), "34");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QListWidget>
 #include <QProgressBar>
+#include <QWheelEvent>
 
 #include "tests/toolkit/controls_fixture.h"
 #include "toolkit/button.h"
@@ -127,19 +128,34 @@ TEST_F(ControlsTest, ListBoxClicksForEachSelectionByCodeAndForEachUsersClick) {
     expect("", 7);
 }
 
-TEST_F(ControlsTest, AListBoxTooNarrowShowsTheEndsOfItsEntries) {
+TEST_F(ControlsTest, TheWheelPassesByAClosedComboBox) {
+    ComboBox combo(Bench());
+    int clicks = 0;
+    combo.Click = Count(clicks);
+    for (const char* entry : {"Member 1", "Member 2"})
+        combo.AddItem(entry);
+    combo.SetFocus();
+    QWheelEvent wheel({5, 5}, combo.Widget()->mapToGlobal(QPoint(5, 5)), {}, {0, -120},
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(combo.Widget(), &wheel);
+    EXPECT_EQ(combo.ListIndex() + clicks, -1);
+}
+
+TEST_F(ControlsTest, AListBoxTooNarrowShowsBothEndsOfItsEntries) {
     ListBox list(Bench());
     list.Move(0, 0, 900, 1500);
     for (const char* entry : {"Member  998", "Another  998", "Member  999"})
         list.AddItem(entry);
     Settle();
     auto* inner = static_cast<QListWidget*>(list.Widget());
-    const auto rightHalf = [&](int row) {
-        const QRect all = inner->visualItemRect(inner->item(row));
-        return inner->viewport()->grab(QRect(all.center(), all.bottomRight())).toImage();
+    const auto part = [&](int row, bool front) {
+        QRect area = inner->visualItemRect(inner->item(row));
+        area.setWidth(area.width() / (front ? 4 : 1));
+        return inner->viewport()->grab(area).toImage();
     };
-    EXPECT_EQ(rightHalf(0), rightHalf(1));
-    EXPECT_NE(rightHalf(0), rightHalf(2));
+    EXPECT_EQ(part(0, true), part(2, true));
+    EXPECT_NE(part(0, true), part(1, true)) << "the name begins the entry";
+    EXPECT_NE(part(0, false), part(2, false)) << "the number ends it";
 }
 
 TEST_F(ControlsTest, ProgressBarShowsItsValueAtTheScreensPace) {

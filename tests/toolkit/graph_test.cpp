@@ -4,10 +4,12 @@
 #include <QElapsedTimer>
 #include <QImage>
 #include <QPainter>
+#include <QSignalSpy>
 #include <cmath>
 
 #include "tests/support/time_limit.h"
 #include "tests/toolkit/controls_fixture.h"
+#include "toolkit/graph_plot.h"
 #include "toolkit/picture_box.h"
 
 namespace trabeon {
@@ -37,6 +39,19 @@ class DrawTest : public ControlsTest {
     }
     void PlotTriangle() { Plot({{0, 0}, {3, 10}, {6, 0}}); }
     std::string Labels() { return graph.GreatestLabel() + '|' + graph.LeastLabel(); }
+    QPoint At(double x, double y) {
+        return QPointF(plot.xAxis->coordToPixel(x), plot.yAxis->coordToPixel(y)).toPoint();
+    }
+    // Notches, away from the user, over the middle.
+    void Wheel(int notches) {
+        for (int i = 0; i < std::abs(notches); ++i) {
+            QWheelEvent wheel(Middle(), graph.Widget()->mapToGlobal(Middle()), {},
+                              {0, notches > 0 ? 120 : -120}, Qt::NoButton, Qt::NoModifier,
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(graph.Widget(), &wheel);
+        }
+        Settle();
+    }
     QPoint Middle() { return graph.Widget()->rect().center(); }
     // How many pixels have the colour of the curve.
     static int CurvePixels(const QImage& image) {
@@ -48,6 +63,7 @@ class DrawTest : public ControlsTest {
     }
 
     Graph graph{Bench(), {"Shear vs. Span", "Distance along the beam", "Shear force"}};
+    QCustomPlot& plot = *static_cast<QCustomPlot*>(graph.Widget());
     PictureBox box{Bench()};
 };
 
@@ -112,21 +128,85 @@ TEST_F(DrawTest, TheCurveGrowsWhileAHandlerRunsAtTheScreensPace) {
     EXPECT_LE(counter.paints, 2 + timer.elapsed() / 30);
 }
 
-TEST_F(DrawTest, TheMouseReadsOutZoomsAndBringsTheWholeBack) {
-    PlotTriangle();
+TEST_F(DrawTest, TheReadOutSnapsToAPointAndLastsUntilTheMouseLeaves) {
+    Plot({{0, 0}, {3, 10}, {3, -4}, {4, 2}, {6, 0}});
+    graph.SetPointText([](int index) { return "row " + std::to_string(index); });
+    Settle();
     const QImage whole = graph.Picture(), face = Face(graph);
+    const QSignalSpy replots(&plot, &QCustomPlot::afterReplot);
+    const auto over = [&](double x, double y) { return At(x, y); };
+    for (const auto& [at, row] : {std::pair{over(2, 9), "row 2"},
+                                  {over(2, -1), "row 3"},
+                                  {over(3.6, 5), "row 4"},
+                                  {over(1, 0), "row 1"}}) {
+        QTest::mouseMove(graph.Widget(), at);
+        EXPECT_EQ(graph.ReadOut(), row);
+    }
+    EXPECT_EQ(replots.count(), 0) << "a move draws the readout alone";
+    EXPECT_NE(Face(graph), face);
+    EXPECT_EQ(graph.Picture(), whole) << "the readout stays out of the picture";
+    EXPECT_EQ(graph.ReadOut(), "row 1");
+    QTest::mouseMove(graph.Widget(), Middle());
+    const auto shown = graph.ReadOut();
+    Wheel(5);
+    QTest::mousePress(graph.Widget(), Qt::LeftButton, {}, Middle());
+    QTest::mouseMove(graph.Widget(), Middle() + QPoint(30, 10));
+    QTest::mouseRelease(graph.Widget(), Qt::LeftButton, {}, Middle());
+    QTest::mouseDClick(graph.Widget(), Qt::LeftButton, {}, Middle());
     QTest::mouseMove(graph.Widget(), Middle());
     Settle();
-    EXPECT_NE(Face(graph), face);
-    EXPECT_EQ(graph.Picture(), whole) << "the read-out stays out of the picture";
-    QWheelEvent wheel(Middle(), graph.Widget()->mapToGlobal(Middle()), {}, {0, 120}, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(graph.Widget(), &wheel);
+    EXPECT_EQ(graph.ReadOut(), shown);
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(graph.Widget(), &leave);
     Settle();
+    EXPECT_EQ(graph.ReadOut(), "");
+    EXPECT_EQ(Face(graph), face) << "no ring is left";
+}
+
+TEST_F(DrawTest, WheelAndDragShowAPartOfTheBeamAndADoubleClickTheWhole) {
+    Plot({{0, 40}, {2, 10}, {3, 4}, {4, 6}, {6, 40}});
+    const QImage whole = graph.Picture(), face = Face(graph);
+    const QCPRange x = plot.xAxis->range(), y = plot.yAxis->range();
+    Wheel(4);
+    const QCPRange part = plot.xAxis->range();
+    EXPECT_LT(part.size(), 0.6 * x.size());
+    EXPECT_LE(plot.yAxis->range().lower, 0) << "zero stays in sight";
+    EXPECT_LT(plot.yAxis->range().upper, 0.6 * y.upper) << "fits what is visible";
     EXPECT_NE(graph.Picture(), whole);
+    QTest::mousePress(graph.Widget(), Qt::LeftButton, {}, Middle());
+    QTest::mouseMove(graph.Widget(), Middle() + QPoint(500, 80));
+    QTest::mouseRelease(graph.Widget(), Qt::LeftButton, {}, Middle() + QPoint(500, 80));
+    Settle();
+    EXPECT_EQ(plot.xAxis->range().lower, 0) << "a drag ends with the beam";
+    EXPECT_NEAR(plot.xAxis->range().size(), part.size(), 1e-9);
+    Wheel(100);
+    EXPECT_GT(plot.xAxis->range().size(), 0.1) << "no finer than the points";
+    Wheel(-100);
+    EXPECT_EQ(plot.xAxis->range(), x);
+    Wheel(4);
     QTest::mouseDClick(graph.Widget(), Qt::LeftButton, {}, Middle());
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(graph.Widget(), &leave);
     Settle();
     EXPECT_EQ(graph.Picture(), whole);
+    EXPECT_EQ(Face(graph), face);
+}
+
+TEST_F(DrawTest, NumbersOfAnAxisLookAlikeAndADotOnTheEdgeIsWhole) {
+    const auto numbers = [this](double greatest) {
+        Plot({{0, 0}, {6, greatest}});
+        return plot.yAxis->tickVectorLabels().join(' ').toStdString();
+    };
+    EXPECT_EQ(numbers(800'000), "0 250000 500000 750000");
+    EXPECT_EQ(numbers(1'500'000), "0 5.0E+05 1.0E+06 1.5E+06");
+    EXPECT_EQ(numbers(0.0004), "0 1E-04 2E-04 3E-04 4E-04");
+    Plot({{0, 0}, {6, 10}});
+    const auto dots = [this](int right) {
+        const QImage image =
+            graph.Widget()->grab(QRect(At(6, 10) - QPoint(4, 4), QSize(4 + right, 9))).toImage();
+        return CurvePixels(image);
+    };
+    EXPECT_GE(dots(4) - dots(0), 6) << "right of the axis";
 }
 
 TEST_F(DrawTest, TextStandsWhereThePenIsAndTabsLeadToTheNextStop) {

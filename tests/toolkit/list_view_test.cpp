@@ -98,6 +98,7 @@ TEST_F(ListViewTest, TheUserClicksRowsTitlesAndTheSpaceBelow) {
     EXPECT_EQ(list.SelectedItem().Index(), 3);
     ClickAt(Below());
     EXPECT_EQ(list.SelectedItem().Index(), 3);
+    EXPECT_TRUE(tree.topLevelItem(2)->isSelected()) << "and the user sees it";
     EXPECT_EQ(log, "cc");
     QTest::mouseClick(tree.header()->viewport(), Qt::LeftButton, {},
                       {tree.header()->sectionViewportPosition(1) + 20, 5});
@@ -154,6 +155,19 @@ TEST_F(ListViewTest, AColouredRowWithASignKeepsItsTextAndItsHeight) {
     EXPECT_EQ(tree.visualItemRect(&row).height(), high);
     list.ListItems(2).SetWarningSign(false);
     EXPECT_TRUE(row.icon(0).isNull());
+}
+
+TEST_F(ListViewTest, AMarkShowsInItsRowAndIsNoPartOfTheText) {
+    const QImage bare = Face(list);
+    list.ListItems(3).SetMark("max");
+    Settle();
+    const QImage marked = Face(list);
+    EXPECT_NE(marked, bare);
+    EXPECT_EQ(list.ListItems(3).Text(), "Member  1");
+    const auto above = [this](const QImage& face) {
+        return face.copy(0, 0, face.width(), tree.header()->height() + At(2).y());
+    };
+    EXPECT_EQ(above(marked), above(bare));
 }
 
 TEST_F(ListViewTest, WrappedTitlesHaveRoomForTwoLines) {

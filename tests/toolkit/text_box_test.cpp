@@ -70,6 +70,13 @@ TEST_F(TextBoxTest, AKeyPressHandlerDropsReplacesOrMovesOn) {
         QApplication::sendEvent(first.Widget(), &composed);
     }
     EXPECT_EQ(first.Text(), "1.7");
+    // Alt makes a command of a character; AltGr types one.
+    const Qt::KeyboardModifiers alt = Qt::AltModifier, altGr = alt | Qt::ControlModifier;
+    for (const auto& [held, then] : {std::pair{alt, "1.7"}, {altGr, "1.79"}}) {
+        QTest::sendKeyEvent(QTest::Click, first.Widget(), Qt::Key_9, "9", held);
+        EXPECT_EQ(first.Text(), then);
+    }
+    first.SetText("1.7");
     Key(first, Qt::Key_Home);
     Key(first, Qt::Key_Delete);  // neither these nor shortcuts are characters
     Paste("8x");
@@ -104,6 +111,17 @@ TEST_F(TextBoxTest, GotFocusComesByKeyMouseAndCodeButNotWithTheWindow) {
         QApplication::sendEvent(second.Widget(), &back);
     }
     EXPECT_EQ(focused, 3);
+    first.SetFocus();
+    for (int time = 0; time < 2; ++time) {
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
+        second.SetFocus();  // it hears of that when its window becomes the active one
+        window.Widget()->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.Widget()));
+        EXPECT_EQ(focused, 4);
+    }
 }
 
 TEST_F(TextBoxTest, WhatGotFocusSelectsOutlastsTheClick) {

@@ -65,19 +65,19 @@ const std::string threeMembers =
 /// "x:value" of each point, "(x:left|right)" of each joint, and whether more was asked for.
 std::string textOf(const DiagramCurve& curve) {
     std::ostringstream text;
-    for (const auto& [x, value] : curve.points)
-        text << x << ':' << value << ' ';
+    for (const auto& point : curve.points)
+        text << point.x << ':' << point.value << ' ';
     for (const auto& [x, left, right] : curve.joints)
         text << '(' << x << ':' << left << '|' << right << ") ";
     text << (curve.whole ? "whole" : "cut");
     return text.str();
 }
 std::string span(const std::string& file, StationField field, std::size_t member) {
-    return textOf(spanCurve(file, 3, field, member));
+    return textOf(spanCurve({file, ""}, 3, field, member));
 }
 std::string beam(const std::string& file, StationField field,
                  const std::vector<std::size_t>& members) {
-    return textOf(beamCurve(file, 3, field, members));
+    return textOf(beamCurve({file, ""}, 3, field, members));
 }
 
 TEST(DiagramCurve, LaysMembersEndToEndAsFarAsTheFileGoes) {
@@ -90,14 +90,40 @@ TEST(DiagramCurve, LaysMembersEndToEndAsFarAsTheFileGoes) {
     EXPECT_EQ(beam(threeMembers, moment, {1, 3}),  // a member left out takes no room
               "0:1 2:2 4:3 4:7 4:8 5:9 (0:0|1) (4:2|3) (5:4|0) whole");
     EXPECT_EQ(beam(threeMembers, moment, {3}), "0:7 0:8 1:9 (0:0|3) (1:4|0) whole");
-    EXPECT_EQ(textOf(beamCurve("Span 1 \r\n3,1,0\r\n1,2,0\r\n", 2, moment, {1})),
+    EXPECT_EQ(textOf(beamCurve({"Span 1 \r\n3,1,0\r\n1,2,0\r\n", ""}, 2, moment, {1})),
               "3:1 5:2 (0:0|1) (5:2|0) whole");  // never back where an old file runs back
     const auto cut = threeMembers.substr(0, threeMembers.find("5.00E-01"));
     EXPECT_EQ(beam(cut, moment, {1, 2, 3}), "0:1 2:2 4:3 4:4 4.25:5 (0:0|1) (4:2|2) cut");
     EXPECT_EQ(span(cut, moment, 2), "0:4 0.25:5 cut");
-    EXPECT_FALSE(beamCurve(threeMembers, 3, moment, {2, 4}).whole);
-    EXPECT_TRUE(spanCurve("", 3, moment, 1).points.empty());
-    EXPECT_TRUE(beamCurve("", 3, moment, {1}).points.empty());
+    EXPECT_FALSE(beamCurve({threeMembers, ""}, 3, moment, {2, 4}).whole);
+    EXPECT_TRUE(spanCurve({}, 3, moment, 1).points.empty());
+    EXPECT_TRUE(beamCurve({}, 3, moment, {1}).points.empty());
+}
+
+TEST(DiagramCurve, MarksNoJointWhereAMemberHasMoreRowsThanExpected) {
+    constexpr auto moment = &StationRow::moment;
+    const ResultTexts results{threeMembers, ""};  // three rows a member
+    EXPECT_EQ(textOf(beamCurve(results, 2, moment, {1, 2})), "0:1 2:2 (0:0|1) cut");
+    EXPECT_EQ(textOf(spanCurve(results, 2, moment, 1)), "0:1 2:2 cut");
+}
+
+TEST(DiagramCurve, LabelsTheRowOfTheExactExtreme) {
+    const auto labels = [](const std::string& file, const std::string& maxima) {
+        const auto curve = beamCurve({file, maxima}, 6, &StationRow::moment, {1});
+        return std::to_string(curve.greatest) + ' ' + std::to_string(curve.least);
+    };
+    const std::string sagging =
+        "Span 1 \r\n0.00E+00,-5,0\r\n1.00E+00,3,0\r\n1.80E+00,8,0\r\n2.00E+00,8,0\r\n"
+        "3.00E+00,8,0\r\n4.00E+00,-5,0\r\n";
+    EXPECT_EQ(labels(sagging, "Span # 1 \r\n 1.8049 ,8,0\r\n"), "2 0");
+    EXPECT_EQ(labels(sagging, "Span # 1 \r\n 3.0001 ,8,0\r\n"), "4 0");
+    for (const auto* none : {"", "Span # 1 \r\n 1.81 ,8,0\r\n", "Span # 1 \r\n 1.8 ,9,0\r\n"})
+        EXPECT_EQ(labels(sagging, none), "3 0") << "the middle of the three that round to 8";
+    EXPECT_EQ(labels("Span 1 \r\n0.00E+00,0,0\r\n1.00E+00,9,0\r\n1.80E+00,-2,0\r\n"
+                     "2.00E+00,-7,0\r\n3.00E+00,-7,0\r\n4.00E+00,-7,0\r\n",
+                     ""),
+              "1 5")
+        << "the end of the member";
 }
 
 }  // namespace
