@@ -35,6 +35,12 @@ void Label::SetCaption(const std::string& caption) {
     ShowCaption();
 }
 
+void Label::SetForeColor(Colour colour) {
+    QPalette palette = Inner(*this).palette();
+    palette.setColor(QPalette::WindowText, QColor::fromRgb(colour));
+    Inner(*this).setPalette(palette);
+}
+
 void Label::SetBuddy(Control& control) {
     Inner(*this).setBuddy(control.Widget());
     control.SetAccessibleName(WithoutAccessKey(ShownText(caption_)).toStdString());

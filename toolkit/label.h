@@ -15,6 +15,7 @@ class Label : public Control {
     std::string Caption() const;
     // Keeps the label's place; one that was never given a size fits itself to the caption.
     void SetCaption(const std::string& caption);
+    void SetForeColor(Colour colour);
     // The access key moves the focus to this control, which also takes the caption as its name for
     // a screen reader. Without it the "&" only stays out of sight.
     void SetBuddy(Control& control);

@@ -35,7 +35,8 @@ void frmBeamDesign::Form_Load() {
 }
 
 void frmBeamDesign::Form_Resize() {
-    ListView1.Move(0, 0, ScaleWidth(), ScaleHeight());
+    ListView1.Move(0, 0, ScaleWidth(), ScaleHeight() - remark.Height());
+    remark.Place(ScaleWidth(), ScaleHeight());
 }
 
 void frmBeamDesign::AddtoListbox() {
@@ -49,6 +50,8 @@ void frmBeamDesign::AddtoListbox() {
             item.SetWarningSign(true);
         }
     }
+    remark.Say(designRemark(context_));
+    Form_Resize();
 }
 
 }  // namespace trabeon

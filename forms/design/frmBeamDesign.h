@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/main/context.h"
+#include "forms/results/remark.h"
 #include "toolkit/form.h"
 #include "toolkit/list_view.h"
 
@@ -13,7 +14,8 @@ class frmBeamDesign : public Form {
 
     explicit frmBeamDesign(Context& context);
 
-    /// Fills the list from "DResult.txt".
+    /// Fills the list from "DResult.txt", and says below it if that is no design of the beam as it
+    /// is now.
     void AddtoListbox();
 
     ListView ListView1{*this,
@@ -31,6 +33,7 @@ class frmBeamDesign : public Form {
                         {"Def Actual", 510, "Span to effective depth ratio of the member"},
                         {"Def Allow", 480, "Greatest span to effective depth ratio allowed"},
                         {"Def Note", 1455}}};
+    RemarkStrip remark{*this};
 
   protected:
     void Form_Load() override;

@@ -6,6 +6,8 @@
 #include "core/store/rows.h"
 #include "core/text/number_text.h"
 #include "forms/main/add_to_report.h"
+#include "forms/main/status_line.h"
+#include "forms/results/remark.h"
 
 namespace trabeon {
 namespace {
@@ -96,7 +98,12 @@ void Diagram::draw(const DiagramCurve& curve, std::size_t count,
         return readOutOf(points[static_cast<std::size_t>(index - 1)], symbol);
     });
     const char* side = isA ? kind_.sideA : kind_.sideB;
-    chart.SetNote(subject() + (curve.whole ? side : "Incomplete: analyse again"));
+    const auto remark = stationsRemark(context_);
+    chart.SetNote(subject() + (!remark.empty() ? remark
+                               : curve.whole   ? side
+                                               : "Incomplete: analyse again"));
+    if (!remark.empty())
+        say(context_, remark);
     std::size_t done = 0;
     for (const auto& point : curve.points) {
         chart.SetAutoAdvance(false);

@@ -39,6 +39,7 @@ void ValueTable::Form_Load() {
     const auto rows = stationRowsOf(optionsInTheBackground(context_).Settings().Divisions);
     ListView1.ListItems.Clear();
     fill(rows);
+    remark.Say(stationsRemark(context_));
     ListView1.SetGridLines(true);
 }
 
@@ -61,6 +62,7 @@ void ValueTable::fill(std::size_t rowsPerMember) {
 
 void ValueTable::Form_Resize() {
     ListView1.Move(0, 0, ScaleWidth(), ScaleHeight() - 500);
+    remark.Place(ScaleWidth(), ScaleHeight());
 }
 
 }  // namespace trabeon

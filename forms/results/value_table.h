@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/store/station_reader.h"
+#include "forms/results/remark.h"
 #include "forms/results/single_span_diagram.h"
 #include "toolkit/list_view.h"
 
@@ -10,6 +11,7 @@ namespace trabeon {
 class ValueTable : public Form {
   public:
     ListView ListView1;
+    RemarkStrip remark{*this};
 
   protected:
     ValueTable(Context& context, const char* caption, const char* heading, StationField field);

@@ -1,9 +1,11 @@
 #include "report/output/frmPrintOptions.h"
 
+#include "core/analysis/result_state.h"
 #include "core/text/readable.h"
 #include "forms/main/frmTitle.h"
 #include "forms/main/messages.h"
 #include "forms/results/frmOptions.h"
+#include "forms/results/remark.h"
 #include "report/output/chart_driver.h"
 #include "report/output/lotus_document.h"
 #include "report/output/lotus_output.h"
@@ -69,6 +71,12 @@ ProjectTitle frmPrintOptions::title() {
     return context_.forms.Get<frmTitle>().Title();
 }
 
+/// A table that came with the project file has no record and is taken as it is.
+std::string frmPrintOptions::tableRemark() const {
+    const auto state = tableState(context_.folder);
+    return state == ResultState::outdated ? std::string(analyseAgain) : "";
+}
+
 void frmPrintOptions::cmdPrint_Click() {
     const auto [project, designer, beamName] = title();
     const PrintSource source{printHeadingLine(project, designer, LongDate(), TimeOfDay()),
@@ -76,7 +84,8 @@ void frmPrintOptions::cmdPrint_Click() {
                              readRows<MemberRow>(context_.folder),
                              readRows<PointRow>(context_.folder),
                              readRows<UdlRow>(context_.folder),
-                             readWhole(context_.folder / working_file::balanceTable)};
+                             readWhole(context_.folder / working_file::balanceTable),
+                             tableRemark()};
     const auto printer = Printer::Open(project);
     if (!printer)
         return;
@@ -106,8 +115,11 @@ void frmPrintOptions::output() {
         if (!context_.forms.IsLoaded(frmTitle::Name))
             context_.forms.Get<frmTitle>().Hide();
         const OutputSource source{
-            context_.folder, title(),
-            static_cast<int>(optionsInTheBackground(context_).Settings().Divisions), charts};
+            context_.folder,
+            title(),
+            static_cast<int>(optionsInTheBackground(context_).Settings().Divisions),
+            charts,
+            {tableRemark(), stationsRemark(context_), designRemark(context_)}};
         Output writer(source, objWord);
         end = writeProject(source, Kinds(), writer);
     }

@@ -48,6 +48,7 @@ class frmPrintOptions : public Form {
     template <class Output, class Processor>
     void output();
     [[nodiscard]] ProjectTitle title();
+    [[nodiscard]] std::string tableRemark() const;
 
     Context& context_;
 };

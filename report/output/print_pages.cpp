@@ -66,7 +66,9 @@ class Print {
         const auto& text = source_.balanceTable;
         const auto pages = stripCount(FieldReader(text).nextLine().size(), width);
         for (std::size_t page = 1; page <= pages; ++page) {
-            strip(width, page, "Trabeon Results    Page " + number(page) + " of " + number(pages));
+            strip(width, page,
+                  "Trabeon Results    Page " + number(page) + " of " + number(pages) +
+                      (source_.tableRemark.empty() ? "" : gap + source_.tableRemark));
             pen_.newPage();
         }
     }

@@ -34,7 +34,8 @@ struct PrintSource {
     std::vector<MemberRow> members;
     std::vector<PointRow> points;
     std::vector<UdlRow> udls;
-    std::string balanceTable;  // the file's text
+    std::string balanceTable;   // the file's text
+    std::string tableRemark{};  // above it, if it is not the table of this beam
 };
 
 /// project, "Designer:" and designer, date and time in one line, five blanks between them.

@@ -19,8 +19,14 @@ constexpr FileTable design{"Beam Design",
                            "Asv/sv req,Asv/sv prov,Reinf,",
                            14, "DResult.txt"};
 
-void writeTable(const FileTable& file, OutputWriter& writer) {
-    writer.title(file.title);
+void writeTitle(const std::string& title, const std::string& remark, OutputWriter& writer) {
+    writer.title(title);
+    if (!remark.empty())
+        writer.title(remark);
+}
+
+void writeTable(const FileTable& file, OutputWriter& writer, const std::string& remark = {}) {
+    writeTitle(file.title, remark, writer);
     writer.table(file);
 }
 
@@ -30,7 +36,7 @@ Failure writeBalanceTable(const OutputSource& source, OutputWriter& writer) {
     if (auto failure =
             replaceFile(source.folder / balanceTableScratch, balanceTableFields(table, columns)))
         return failure;
-    writer.title("Trabeon");
+    writeTitle("Trabeon", source.remarks.table, writer);
     writer.balanceTable(columns);
     return std::nullopt;
 }
@@ -82,14 +88,14 @@ OutputEnd writeProject(const OutputSource& source, const OutputKinds& kinds, Out
         if (const auto failure = writeBalanceTable(source, writer))
             return {false, failure->sentence};
     if (kinds.values) {
-        writer.title("Bending Moment & Shear Force Values");
+        writeTitle("Bending Moment & Shear Force Values", source.remarks.stations, writer);
         if (!writer.values())
             return {false};
     }
     if (kinds.dimensions)
         writeTable(dimensions, writer);
     if (kinds.design)
-        writeTable(design, writer);
+        writeTable(design, writer, source.remarks.design);
     if (kinds.diagrams)
         writeDiagrams(source.charts, writer);
     if (kinds.continuous)

@@ -15,12 +15,18 @@ namespace trabeon {
 /// The scratch copy of the balance table, as fields.
 inline constexpr std::string_view balanceTableScratch = "TB.tmp";
 
+/// A line above results that do not belong to the beam as it is now; empty if they do.
+struct OutputRemarks {
+    std::string table, stations, design;
+};
+
 /// What a document is made from.
 struct OutputSource {
     std::filesystem::path folder;  // of the working files
     ProjectTitle title;
     int Divisions = 10;
     ChartForms& charts;
+    OutputRemarks remarks{};
 };
 
 /// The files that go into a document as they stand, one row a line.

@@ -57,6 +57,19 @@ TEST_F(DesignWindows, ARunShowsALineForEachSection) {
     EXPECT_EQ(TakeFlag(), 0);
 }
 
+TEST_F(DesignWindows, ADesignOfAnotherBeamSaysSo) {
+    OpenExample("two-span-floor-beam");
+    const auto& strip = Design().remark.lblRemark;
+    EXPECT_FALSE(strip.Visible());
+    ASSERT_TRUE(unpackProject(EXAMPLES "/five-span-with-cantilever.TB", folder.path()));
+    auto& results = Design();
+    EXPECT_EQ(results.remark.lblRemark.Caption(),
+              "Of another beam or an earlier state: analyse again");
+    EXPECT_TRUE(results.remark.lblRemark.Visible());
+    EXPECT_GE(results.remark.lblRemark.Top(), results.ListView1.Height());
+    EXPECT_EQ(results.ListView1.ListItems(60).SubItems(13), "No Data");  // no station for it
+}
+
 TEST_F(DesignWindows, WhatFailedStandsOutAndTheNextRunStartsPlain) {
     OpenExample("fixed-ended-transfer-beam");
     EXPECT_EQ(Design().Caption(), "Please Increase bv or d of beam.");

@@ -25,6 +25,8 @@ using Points = std::vector<GraphPoint>;
 using Numbers = std::vector<std::size_t>;
 constexpr StationField moment = &StationRow::moment, shear = &StationRow::shear;
 
+const std::string again = "Of another beam or an earlier state: analyse again";
+
 class ResultDiagrams : public EditorTest {
   protected:
     /// The example of five spans, analysed.
@@ -174,17 +176,40 @@ TEST_F(ResultDiagrams, PlotOnAUsersChoiceAndWithNoneTheChartStays) {
     EXPECT_TRUE(forms().Get<frmBMData>().Visible());
 }
 
+TEST_F(ResultDiagrams, SayWhenTheyAreOfAnotherBeam) {
+    Select(WholeMoment(), {1, 2});
+    EXPECT_EQ(WholeMoment().GraphCMoment.Note(), "Sagging drawn downward");
+    ASSERT_TRUE(unpackProject(EXAMPLES "/two-span-floor-beam.TB", folder.path()));
+    WholeMoment().cmdPlot.Press();
+    EXPECT_EQ(WholeMoment().GraphCMoment.Note(), again);
+    EXPECT_EQ(program.window().Event(), again);
+    Moment().cboMember.SetListIndex(1);
+    EXPECT_EQ(Moment().GraphMoment1.Note(), "Member 2. " + again);
+    auto& table = forms().Get<frmBMData>();
+    EXPECT_EQ(table.remark.lblRemark.Caption(), again);
+    EXPECT_TRUE(table.remark.lblRemark.Visible());
+    EXPECT_GE(table.remark.lblRemark.Top(), table.ListView1.Top() + table.ListView1.Height());
+    Analyse();
+    WholeMoment().cmdPlot.Press();
+    EXPECT_EQ(WholeMoment().GraphCMoment.Note(), "Sagging drawn downward");
+    Moment().cmdPlot.Press();
+    EXPECT_FALSE(forms().Get<frmBMData>().remark.lblRemark.Visible());
+    folder.write("BM.txt", "");
+    WholeMoment().cmdPlot.Press();
+    EXPECT_EQ(WholeMoment().GraphCMoment.Note(), "Not analysed yet: analyse first");
+}
+
 TEST_F(ResultDiagrams, FollowAChangeOfTheMemberCount) {
     folder.write("Member.txt", MemberRows(6));
     Reopen<frmContinuousTB>();
     const auto& chart = WholeMoment().GraphCMoment;
     Select(WholeMoment(), {5, 6});  // the file ends with the fifth
     EXPECT_EQ(chart.Points(), Expected({5}, moment, -1));
-    EXPECT_EQ(chart.Note(), "Incomplete: analyse again");
+    EXPECT_EQ(chart.Note(), again);
     folder.write("Member.txt", MemberRows(2));
     Select(WholeMoment(), {1, 2, 3, 4, 5});  // the list is that of before
     EXPECT_EQ(chart.Points(), Expected({1, 2}, moment, -1));
-    EXPECT_EQ(chart.Note(), "Incomplete: analyse again");
+    EXPECT_EQ(chart.Note(), again);
     EXPECT_EQ(chart.PointCount(), 60);
     EXPECT_NEAR(WholeMoment().PBCBTB.Value(), 40, 1e-9);
 }

@@ -106,6 +106,9 @@ TEST(PrintedPages, OfTheBalanceTableAreStrips) {
                                   {"HEAD", page + "1 of  3", label + first, label + "short"},
                                   {"HEAD", page + "2 of  3", label + second, label},
                                   {"HEAD", page + "3 of  3", label + "c", label}}));
+    auto old = strips;
+    old.tableRemark = "Of another beam";
+    EXPECT_EQ(printed(old, table).at(1).at(1), page + "1 of  3     Of another beam");
     const auto wide = printedPages(strips, table, true);
     EXPECT_EQ(printed(wide).at(1).at(2), label + first + std::string(28, 'b'));
     EXPECT_FALSE(wide[0].landscape);

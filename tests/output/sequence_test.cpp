@@ -68,6 +68,32 @@ TEST_P(Sequence, IsTheToldOne) {
 }
 
 constexpr OutputKinds all{true, true, true, true, true, true, true, true, true};
+
+/// Remarks are lines of their own, each between the title of its results and the results.
+TEST(Remarks, AreAboveTheResultsThatTheyAreAbout) {
+    const TemporaryFolder folder;
+    writeBeam(folder);
+    RecordingProcessor plain, remarked;
+    for (auto* objWord : {&plain, &remarked}) {
+        RecordingCharts charts{objWord->calls, 2};
+        const OutputRemarks remarks{"of table", "of stations", "of design"};
+        const OutputSource source{folder.path(),
+                                  {"P", "D", "B1"},
+                                  2,
+                                  charts,
+                                  objWord == &plain ? OutputRemarks{} : remarks};
+        LotusOutput writer(source, *objWord);
+        ASSERT_TRUE(writeProject(source, all, writer).whole);
+    }
+    const auto found = [&](const std::string& text) { return remarked.text().find(text); };
+    EXPECT_EQ(plain.text().find("of table"), std::string::npos);
+    EXPECT_LT(found("of table"), found("Bending Moment & Shear Force Values"));
+    EXPECT_LT(found("Bending Moment & Shear Force Values"), found("of stations"));
+    EXPECT_LT(found("of stations"), found("Beam Dimensions and Properties"));
+    EXPECT_LT(found("\"Beam Design"), found("of design"));
+    EXPECT_NE(found("of design"), std::string::npos);
+}
+
 constexpr OutputKinds allButValues{true, true, true, true, false, true, true, true, true};
 constexpr OutputKinds none{false, false, false, false, false, false, false, false, false};
 constexpr OutputKinds design{false, false, false, false, false, false, false, false, true};

@@ -1,0 +1,47 @@
+#include "forms/results/remark.h"
+
+#include <algorithm>
+
+#include "core/design/design.h"
+#include "forms/design/frmMisc.h"
+#include "forms/results/frmOptions.h"
+
+namespace trabeon {
+namespace {
+
+constexpr Colour darkRed = 0xA61B1B;
+constexpr int stripHeight = 330;
+
+}  // namespace
+
+std::string stationsRemark(Context& context) {
+    const double Divisions = optionsInTheBackground(context).Settings().Divisions;
+    return std::string(remarkOn(stationsState(context.folder, Divisions), Unrecorded::remarked));
+}
+
+std::string designRemark(Context& context) {
+    const double Divisions = optionsInTheBackground(context).Settings().Divisions;
+    const auto properties = miscInTheBackground(context).Properties();
+    return std::string(remarkOnDesign(context.folder, Divisions, properties, Unrecorded::remarked));
+}
+
+RemarkStrip::RemarkStrip(Container& parent) : lblRemark(parent, "") {
+    lblRemark.SetForeColor(darkRed);
+    lblRemark.SetVisible(false);
+}
+
+void RemarkStrip::Say(const std::string& remark) {
+    lblRemark.SetCaption(remark);
+    lblRemark.SetVisible(!remark.empty());
+}
+
+int RemarkStrip::Height() const {
+    return lblRemark.Caption().empty() ? 0 : stripHeight;
+}
+
+void RemarkStrip::Place(int width, int height) {
+    lblRemark.Move(60, std::max(0, height - stripHeight + 30), std::max(0, width - 120),
+                   stripHeight - 60);
+}
+
+}  // namespace trabeon
