@@ -16,7 +16,8 @@ constexpr int listLeft = 3360;
 frmJoints::frmJoints(Context& context)
     : Form("Joints"),
       context_(context),
-      rows_(context, ListView1, cmdRemove, &txtDescription, {"Joint ", Numbering::fromOne, "Joint"}) {
+      rows_(context, ListView1, cmdRemove, &txtDescription,
+            {"Joint ", Numbering::fromOne, "Joint"}) {
     placeControls();
     txtDescription.SetKeepsToField(true);
     WebJoint.SetAccessibleName("Picture of the joint type");

@@ -42,7 +42,8 @@ class LoadForm : public Form {
           lblMember(*this, kind.memberCaption),
           ListView1(*this, kind.columns),
           context_(context),
-          rows_(context, ListView1, cmdRemove, &description, {"Member ", Numbering::asRead, kind.row}),
+          rows_(context, ListView1, cmdRemove, &description,
+                {"Member ", Numbering::asRead, kind.row}),
           sketch_(sketch),
           description_(description),
           listTop_(kind.buttonsTop + 495) {
