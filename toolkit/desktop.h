@@ -7,6 +7,7 @@
 #include "toolkit/outside.h"
 
 class QLockFile;
+class QTextBrowser;
 
 namespace trabeon {
 
@@ -21,7 +22,8 @@ class Desktop : public Outside {
     void PutText(const std::string& text) override;
     void PutPicture(const QImage& picture) override;
     QImage Picture() const override;
-    // A page (.htm) comes up in a window of the program where the desktop has no browser.
+    // Where the desktop has no browser, a page (.htm) comes up in a window of the program: the same
+    // one each time. It takes the keyboard only if another window of the program has it.
     bool OpenDocument(const std::string& path) override;
     std::unique_ptr<QPrinter> OpenPrinter(const std::string& documentName) override;
     Paper DefaultPaper() const override;
@@ -29,7 +31,10 @@ class Desktop : public Outside {
     void End() override;
 
   private:
+    void ShowPage(const QString& path);
+
     std::unique_ptr<QLockFile> lock_;
+    std::unique_ptr<QTextBrowser> page_;
     QString lastFolder_;
 };
 
