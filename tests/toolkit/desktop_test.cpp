@@ -101,7 +101,9 @@ TEST_F(DesktopTest, WithoutABrowserEachPageComesToTheFrontInTheSameWindow) {
         file.close();
         window.Widget()->activateWindow();
         EXPECT_TRUE(desktop.OpenDocument(file.fileName().toStdString()));
-        EXPECT_EQ(QApplication::activeWindow()->windowTitle(), name);
+        Settle();
+        ASSERT_NE(QApplication::activeWindow(), nullptr);
+        EXPECT_EQ(QApplication::activeWindow()->windowTitle().toStdString(), name.toStdString());
         EXPECT_TRUE(page == nullptr || page == QApplication::activeWindow());
         page = QApplication::activeWindow();
     }
