@@ -18,7 +18,7 @@ int main(int argc, char** argv) try {
     takeUpReport(program.context());
     program.context().forms.Register<frmPrintOptions>(program.context());
     return program.Start() ? application.Run() : 0;
-} catch (const std::exception& error) {  // above all: not enough memory
+} catch (const std::exception& error) {
     std::fprintf(stderr, "Trabeon cannot go on (%s).\n", error.what());
     return 1;
 }
