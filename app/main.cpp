@@ -23,7 +23,7 @@ int main(int argc, char** argv) try {
     const int exit = program.Start() ? application.Run() : 0;
     removeLentPictures(folder);
     return exit;
-} catch (const std::exception& error) {  // above all: not enough memory
+} catch (const std::exception& error) {
     std::fprintf(stderr, "Trabeon cannot go on (%s).\n", error.what());
     return 1;
 }

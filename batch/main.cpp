@@ -1,7 +1,9 @@
 // trabeon-batch: the analysis and the design without a window, for scripts and machines with no
 // display.
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
+#include <new>
 
 #include "batch/commands.h"
 #include "core/store/temporary_file.h"
@@ -9,6 +11,18 @@
 namespace {
 
 using namespace trabeon;
+
+constexpr auto outOfMemory =
+    "There is not enough memory to go on. Close other programs or allow this one more memory, then "
+    "start it again.\n";
+
+/// An exception needs memory too, and there may be none even for that.
+[[noreturn]] void endWithoutException() {
+    if (std::current_exception())
+        std::abort();  // a fault of this program
+    std::fputs(outOfMemory, stderr);
+    std::_Exit(static_cast<int>(Exit::refused));
+}
 
 Exit run(const std::vector<std::string>& words) {
     const auto line = readCommandLine(words, commands());
@@ -22,11 +36,14 @@ Exit run(const std::vector<std::string>& words) {
 
 int main(int count, char** words) {
     prepareSignals();
+    std::set_terminate(endWithoutException);
     auto end = Exit::refused;
     try {
         end = run({words + 1, words + count});
-    } catch (const std::exception& error) {  // above all: not enough memory
-        complain(std::string("The job is too large for this machine (") + error.what() + ").");
+    } catch (const std::bad_alloc&) {
+        std::fputs(outOfMemory, stderr);
+    } catch (const std::exception& error) {
+        complain(std::string("The job cannot be done (") + error.what() + ").");
     }
     if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
         complain("The output could not be written.");

@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QImage>
+#include <QLoggingCategory>
 #include <QMessageBox>
 #include <QPageSize>
 #include <QPointer>
@@ -112,16 +113,6 @@ std::unique_ptr<QPrinter> DefaultPrinter() {
     return printer;
 }
 
-void ShowPage(const QString& path) {
-    auto* page = new QTextBrowser;
-    page->setAttribute(Qt::WA_DeleteOnClose);
-    page->setAttribute(Qt::WA_QuitOnClose, false);
-    page->setSource(QUrl::fromLocalFile(path));
-    page->setWindowTitle(page->documentTitle());
-    page->resize(840, 680);
-    page->show();
-}
-
 }  // namespace
 
 Desktop::Desktop() = default;
@@ -182,12 +173,36 @@ QImage Desktop::Picture() const {
 
 bool Desktop::OpenDocument(const std::string& path) {
     const QString file = QString::fromStdString(path);
-    if (QDesktopServices::openUrl(QUrl::fromLocalFile(file)))
+    auto* messages = QLoggingCategory::defaultCategory();
+    messages->setEnabled(QtWarningMsg, false);  // that there is no browser is our answer, not news
+    const bool opened = QDesktopServices::openUrl(QUrl::fromLocalFile(file));
+    messages->setEnabled(QtWarningMsg, true);
+    if (opened)
         return true;
     const bool isPage = file.endsWith(".htm", Qt::CaseInsensitive) && QFile::exists(file);
     if (isPage)
         ShowPage(file);
     return isPage;
+}
+
+// At the start no window of the program is active yet. The page then leaves the keyboard to the
+// main window, which comes up at the same time. Asked for later, it comes to the front.
+void Desktop::ShowPage(const QString& path) {
+    const bool asked = QApplication::activeWindow() != nullptr;
+    if (!page_) {
+        page_ = std::make_unique<QTextBrowser>();
+        page_->setAttribute(Qt::WA_QuitOnClose, false);
+        page_->resize(840, 680);
+    }
+    page_->setSource(QUrl::fromLocalFile(path));
+    page_->setWindowTitle(page_->documentTitle());
+    page_->setAttribute(Qt::WA_ShowWithoutActivating, !asked);
+    page_->show();
+    if (asked) {
+        page_->setWindowState(page_->windowState() & ~Qt::WindowMinimized);
+        page_->raise();
+        page_->activateWindow();
+    }
 }
 
 std::unique_ptr<QPrinter> Desktop::OpenPrinter(const std::string& documentName) {

@@ -6,6 +6,8 @@
 
 #include "toolkit/outside.h"
 
+class QTextBrowser;
+
 namespace trabeon {
 
 class Desktop : public Outside {
@@ -20,13 +22,17 @@ class Desktop : public Outside {
     void PutText(const std::string& text) override;
     void PutPicture(const QImage& picture) override;
     QImage Picture() const override;
-    // A page (.htm) comes up in a window of the program where the desktop has no browser.
+    // Where the desktop has no browser, a page (.htm) comes up in a window of the program: the same
+    // one each time. It takes the keyboard only if another window of the program has it.
     bool OpenDocument(const std::string& path) override;
     std::unique_ptr<QPrinter> OpenPrinter(const std::string& documentName) override;
     Paper DefaultPaper() const override;
     void End() override;
 
   private:
+    void ShowPage(const QString& path);
+
+    std::unique_ptr<QTextBrowser> page_;
     QString lastFolder_;
 };
 

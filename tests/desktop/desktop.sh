@@ -1,8 +1,10 @@
-# What a job at the window stands on; sourced by the scripts beside it. A copy of the program, a
-# screen (Xvfb, openbox) and keys from outside. The first argument is the folder of the built program.
+# What a job at the window needs; sourced by the scripts beside it. A copy of the program, a screen
+# (Xvfb, openbox) and keys from outside. Arguments: the folder of the built program, and perhaps
+# "no-browser".
 set -euo pipefail
 
-built=$1
+built=$1 browser=${2:-}
+manual="Trabeon: Contents and Index"
 work=$(mktemp -d)
 program=$work/program
 touch "$work/errors"
@@ -26,26 +28,37 @@ window() { xdotool search --onlyvisible --name "^$1\$"; }
 active() { xdotool getactivewindow getwindowname | grep -qx "$1"; }
 rows_of_first_span() { [ "$(grep -c '^' <(sed -n '2,/^Span 2 /p' "$program/BM.txt"))" -eq "$1" ]; }
 
+# Returns when the window manager manages windows: one that shows earlier may never get the keyboard.
+start_screen() {
+    mkfifo "$work/display" "$work/managed"
+    Xvfb -noreset -displayfd 3 -screen 0 1366x768x24 3> "$work/display" >/dev/null 2>&1 &
+    read -r DISPLAY < "$work/display"
+    export DISPLAY=:$DISPLAY
+    openbox --startup "sh -c 'echo > $work/managed'" >/dev/null 2>&1 &
+    read -r < "$work/managed"
+}
+
+# To be run in the background. Finds no browser but the one below.
+trabeon() { PATH=$work/bin exec "$program/trabeon" 2>> "$work/errors"; }
+
+# The browser notes what it is given. With "no-browser" there is none.
 start_program() {
     cp -r "$built" "$program"
     rm -f "$program"/*.lock  # of a copy that may be running where it was built
     mkdir "$work/bin"
-    printf '#!/bin/sh\necho "$1" >> "%s/opened"\n' "$work" > "$work/bin/xdg-open"
-    chmod +x "$work/bin/xdg-open"
+    if [ "$browser" != no-browser ]; then
+        printf '#!/bin/sh\necho "$1" >> "%s/opened"\n' "$work" > "$work/bin/xdg-open"
+        chmod +x "$work/bin/xdg-open"
+    fi
     export ASAN_OPTIONS=detect_leaks=0  # the X11 side of the platform leaks; leaks are looked for offscreen
-    export PATH=$work/bin:$PATH XDG_RUNTIME_DIR=$work HOME=$work QT_QPA_PLATFORM=xcb
+    export XDG_RUNTIME_DIR=$work HOME=$work QT_QPA_PLATFORM=xcb
+    start_screen
 
-    exec 3<> "$work/display"
-    Xvfb -noreset -displayfd 3 -screen 0 1366x768x24 >/dev/null 2>&1 &
-    until_true test -s "$work/display"
-    export DISPLAY=:$(head -n 1 "$work/display")
-    openbox >/dev/null 2>&1 &
-    until_true xdotool get_desktop
-
-    "$program/trabeon" 2> "$work/errors" &
+    trabeon &
     run=$!
     until_true window "Trabeon - Untitled"
-    until_true grep -q 'Contents%20and%20Index.htm' "$work/opened"
+    if [ "$browser" = no-browser ]; then until_true window "$manual"
+    else until_true grep -q 'Contents%20and%20Index.htm' "$work/opened"; fi
     until_true active "Trabeon - Untitled"
 }
 

@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
 # A job as a person does it: start, open an example, analyse, change an option, analyse again, try a
-# second copy, save under a name, leave. The first argument is the folder of the built program.
+# second copy, save under a name, leave. Arguments: the folder of the built program, and perhaps
+# "no-browser": the manual then comes up in a window of the program, and must leave it the keyboard.
 . "$(dirname "$0")/desktop.sh"
 
 start_program
 open_example five-span-with-cantilever
 test "$(grep -c '' "$program/Joint.txt")" -eq 6 || fail "the joints were not unpacked"
 
-"$program/trabeon" 2>> "$work/errors" &
+trabeon &
 second=$!
 until_true active "Trabeon"
 key Return
@@ -21,6 +22,13 @@ key alt+o
 key alt+s a
 key space
 until_true rows_of_first_span 23
+
+if [ "$browser" = no-browser ]; then
+    key F1
+    until_true active "$manual"
+    key alt+F4
+    until_true active "$name"
+fi
 
 save_as job type_text "$work/job.TB"
 grep -q '^Final ' "$work/job.TB" || fail "the saved project has no table"

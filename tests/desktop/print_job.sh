@@ -28,12 +28,14 @@ start_print_server() {
     until_true bash -c ": <> /dev/tcp/127.0.0.1/$port"
     export CUPS_SERVER=127.0.0.1:$port
 }
+# The windows of the program in sight: the main window, and an open menu.
+windows() { [ "$(xdotool search --onlyvisible --class trabeon | wc -l)" -eq "$1" ]; }
 open_preview() {
-    active "Print Preview" && return
-    click 597 53  # the menu of the report, which stands beside the diagram
+    until_true windows 1  # a click while the menu of the main window is open would only close it
+    click 597 53  # the menu of the report, which is beside the diagram
+    until_true windows 2
     key Down Return
-    sleep 0.5
-    active "Print Preview"
+    until_true active "Print Preview"
 }
 
 start_print_server
@@ -43,7 +45,7 @@ key alt+d c b
 key space shift+Down shift+Down shift+Down shift+Down alt+p
 for _ in 1 2 3 4 5 6 7; do key alt+d c b alt+a; done
 key alt+r v
-until_true open_preview
+open_preview
 
 click 480 24  # how many pages there are
 key ctrl+a ctrl+c

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the program into a folder, moves that, and does from there what a user does: the three
-# programs run on the folder's own libraries, and the desktop's entry finds the program.
+# programs run on the folder's own libraries, the program says when it has no display, and the
+# desktop's entry finds it.
 # Arguments: cmake, and the folder of the build.
 set -euo pipefail
 
@@ -33,6 +34,14 @@ grep -q "calling init: $here/plugins/platforms/libqoffscreen" "$work/libraries" 
 if grep 'calling init: .*lib\(Qt6\|QCustomPlot\|quazip\|q[a-z]*\.so\)' "$work/libraries" | grep -vF "$here/"; then
     fail "the libraries above are not the folder's"
 fi
+
+for display in "" :987; do
+    status=0
+    env -u QT_QPA_PLATFORM DISPLAY=$display "$here/trabeon" 2> "$work/said" || status=$?
+    sentence="Trabeon needs a display .*${display:-neither DISPLAY nor WAYLAND_DISPLAY}.*; trabeon-batch .*"
+    [ "$status" -eq 1 ] && grep -qx "$sentence" "$work/said" && [ "$(wc -l < "$work/said")" -eq 1 ] ||
+        fail "without a display ($display) the program ends with $status: $(cat "$work/said")"
+done
 
 if command -v desktop-file-validate > /dev/null; then desktop-file-validate "$here/trabeon.desktop"; fi
 "$here/add-to-menu"

@@ -13,7 +13,6 @@ is full from there on. What must hold:
     holds every row that the killed run had in its files;
   - a full disk is told in a sentence that names the file.
 
-The job "desktop" is the real program in a window that keys from outside drive; it is only killed.
 Ends with a table, and with 1 if anything did not hold.
 """
 
@@ -25,7 +24,6 @@ import signal
 import subprocess
 import sys
 import tempfile
-import time
 
 HERE = pathlib.Path(__file__).resolve().parent
 EXAMPLES = HERE.parent.parent / "examples"
@@ -36,10 +34,6 @@ TIMEOUT = 60
 
 class Broken(Exception):
     """What did not hold."""
-
-
-class Unanswered(Broken):
-    """A window that keys did not reach, or a program that hangs; three times running it is that."""
 
 
 def files(folder):
@@ -87,7 +81,6 @@ class Programs:
         self.window = build / "tests" / "reliability" / "window_job"
         self.report = build / "report" / "output" / "trabeon-report"
         self.faults = build / "tests" / "reliability" / "libfaults.so"
-        self.desktop = build / "trabeon"
 
     def environment(self, folder, kind="", at=0, record=""):
         environment = dict(
@@ -125,9 +118,6 @@ class Job:
 
     def run(self, folder, *fault):
         return self.programs.run(self.command(folder), folder, *fault)
-
-    def end(self):
-        """Behind the last run."""
 
 
 class BatchJob(Job):
@@ -224,128 +214,6 @@ class WindowJob(Job):
             raise Broken(f"ended with {result.returncode}")
         if result.returncode == 1 or b"flag 1" in result.stdout:
             check_told(folder, result.stdout)
-
-
-class DesktopJob(WindowJob):
-    """The real program under a window manager: Open, Analyse, Save, Exit, all by keys."""
-
-    name, faults = "desktop", ("killed",)
-
-    def prepare(self, folder):
-        shutil.copytree(self.programs.desktop, folder, dirs_exist_ok=True)
-        for left in list(files(folder)) + ["trabeon.lock"]:
-            (folder / left).unlink(missing_ok=True)
-        super().prepare(folder)
-        browser = folder / "bin" / "xdg-open"
-        browser.parent.mkdir()
-        browser.write_text("#!/bin/sh\n")
-        browser.chmod(0o755)
-        read, write = os.pipe()
-        self.server = subprocess.Popen(  # one that is reset when its first clients have gone loses others
-            ["Xvfb", "-noreset", "-displayfd", str(write), "-screen", "0", "1366x768x24"],
-            pass_fds=[write],
-            stderr=subprocess.DEVNULL,
-        )
-        os.close(write)
-        with open(read, encoding="ascii") as number:
-            self.display = ":" + number.readline().strip()
-        self.manager = subprocess.Popen(
-            ["openbox"],
-            env=dict(os.environ, DISPLAY=self.display),
-            stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL,
-        )
-
-        while self.manager.poll() is None and not self.xdotool("get_desktop"):
-            time.sleep(0.05)
-
-    def end(self):
-        for process in self.manager, self.server:
-            process.kill()
-            process.wait()
-
-    def start(self, folder, *fault):
-        environment = self.programs.environment(folder, *fault)
-        environment.update(
-            DISPLAY=self.display,
-            QT_QPA_PLATFORM="xcb",
-            PATH=f"{folder}/bin:{os.environ['PATH']}",
-            HOME=str(folder),
-            XDG_RUNTIME_DIR=str(folder),
-        )
-        self.running = subprocess.Popen(
-            [folder / "trabeon"], env=environment, stderr=subprocess.DEVNULL
-        )
-
-    def xdotool(self, *words):
-        environment = dict(os.environ, DISPLAY=self.display)
-        result = subprocess.run(
-            ["xdotool", *words], env=environment, capture_output=True, text=True, check=False
-        )
-        return result.stdout.strip()
-
-    def until(self, holds, keys=(), text=""):
-        """Sends keys and a text until a condition holds; False if the program ended instead.
-
-        A key that comes before a window has the focus is lost, so they are sent again now and then.
-        """
-        for turn in range(1200):
-            if self.running.poll() is not None:
-                return False
-            if holds():
-                return True
-            if turn % 80 == 0:
-                self.xdotool("getactivewindow", "windowfocus")
-                if keys:
-                    self.xdotool("key", "--clearmodifiers", "--delay", "40", *keys)
-                if text:
-                    self.xdotool("type", "--clearmodifiers", "--delay", "8", str(text))
-                    self.xdotool("key", "--clearmodifiers", "Return")
-            time.sleep(0.025)
-        shown = self.xdotool("getactivewindow", "getwindowname")
-        self.running.kill()
-        raise Unanswered(f'the program does not answer; "{shown}" is active')
-
-    def active(self, begin, *keys, text=""):
-        def holds():
-            return self.xdotool("getactivewindow", "getwindowname").startswith(begin)
-
-        return self.until(holds, keys, text)
-
-    def run(self, folder, *fault):
-        self.start(folder, *fault)
-        project, stations = folder / "Example.TB", folder / "BM.txt"
-        opened = "Trabeon - " + str(project)[1:]
-        before = project.stat().st_mtime_ns
-
-        def analysed():
-            return stations.stat().st_size > 0
-
-        def saved():
-            return project.stat().st_mtime_ns != before
-
-        for done in (
-            lambda: self.active("Trabeon - Untitled"),
-            lambda: self.active("Open Trabeon File", "ctrl+o"),
-            lambda: self.active(opened, "ctrl+a", text=project),
-            lambda: self.until(analysed, ["alt+s", "a", "space"]),
-            lambda: self.until(saved, ["ctrl+s"]),
-            lambda: self.until(lambda: False, ["alt+f", "x"]),
-        ):
-            if not done():
-                break
-        return subprocess.CompletedProcess("", self.running.wait(), b"", b"")
-
-    def startAgain(self, folder):
-        self.start(folder)
-        unfinished, inputs = folder / "Unfinished.set", [folder / name for name in INPUTS]
-
-        def emptied():
-            return all(file.exists() and file.stat().st_size == 0 for file in inputs)
-
-        self.until(lambda: not unfinished.exists() and emptied())
-        self.running.kill()
-        self.running.wait()
 
 
 def check_told(folder, said):
@@ -453,15 +321,6 @@ def chosen(steps, points):
     return sorted({1 + round(i * (steps - 1) / (points - 1)) for i in range(points)})
 
 
-def answered(act):
-    for _ in range(2):
-        try:
-            return act()
-        except Unanswered:
-            pass
-    return act()
-
-
 def judge(trial, points):
     told, broken = [0, 0, 0], []
     for at in chosen(trial.steps, points):
@@ -470,7 +329,7 @@ def judge(trial, points):
                 continue
             act = getattr(trial, name)
             try:
-                told[which] += answered(lambda act=act, at=at: act(at))
+                told[which] += act(at)
             except (Broken, subprocess.TimeoutExpired) as what:
                 broken.append(f"{trial.job.name}, {name} at step {at}: {what}")
     return trial.steps, told, broken
@@ -492,7 +351,6 @@ def main():
         BatchJob(programs, "run", "run", LARGE, "--out", "DIR"),
         ReportJob(programs),
         WindowJob(programs),
-        DesktopJob(programs),
     ]
     failed = False
     print(f"{'job':10}{'steps':>8}{'killed':>8}{'ended':>8}{'full':>8}{'broken':>8}")
@@ -500,10 +358,7 @@ def main():
         if arguments.jobs and job.name not in arguments.jobs:
             continue
         with tempfile.TemporaryDirectory() as home:
-            try:
-                steps, told, broken = judge(Trial(job, pathlib.Path(home)), arguments.points)
-            finally:
-                job.end()
+            steps, told, broken = judge(Trial(job, pathlib.Path(home)), arguments.points)
         counts = "".join(f"{count:8}" for count in (steps, *told, len(broken)))
         print(f"{job.name:10}{counts}", flush=True)
         print("".join(f"  {line}\n" for line in broken), end="")

@@ -90,6 +90,27 @@ TEST_F(DesktopTest, WithoutAPrinterThePrintIsAnA4PdfWhoseNameIsAskedFor) {
     EXPECT_EQ(printer->docName(), "Report");
 }
 
+TEST_F(DesktopTest, WithoutABrowserEachPageComesToTheFrontInTheSameWindow) {
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", folder.path().toUtf8());  // holds no browser
+    QWidget* page = nullptr;
+    for (const QString name : {"Contents", "Example"}) {
+        QFile file(folder.filePath(name + ".htm"));
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        file.write(("<title>" + name + "</title>").toUtf8());
+        file.close();
+        window.Widget()->activateWindow();
+        EXPECT_TRUE(desktop.OpenDocument(file.fileName().toStdString()));
+        Settle();
+        ASSERT_NE(QApplication::activeWindow(), nullptr);
+        EXPECT_EQ(QApplication::activeWindow()->windowTitle().toStdString(), name.toStdString());
+        EXPECT_TRUE(page == nullptr || page == QApplication::activeWindow());
+        page = QApplication::activeWindow();
+    }
+    EXPECT_FALSE(desktop.OpenDocument(folder.filePath("No page.htm").toStdString()));
+    qputenv("PATH", path);
+}
+
 TEST(ScriptedOutsideTest, FailsOnWhatIsUnexpectedAndOnWhatIsLeft) {
     EXPECT_NONFATAL_FAILURE(ScriptedOutside().MsgBox("Who?", 48, ""), "Not expected: box");
     EXPECT_NONFATAL_FAILURE(

@@ -143,7 +143,7 @@ int main(int argc, char** argv) try {
         return 0;
     }
     return run(*command, argc, argv);
-} catch (const std::exception& error) {  // above all: not enough memory
-    std::fprintf(stderr, "The job is too large for this machine (%s).\n", error.what());
+} catch (const std::exception& error) {
+    std::fprintf(stderr, "The document cannot be made (%s).\n", error.what());
     return 1;
 }

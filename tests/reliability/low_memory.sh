@@ -1,0 +1,40 @@
+#!/usr/bin/env bash
+# Each program does its job with more and more memory, from what the loader needs to what the job
+# needs: it says that memory has run out, or does the whole job. The argument is a build folder.
+set -euo pipefail
+
+build=$(cd "$1" && pwd)
+example=$(cd "$(dirname "$0")/../../examples" && pwd)/five-span-with-cantilever.TB
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+export QT_QPA_PLATFORM=offscreen
+fail() { echo "FAILED: $*" >&2; exit 1; }
+
+grow() {  # what the job makes, the least memory in KiB, and the command
+    local made=$1 room=$2 told=0 status=0 whole
+    shift 2
+    cp "$example" "$work/Example.TB"  # the windows' job opens it, and saves it changed
+    "$@" > /dev/null 2>&1 || fail "$1 does not work"
+    whole=$(stat -c %s "$made")
+    while :; do
+        rm -f "$made"
+        cp "$example" "$work/Example.TB"
+        status=0
+        (ulimit -v "$room" && exec "$@") > "$work/said" 2>&1 || status=$?
+        [ $status -ne 0 ] || break
+        if [ $status -eq 1 ] && tail -n 1 "$work/said" | grep -q "^There is not enough memory to go on\. "; then
+            told=$((told + 1))
+        elif [ $status -ne 127 ]; then  # the loader's own answer
+            fail "$1 with $room KiB ends with $status: $(cat "$work/said")"
+        fi
+        room=$((room + room / 40))
+    done
+    [ "$(stat -c %s "$made")" -eq "$whole" ] || fail "$1 with $room KiB leaves something out"
+    [ $told -gt 0 ] || fail "$1 was never short of memory"
+    echo "${1##*/}: short of memory at $told sizes, done with $room KiB"
+}
+
+"$build/batch/trabeon-batch" unpack "$example" "$work/beam"
+grow "$work/beam/BM.txt" 3000 "$build/batch/trabeon-batch" analyse "$work/beam" --divisions 10000
+grow "$work/beam.docx" 60000 "$build/report/output/trabeon-report" "$example" --out "$work/beam.docx"
+grow "$work/DResult.txt" 60000 "$build/tests/reliability/window_job" "$work"
