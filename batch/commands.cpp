@@ -169,6 +169,8 @@ Exit designCommand(const CommandLine& line) {
         return refused(data.refusal());
     if (auto failure = unfitStations(*data))
         return refused(*failure);
+    if (const auto input = readFiles(folder, inputFiles); !input)
+        return refused(input.refusal());
     if (auto failure = outdated(folder / working_file::stations, stationsState(folder, Divisions)))
         return refused(*failure);
     warn(*data);

@@ -36,6 +36,7 @@ struct FolderRecord {
 
 /// An unreadable or absent record knows nothing.
 [[nodiscard]] FolderRecord readRecord(const std::filesystem::path& folder);
+[[nodiscard]] FolderRecord recordOf(std::string_view text);
 [[nodiscard]] std::string textOf(const FolderRecord& record);
 
 /// Why a project must not be unpacked into a folder: files are in it that no project file put
