@@ -103,7 +103,7 @@ Outcome<CommandLine> readCommandLine(const std::vector<std::string>& words,
             continue;
         }
         if (sign == std::string::npos && i + 1 == words.size())
-            return Refusal{"A value is missing behind " + name + ". Usage: " + usageOf(*form)};
+            return Refusal{"A value is missing after " + name + ". Usage: " + usageOf(*form)};
         line.options.emplace_back(name,
                                   sign == std::string::npos ? words[++i] : word.substr(sign + 1));
     }

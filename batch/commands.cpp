@@ -250,8 +250,8 @@ void show(const ProjectTitle& title, const Analysis& analysis, const fs::path& f
     std::fputs(resultTables(analysis).c_str(), stdout);
 }
 
-/// A project that has no dimensions is not designed. A section that failed in shear is told in the
-/// table, and by the exit code.
+/// A project that has no dimensions is not designed. The table shows a
+/// section that failed in shear, and so does the exit code.
 Exit showDesign(const fs::path& folder, const AnalysisSettings& settings) {
     if (readWhole(folder / working_file::beamDimensions).empty())
         return Exit::done;

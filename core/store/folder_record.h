@@ -13,7 +13,7 @@
 
 namespace trabeon {
 
-/// A number that stands for a text: another text has another one, but for one chance in 2^64.
+/// A number that identifies a text: two texts share one with a chance of one in 2^64.
 [[nodiscard]] std::uint64_t fingerprint(std::string_view text);
 
 /// One fingerprint of several, in their order.

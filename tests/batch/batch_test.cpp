@@ -192,7 +192,7 @@ TEST(PackAndUnpack, KeepTheTitleAndRefuseRowsThatExistNowhereElse) {
                          ? std::vector<std::string>{command, example(project), work}
                          : std::vector<std::string>{command, example(project), option, work});
     };
-    for (int time = 0; time < 2; ++time) {  // a folder of results of its own serves again
+    for (int time = 0; time < 2; ++time) {  // a run may use its own result folder again
         EXPECT_EQ(run("run", "two-span-floor-beam", "--out").exit, 0);
         EXPECT_EQ(batch({"analyse", work, "--divisions", "20"}).exit, 0);
         EXPECT_EQ(run("unpack", "five-span-with-cantilever").exit, 0);
@@ -372,7 +372,7 @@ TEST(CommandLine, WrongUsageIsOneLineAndExitCodeTwo) {
         {{"unpack", "a", "b", "--out", "c"},
          "\"unpack\" has no option --out. Usage: trabeon-batch unpack FILE.TB DIR"},
         {{"run", "a", "--out"},
-         "A value is missing behind --out. Usage: trabeon-batch run FILE.TB [--divisions N] "
+         "A value is missing after --out. Usage: trabeon-batch run FILE.TB [--divisions N] "
          "[--places N] [--out DIR]"},
         {{"analyse", ".", "--places", "few"}, "--places takes a number, not \"few\"."},
         {{std::string(10'000, '\xE4')},

@@ -108,7 +108,7 @@ Outcome<ReportCommand> readReportCommand(const std::vector<std::string>& words) 
         }
         const auto sign = word.find('=');
         if (sign == std::string::npos && i + 1 == words.size())
-            return Refusal{"A value is missing behind " + excerpt(word) + ". " + usage};
+            return Refusal{"A value is missing after " + excerpt(word) + ". " + usage};
         const auto value = sign == std::string::npos ? words[++i] : word.substr(sign + 1);
         if (auto failure = readOption(word.substr(0, sign), value, command))
             return *failure;
