@@ -152,11 +152,31 @@ std::string Desktop::AskFile(const FileQuestion& question) {
     dialog.setDirectory(start.isEmpty() ? QDir::homePath() : start);
     if (!question.fileName.empty())
         dialog.selectFile(QString::fromStdString(question.fileName));
-    if (dialog.exec() != QDialog::Accepted)
-        return {};
-    const QString chosen = dialog.selectedFiles().value(0);
+    QString chosen;
+    do {  // the dialog comes up again with what was typed
+        if (dialog.exec() != QDialog::Accepted)
+            return {};
+        chosen = dialog.selectedFiles().value(0);
+    } while (!IsAgreed(chosen, question));
     lastFolder_ = QFileInfo(chosen).absolutePath();
     return chosen.toStdString();
+}
+
+bool Desktop::IsAgreed(const QString& chosen, const FileQuestion& question) {
+    const QFileInfo file(chosen);
+    if (file.exists())
+        return true;  // the dialog itself asks before it replaces a file
+    const QString folder = file.absolutePath();
+    if (question.folderMustExist && !QFileInfo(folder).isDir()) {
+        const QString text = "The folder \"" + folder +
+                             "\" does not exist: choose one that does, or create it first.";
+        MsgBox(text.toStdString(), 48, question.title);
+        return false;
+    }
+    if (!question.asksBeforeCreating)
+        return true;
+    const QString text = '"' + file.fileName() + "\" does not exist. Create it?";
+    return MsgBox(text.toStdString(), 36, question.title) == Answer::Yes;
 }
 
 void Desktop::PutText(const std::string& text) {
@@ -210,9 +230,12 @@ std::unique_ptr<QPrinter> Desktop::OpenPrinter(const std::string& documentName) 
     printer->setDocName(ShownText(documentName));
     if (printer->outputFormat() == QPrinter::NativeFormat)
         return printer;
-    FileQuestion question{true, true, "Print to a PDF File", "PDF File (*.pdf) |*.pdf", "",
-                          "",   "pdf"};
-    const std::string path = AskFile(question);
+    const std::string path = AskFile({.saves = true,
+                                      .asksBeforeOverwriting = true,
+                                      .folderMustExist = true,
+                                      .title = "Print to a PDF File",
+                                      .filter = "PDF File (*.pdf) |*.pdf",
+                                      .suffix = "pdf"});
     if (path.empty())
         return nullptr;
     printer->setOutputFileName(QString::fromStdString(path));

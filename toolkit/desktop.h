@@ -18,6 +18,7 @@ class Desktop : public Outside {
     Answer MsgBox(const std::string& text, int style, const std::string& title) override;
     Answer AskToReplace(const std::string& text) override;
     // Starts in the folder of the last answer; before there is one, in the question's or at home.
+    // A name that is refused, or not to be created, leads back to the dialog as it was.
     std::string AskFile(const FileQuestion& question) override;
     void PutText(const std::string& text) override;
     void PutPicture(const QImage& picture) override;
@@ -30,6 +31,8 @@ class Desktop : public Outside {
     void End() override;
 
   private:
+    // Whether the user may have this name. Says why not, or asks.
+    bool IsAgreed(const QString& chosen, const FileQuestion& question);
     void ShowPage(const QString& path);
 
     std::unique_ptr<QTextBrowser> page_;
