@@ -14,10 +14,10 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
-#include <QTextBrowser>
 #include <QUrl>
 
 #include "toolkit/page_printer.h"
+#include "toolkit/page_window.h"
 #include "toolkit/shown_text.h"
 
 namespace trabeon {
@@ -200,29 +200,12 @@ bool Desktop::OpenDocument(const std::string& path) {
     if (opened)
         return true;
     const bool isPage = file.endsWith(".htm", Qt::CaseInsensitive) && QFile::exists(file);
-    if (isPage)
-        ShowPage(file);
-    return isPage;
-}
-
-// At the start no window of the program is active yet. The page then leaves the keyboard to the
-// main window, which comes up at the same time. Asked for later, it comes to the front.
-void Desktop::ShowPage(const QString& path) {
-    const bool asked = QApplication::activeWindow() != nullptr;
-    if (!page_) {
-        page_ = std::make_unique<QTextBrowser>();
-        page_->setAttribute(Qt::WA_QuitOnClose, false);
-        page_->resize(840, 680);
-    }
-    page_->setSource(QUrl::fromLocalFile(path));
-    page_->setWindowTitle(page_->documentTitle());
-    page_->setAttribute(Qt::WA_ShowWithoutActivating, !asked);
-    page_->show();
-    if (asked) {
-        page_->setWindowState(page_->windowState() & ~Qt::WindowMinimized);
-        page_->raise();
-        page_->activateWindow();
-    }
+    if (!isPage)
+        return false;
+    if (!page_)
+        page_ = std::make_unique<PageWindow>();
+    page_->Open(file);
+    return true;
 }
 
 std::unique_ptr<QPrinter> Desktop::OpenPrinter(const std::string& documentName) {

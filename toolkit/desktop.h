@@ -6,9 +6,9 @@
 
 #include "toolkit/outside.h"
 
-class QTextBrowser;
-
 namespace trabeon {
+
+class PageWindow;
 
 class Desktop : public Outside {
   public:
@@ -24,7 +24,7 @@ class Desktop : public Outside {
     void PutPicture(const QImage& picture) override;
     QImage Picture() const override;
     // Where the desktop has no browser, a page (.htm) comes up in a window of the program: the same
-    // one each time. It takes the keyboard only if another window of the program has it.
+    // one each time.
     bool OpenDocument(const std::string& path) override;
     std::unique_ptr<QPrinter> OpenPrinter(const std::string& documentName) override;
     Paper DefaultPaper() const override;
@@ -33,9 +33,8 @@ class Desktop : public Outside {
   private:
     // Whether the user may have this name. Says why not, or asks.
     bool IsAgreed(const QString& chosen, const FileQuestion& question);
-    void ShowPage(const QString& path);
 
-    std::unique_ptr<QTextBrowser> page_;
+    std::unique_ptr<PageWindow> page_;
     QString lastFolder_;
 };
 
