@@ -7,6 +7,8 @@ namespace trabeon {
 namespace {
 
 constexpr int OverwritePrompt = 2;
+constexpr int PathMustExist = 0x800;
+constexpr int CreatePrompt = 0x2000;
 
 }  // namespace
 
@@ -20,8 +22,14 @@ bool CommonDialog::ShowSave() {
 
 bool CommonDialog::Show(bool saves) {
     const std::string chosen =
-        Outside::Current().AskFile({saves, (Flags & OverwritePrompt) != 0, DialogTitle, Filter,
-                                    FileName, saves ? "" : InitDir});
+        Outside::Current().AskFile({.saves = saves,
+                                    .asksBeforeOverwriting = (Flags & OverwritePrompt) != 0,
+                                    .asksBeforeCreating = (Flags & CreatePrompt) != 0,
+                                    .folderMustExist = (Flags & PathMustExist) != 0,
+                                    .title = DialogTitle,
+                                    .filter = Filter,
+                                    .fileName = FileName,
+                                    .folder = saves ? "" : InitDir});
     if (chosen.empty())
         return false;
     FileName = chosen;

@@ -9,8 +9,10 @@ class CommonDialog {
   public:
     std::string Filter;  // "Trabeon File (*.TB) |*.TB"
     std::string DialogTitle;
-    std::string InitDir;   // where ShowOpen starts while no file was chosen yet
-    int Flags = 0;         // bit 2: ask before a file that is there is chosen for saving
+    std::string InitDir;  // where ShowOpen starts while no file was chosen yet
+    // 2: ask before an existing file is chosen for saving. 2048: the folder must exist.
+    // 8192: ask before a file that does not exist is chosen. Other bits change nothing.
+    int Flags = 0;
     std::string FileName;  // the full path last chosen; a dialog that is cancelled leaves it
 
     // Both block, and answer whether the user chose a file.

@@ -5,6 +5,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QWidget>
+#include <algorithm>
 #include <utility>
 
 #include "toolkit/look.h"
@@ -37,13 +38,23 @@ bool IsAltCharacter(const QEvent& event) {
     return alt && !press.text().isEmpty() && press.text().at(0).isPrint();
 }
 
-// The code of a key that types one character; 0 for all else, shortcuts and Tab among them.
-int CharacterOf(const QKeyEvent& event) {
+// Ctrl, or Ctrl and Shift, make a command of a character. With any other keys, as AltGr (which is
+// Ctrl and Alt), a text box types it.
+bool IsCommand(const QKeyEvent& event) {
+    return (event.modifiers() & ~Qt::KeyboardModifiers(Qt::ShiftModifier)) == Qt::ControlModifier;
+}
+
+// The text that a key types, Enter and Backspace among it; empty for all else, as shortcuts and
+// Tab.
+QString TypedText(const QKeyEvent& event) {
+    const QString text = event.text();
+    if (text.isEmpty() || text.at(0).category() != QChar::Other_Control)
+        return IsCommand(event) ? QString() : text;
     const Qt::KeyboardModifiers commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-    if (event.text().size() != 1 || (event.modifiers() & commands))
-        return 0;
-    const int code = event.text().at(0).unicode();
-    return code == '\t' || code == DeleteCode || event.key() == Qt::Key_Escape ? 0 : code;
+    const int code = text.at(0).unicode();
+    const bool isNone = (event.modifiers() & commands) || code == '\t' || code == DeleteCode ||
+                        event.key() == Qt::Key_Escape;
+    return isNone ? QString() : text;
 }
 
 }  // namespace
@@ -99,22 +110,25 @@ bool Control::OnEvent(QEvent& event) {
     }
     if (event.type() == QEvent::KeyPress && KeyPress)
         return OnKey(static_cast<QKeyEvent&>(event));
-    if (event.type() == QEvent::InputMethod && KeyPress) {
-        // Composed characters come past the key events: one that is dropped takes all with it.
-        for (const QChar character : static_cast<QInputMethodEvent&>(event).commitString()) {
-            int key = character.unicode();
-            KeyPress(key);
-            if (key == 0)
-                return true;
-        }
-    }
-    return false;
+    // Composed characters come past the key events.
+    return event.type() == QEvent::InputMethod && KeyPress &&
+           Drops(static_cast<QInputMethodEvent&>(event).commitString());
+}
+
+// Whether the handler drops one of the characters: that takes all with it.
+bool Control::Drops(const QString& characters) {
+    return std::any_of(characters.begin(), characters.end(), [this](QChar character) {
+        int key = character.unicode();
+        KeyPress(key);
+        return key == 0;
+    });
 }
 
 bool Control::OnKey(QKeyEvent& event) {
-    const int typed = CharacterOf(event);
-    if (typed == 0)
-        return false;
+    const QString text = TypedText(event);
+    if (text.size() != 1)
+        return Drops(text);
+    const int typed = text.at(0).unicode();
     int key = typed;
     KeyPress(key);
     if (key == typed)

@@ -10,6 +10,7 @@
 
 class QEvent;
 class QKeyEvent;
+class QString;
 
 namespace trabeon {
 
@@ -51,6 +52,7 @@ class Control : public Placement {
   private:
     class Tap;
     bool OnKey(QKeyEvent& event);
+    bool Drops(const QString& characters);
 
     std::unique_ptr<Tap> tap_;
     bool focused_ = false;  // also while the window is not the active one

@@ -14,10 +14,10 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
-#include <QTextBrowser>
 #include <QUrl>
 
 #include "toolkit/page_printer.h"
+#include "toolkit/page_window.h"
 #include "toolkit/shown_text.h"
 
 namespace trabeon {
@@ -152,11 +152,31 @@ std::string Desktop::AskFile(const FileQuestion& question) {
     dialog.setDirectory(start.isEmpty() ? QDir::homePath() : start);
     if (!question.fileName.empty())
         dialog.selectFile(QString::fromStdString(question.fileName));
-    if (dialog.exec() != QDialog::Accepted)
-        return {};
-    const QString chosen = dialog.selectedFiles().value(0);
+    QString chosen;
+    do {  // the dialog comes up again with what was typed
+        if (dialog.exec() != QDialog::Accepted)
+            return {};
+        chosen = dialog.selectedFiles().value(0);
+    } while (!IsAgreed(chosen, question));
     lastFolder_ = QFileInfo(chosen).absolutePath();
     return chosen.toStdString();
+}
+
+bool Desktop::IsAgreed(const QString& chosen, const FileQuestion& question) {
+    const QFileInfo file(chosen);
+    if (file.exists())
+        return true;  // the dialog itself asks before it replaces a file
+    const QString folder = file.absolutePath();
+    if (question.folderMustExist && !QFileInfo(folder).isDir()) {
+        const QString text = "The folder \"" + folder +
+                             "\" does not exist: choose one that does, or create it first.";
+        MsgBox(text.toStdString(), 48, question.title);
+        return false;
+    }
+    if (!question.asksBeforeCreating)
+        return true;
+    const QString text = '"' + file.fileName() + "\" does not exist. Create it?";
+    return MsgBox(text.toStdString(), 36, question.title) == Answer::Yes;
 }
 
 void Desktop::PutText(const std::string& text) {
@@ -180,29 +200,12 @@ bool Desktop::OpenDocument(const std::string& path) {
     if (opened)
         return true;
     const bool isPage = file.endsWith(".htm", Qt::CaseInsensitive) && QFile::exists(file);
-    if (isPage)
-        ShowPage(file);
-    return isPage;
-}
-
-// At the start no window of the program is active yet. The page then leaves the keyboard to the
-// main window, which comes up at the same time. Asked for later, it comes to the front.
-void Desktop::ShowPage(const QString& path) {
-    const bool asked = QApplication::activeWindow() != nullptr;
-    if (!page_) {
-        page_ = std::make_unique<QTextBrowser>();
-        page_->setAttribute(Qt::WA_QuitOnClose, false);
-        page_->resize(840, 680);
-    }
-    page_->setSource(QUrl::fromLocalFile(path));
-    page_->setWindowTitle(page_->documentTitle());
-    page_->setAttribute(Qt::WA_ShowWithoutActivating, !asked);
-    page_->show();
-    if (asked) {
-        page_->setWindowState(page_->windowState() & ~Qt::WindowMinimized);
-        page_->raise();
-        page_->activateWindow();
-    }
+    if (!isPage)
+        return false;
+    if (!page_)
+        page_ = std::make_unique<PageWindow>();
+    page_->Open(file);
+    return true;
 }
 
 std::unique_ptr<QPrinter> Desktop::OpenPrinter(const std::string& documentName) {
@@ -210,9 +213,12 @@ std::unique_ptr<QPrinter> Desktop::OpenPrinter(const std::string& documentName) 
     printer->setDocName(ShownText(documentName));
     if (printer->outputFormat() == QPrinter::NativeFormat)
         return printer;
-    FileQuestion question{true, true, "Print to a PDF File", "PDF File (*.pdf) |*.pdf", "",
-                          "",   "pdf"};
-    const std::string path = AskFile(question);
+    const std::string path = AskFile({.saves = true,
+                                      .asksBeforeOverwriting = true,
+                                      .folderMustExist = true,
+                                      .title = "Print to a PDF File",
+                                      .filter = "PDF File (*.pdf) |*.pdf",
+                                      .suffix = "pdf"});
     if (path.empty())
         return nullptr;
     printer->setOutputFileName(QString::fromStdString(path));

@@ -47,9 +47,22 @@ class EntryDelegate : public QStyledItemDelegate {
     }
 };
 
+// A press on blank space keeps the selection.
+class Entries : public QListWidget {
+  public:
+    using QListWidget::QListWidget;
+
+  protected:
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override {
+        return index.isValid() ? QListWidget::selectionCommand(index, event)
+                               : QItemSelectionModel::NoUpdate;
+    }
+};
+
 }  // namespace
 
-ListBox::ListBox(Container& parent) : Control(new QListWidget(parent.Canvas())) {
+ListBox::ListBox(Container& parent) : Control(new Entries(parent.Canvas())) {
     QListWidget& list = Inner(*this);
     list.setSelectionMode(QAbstractItemView::ExtendedSelection);
     list.setUniformItemSizes(true);

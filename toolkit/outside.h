@@ -18,11 +18,13 @@ enum class Answer { Ok, Yes, No, Cancel, Other };
 struct FileQuestion {
     bool saves = false;
     bool asksBeforeOverwriting = false;
-    std::string title;
-    std::string filter;    // "Trabeon File (*.TB) |*.TB"
-    std::string fileName;  // where the dialog starts
-    std::string folder{};  // the same while no file was chosen yet; empty: the user's own folder
-    std::string suffix{};  // of a name that is typed without one, "docx"
+    bool asksBeforeCreating = false;
+    bool folderMustExist = false;
+    std::string title{};
+    std::string filter{};    // "Trabeon File (*.TB) |*.TB"
+    std::string fileName{};  // where the dialog starts
+    std::string folder{};    // the same while no file was chosen yet; empty: the user's own folder
+    std::string suffix{};    // of a name that is typed without one, "docx"
 };
 
 class Outside {

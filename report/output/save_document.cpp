@@ -29,8 +29,12 @@ Failure writeDocument(const Document& document, const std::filesystem::path& fil
 }
 
 void saveAndOpen(const Document& document) {
-    FileQuestion question{true, true, "Save the Document", "Word Document (*.docx) |*.docx", ""};
-    question.suffix = "docx";
+    const FileQuestion question{.saves = true,
+                                .asksBeforeOverwriting = true,
+                                .folderMustExist = true,
+                                .title = "Save the Document",
+                                .filter = "Word Document (*.docx) |*.docx",
+                                .suffix = "docx"};
     std::string file;
     do {
         file = Outside::Current().AskFile(question);

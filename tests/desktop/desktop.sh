@@ -75,12 +75,16 @@ open_example() {
     until_true rows_of_first_span 13
 }
 
+asked_after() { active "Save Trabeon File" && [ "$(xdotool getactivewindow)" != "$1" ]; }
 save_as() {  # what it is called, and how that is typed
     key alt+f a
     until_true active "Save Trabeon File"
     key ctrl+a
     "${@:2}"
+    local dialog=$(xdotool getactivewindow)
     key Return
+    until_true asked_after "$dialog"
+    key y  # the file does not exist yet: create it
     until_true active "Trabeon - ${work#/}/$1.TB"
 }
 

@@ -119,6 +119,8 @@ TEST_F(ControlsTest, ListBoxClicksForEachSelectionByCodeAndForEachUsersClick) {
     expect("-x", 4);
     QTest::mouseClick(inner->viewport(), Qt::LeftButton, {}, second);
     expect("-x", 5);
+    QTest::mouseClick(inner->viewport(), Qt::LeftButton, {}, inner->viewport()->rect().center());
+    expect("-x", 5);  // that was blank space
     QTest::mouseClick(inner->viewport(), Qt::LeftButton, Qt::ControlModifier, second);
     expect("--", 6);
     list.AddItem("Member  3");
@@ -223,18 +225,23 @@ TEST_F(ControlsTest, TheTextViewCopiesWhatIsSelected) {
     EXPECT_EQ(view.SelectedText(), "two");
 }
 
-TEST_F(ControlsTest, TheDialogKeepsItsNameWhenCancelled) {
+TEST_F(ControlsTest, TheDialogReadsItsFlagsAndKeepsItsNameWhenCancelled) {
     CommonDialog dialog;
     dialog.DialogTitle = "Save Trabeon File";
     dialog.Flags = 10246;
     outside.ExpectSave("Save Trabeon File", "/beams/One.TB");
     EXPECT_TRUE(dialog.ShowSave());
-    EXPECT_TRUE(outside.lastQuestion.asksBeforeOverwriting);
+    const auto asks = [this] {
+        const FileQuestion& asked = outside.lastQuestion;
+        return std::array{asked.asksBeforeOverwriting, asked.asksBeforeCreating,
+                          asked.folderMustExist};
+    };
+    EXPECT_EQ(asks(), (std::array{true, true, true}));
     dialog.Flags = 2052;
     outside.ExpectOpen("Save Trabeon File", "");
     EXPECT_FALSE(dialog.ShowOpen());
     EXPECT_EQ(dialog.FileName, "/beams/One.TB");
-    EXPECT_FALSE(outside.lastQuestion.asksBeforeOverwriting);
+    EXPECT_EQ(asks(), (std::array{false, false, true}));
 }
 
 }  // namespace

@@ -29,14 +29,16 @@ class DesktopTest : public ControlsTest {
             title = dialog->windowTitle();
             if (auto* file = qobject_cast<QFileDialog*>(dialog))
                 startFolder = file->directory().absolutePath();
-            dialog->findChild<QLineEdit*>()->setText(path);
+            auto* name = dialog->findChild<QLineEdit*>();
+            found = name->text();
+            name->setText(path);
             QTest::keyClick(dialog, Qt::Key_Return);
         });
     }
 
     const QTemporaryDir folder;
     Desktop desktop;
-    QString title, startFolder;  // of the last file dialog
+    QString title, startFolder, found;  // of the last file dialog, before a name was typed
 };
 
 TEST_F(DesktopTest, AMessageBoxAnswersAndGivesTheWindowBack) {
@@ -52,8 +54,10 @@ TEST_F(DesktopTest, AMessageBoxAnswersAndGivesTheWindowBack) {
 TEST_F(DesktopTest, AFileDialogStartsAtHomeAndThenWhereTheLastOneEnded) {
     const auto startOf = [&](const QString& fileName, const QString& typed) {
         TypeInDialog(typed);
-        const FileQuestion question{true, false, "Save", "Trabeon File (*.TB) |*.TB",
-                                    fileName.toStdString()};
+        const FileQuestion question{.saves = true,
+                                    .title = "Save",
+                                    .filter = "Trabeon File (*.TB) |*.TB",
+                                    .fileName = fileName.toStdString()};
         EXPECT_EQ(QString::fromStdString(desktop.AskFile(question)), typed);
         return startFolder;
     };
@@ -61,6 +65,43 @@ TEST_F(DesktopTest, AFileDialogStartsAtHomeAndThenWhereTheLastOneEnded) {
     EXPECT_EQ(startOf("", first), QDir::homePath());
     EXPECT_EQ(startOf("", second), folder.path());
     EXPECT_EQ(startOf(first, first), folder.path());
+}
+
+TEST_F(DesktopTest, ANameToSaveIsInAFolderThatExistsAndIsReplacedOrCreatedOnlyWhenAgreed) {
+    struct Asking : Desktop {
+        Answer MsgBox(const std::string& text, int, const std::string&) override {
+            asked.push_back(text);
+            return answer();
+        }
+        std::vector<std::string> asked;
+        std::function<Answer()> answer;
+    } asking;
+    const FileQuestion question{.saves = true,
+                                .asksBeforeOverwriting = true,
+                                .asksBeforeCreating = true,
+                                .folderMustExist = true,
+                                .filter = "Trabeon File (*.TB) |*.TB"};
+    const QString one = folder.filePath("One.TB"), lost = folder.filePath("none/One.TB");
+    asking.answer = [&] {
+        if (asking.asked.size() == 3)
+            return Answer::Yes;
+        EXPECT_EQ(found, asking.asked.size() == 1 ? "" : lost);
+        TypeInDialog(one);
+        return Answer::No;
+    };
+    TypeInDialog(lost);
+    EXPECT_EQ(asking.AskFile(question), one.toStdString());
+    EXPECT_EQ(found, one);
+    const std::string create = "\"One.TB\" does not exist. Create it?";
+    EXPECT_EQ(asking.asked, (std::vector<std::string>{
+                                "The folder \"" + folder.filePath("none").toStdString() +
+                                    "\" does not exist: choose one that does, or create it first.",
+                                create, create}));
+    ASSERT_TRUE(QFile(one).open(QFile::WriteOnly));
+    TypeInDialog(one);
+    QTimer::singleShot(0, [] { PressInDialog(Qt::Key_Y); });  // to the dialog's own question
+    EXPECT_EQ(asking.AskFile(question), one.toStdString());
+    EXPECT_EQ(asking.asked.size(), 3U);
 }
 
 TEST_F(DesktopTest, TheClipboardTakesTextAndPictures) {

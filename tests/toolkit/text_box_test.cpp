@@ -70,10 +70,18 @@ TEST_F(TextBoxTest, AKeyPressHandlerDropsReplacesOrMovesOn) {
         QApplication::sendEvent(first.Widget(), &composed);
     }
     EXPECT_EQ(first.Text(), "1.7");
-    // Alt makes a command of a character; AltGr types one.
-    const Qt::KeyboardModifiers alt = Qt::AltModifier, altGr = alt | Qt::ControlModifier;
-    for (const auto& [held, then] : {std::pair{alt, "1.7"}, {altGr, "1.79"}}) {
-        QTest::sendKeyEvent(QTest::Click, first.Widget(), Qt::Key_9, "9", held);
+    // Alt or Ctrl makes a command of a character. AltGr and Super type one, as all that is no plain
+    // Ctrl: each goes through the filter.
+    const Qt::KeyboardModifiers altGr = Qt::AltModifier | Qt::ControlModifier;
+    for (const auto& [held, typed, then] :
+         {std::tuple{Qt::KeyboardModifiers(Qt::AltModifier), "9", "1.7"},
+          {Qt::KeyboardModifiers(Qt::ControlModifier), "9", "1.7"},
+          {altGr, "x", "1.7"},
+          {altGr, "9", "1.79"},
+          {Qt::ControlModifier | Qt::KeypadModifier, "x", "1.79"},
+          {Qt::KeyboardModifiers(Qt::MetaModifier), "x", "1.79"},
+          {Qt::KeyboardModifiers(), "8x", "1.79"}}) {
+        QTest::sendKeyEvent(QTest::Click, first.Widget(), Qt::Key_9, typed, held);
         EXPECT_EQ(first.Text(), then);
     }
     first.SetText("1.7");
@@ -83,7 +91,8 @@ TEST_F(TextBoxTest, AKeyPressHandlerDropsReplacesOrMovesOn) {
     EXPECT_EQ(first.Text(), "8x.7");
     Key(first, Qt::Key_Return);
     EXPECT_TRUE(second.HasFocus());
-    EXPECT_EQ(keys, (std::vector<int>{'1', 'x', ',', '5', 8, 'x', '7', 13}));
+    EXPECT_EQ(keys, (std::vector<int>{'1', 'x', ',', '5', 8, 'x', '7', 'x', '9', 'x', 'x', '8', 'x',
+                                      13}));
 }
 
 TEST_F(TextBoxTest, ABoxThatKeepsToAFieldTakesNoQuoteAndNoLineEnd) {
