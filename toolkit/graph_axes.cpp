@@ -16,7 +16,7 @@ QString PowerText(double value, int decimals) {
 }  // namespace
 
 QVector<double> AxisTicker::createTickVector(double tickStep, const QCPRange& range) {
-    const QVector<double> ticks = QCPAxisTicker::createTickVector(tickStep, range);
+    QVector<double> ticks = QCPAxisTicker::createTickVector(tickStep, range);
     ChooseStyle(ticks, range);
     return ticks;
 }
