@@ -137,7 +137,7 @@ TEST(Run, LongBeamShowsItsMomentsAndSaysWhereItsTableIs) {
     ASSERT_EQ(batch({"pack", folder.path().string(), project}).exit, 0);
     const auto answer = batch({"run", project});
     // Many equal spans: wL²/12 = 36 at the supports in the middle.
-    expectAll(answer.out, {"The balance table of the 21 members stands in \"" +
+    expectAll(answer.out, {"The balance table of the 21 members is in \"" +
                                (folder / "long/TB.txt").string() + "\".",
                            "\n11               -36         -36",
                            "Reactions add up to 1512, loads to 1512: they agree."});
@@ -203,7 +203,7 @@ TEST(PackAndUnpack, KeepTheTitleAndRefuseRowsThatExistNowhereElse) {
     for (const auto& answer :
          {run("run", "two-span-floor-beam", "--out"), run("unpack", "two-span-floor-beam")}) {
         EXPECT_EQ(answer.exit, 1);
-        expectAll(answer.err, {"The folder \"" + work + "\" holds \"Joint.txt\""});
+        expectAll(answer.err, {"The folder \"" + work + "\" contains \"Joint.txt\""});
     }
     expectAll(folder.read("work/Joint.txt"), {"7,Fixed,typed"});
 }
@@ -372,7 +372,7 @@ TEST(CommandLine, WrongUsageIsOneLineAndExitCodeTwo) {
         {{"unpack", "a", "b", "--out", "c"},
          "\"unpack\" has no option --out. Usage: trabeon-batch unpack FILE.TB DIR"},
         {{"run", "a", "--out"},
-         "A value is missing behind --out. Usage: trabeon-batch run FILE.TB [--divisions N] "
+         "A value is missing after --out. Usage: trabeon-batch run FILE.TB [--divisions N] "
          "[--places N] [--out DIR]"},
         {{"analyse", ".", "--places", "few"}, "--places takes a number, not \"few\"."},
         {{std::string(10'000, '\xE4')},
