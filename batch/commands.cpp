@@ -169,6 +169,8 @@ Exit designCommand(const CommandLine& line) {
         return refused(data.refusal());
     if (auto failure = unfitStations(*data))
         return refused(*failure);
+    if (const auto input = readFiles(folder, inputFiles); !input)
+        return refused(input.refusal());
     if (auto failure = outdated(folder / working_file::stations, stationsState(folder, Divisions)))
         return refused(*failure);
     warn(*data);
@@ -249,8 +251,8 @@ void show(const ProjectTitle& title, const Analysis& analysis, const fs::path& f
     std::fputs(resultTables(analysis).c_str(), stdout);
 }
 
-/// A project that has no dimensions is not designed. A section that failed in shear is told in the
-/// table, and by the exit code.
+/// A project that has no dimensions is not designed. The table shows a
+/// section that failed in shear, and so does the exit code.
 Exit showDesign(const fs::path& folder, const AnalysisSettings& settings) {
     if (readWhole(folder / working_file::beamDimensions).empty())
         return Exit::done;

@@ -1,5 +1,7 @@
 #include "toolkit/application.h"
 
+#include <malloc.h>
+
 #include <QApplication>
 #include <QIcon>
 #include <clocale>
@@ -48,6 +50,9 @@ void Hear(QtMsgType type, const QMessageLogContext& context, const QString& text
 }
 
 std::unique_ptr<QApplication> Start(int& argc, char** argv) {
+    // One pool of memory for all threads. Each other one would reserve 64 MiB of what a limit
+    // leaves.
+    mallopt(M_ARENA_MAX, 1);
     formerHandler = qInstallMessageHandler(Hear);
     auto application = std::make_unique<QApplication>(argc, argv);
     started = true;

@@ -93,6 +93,13 @@ void Graph::SetMarks(std::vector<GraphMark> marks) {
 
 void Graph::SetNote(const std::string& note) {
     Inner().note = ShownText(note);
+    Inner().warns = false;
+    Inner().Refresh();
+}
+
+void Graph::SetWarning(const std::string& warning) {
+    Inner().note = ShownText(warning);
+    Inner().warns = true;
     Inner().Refresh();
 }
 

@@ -40,6 +40,8 @@ class Graph : public Control {
     void SetValueFactor(double factor);
     void SetMarks(std::vector<GraphMark> marks);
     void SetNote(const std::string& note);
+    // The same in red: what is drawn must not be used.
+    void SetWarning(const std::string& warning);
     // The points, counted from 1, that bear the label of the greatest and of the least value where
     // several points have that value.
     void SetExtremes(int greatest, int least);

@@ -61,7 +61,8 @@ int GraphPlot::FitTitles() {
     const bool roomy = IsRoomy();
     const bool titled = viewport().height() >= 70;
     const QFontMetricsF noteMetrics(note_->font());
-    const QString hint = zoomed_ && !pictured_ ? "Double click shows all" : "";
+    const QString hint = zoomed_ && !pictured_ && !warns ? "Double click shows all" : "";
+    note_->setColor(NoteColour());
     QString text = note.isEmpty() || hint.isEmpty() ? note + hint : note + ". " + hint;
     if (!hint.isEmpty() && noteMetrics.horizontalAdvance(text) > viewport().width())
         text = hint;

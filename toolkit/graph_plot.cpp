@@ -15,6 +15,7 @@ namespace {
 constexpr qint64 FrameMs = 33;
 const QColor Ink(0x1a1a1a);
 const QColor Faint(0x6b7580);
+const QColor Warning(0xa61b1b);
 const QColor Curve(0x0a64ad);
 
 // Draws its line and what is below it in pieces: the cost grows with the square of their length.
@@ -47,6 +48,10 @@ QPen CurvePen(double width) {
 }
 
 }  // namespace
+
+QColor GraphPlot::NoteColour() const {
+    return warns ? Warning : Faint;
+}
 
 GraphPlot::GraphPlot(const GraphTitles& titles, QWidget* parent)
     : QCustomPlot(parent), xTitle_(ShownText(titles.x)), valueTitle_(ShownText(titles.value)) {

@@ -24,6 +24,7 @@ class GraphPlot : public QCustomPlot {
     double factor = 1;
     std::vector<GraphMark> marks;
     QString note;
+    bool warns = false;  // the note says that the curve must not be used
     // Of points that share the greatest or the least value, from 1; 0 is the first.
     int greatestPoint = 0;
     int leastPoint = 0;
@@ -58,6 +59,7 @@ class GraphPlot : public QCustomPlot {
     void FindExtremes();
     void FitToSize();
     int FitTitles();
+    QColor NoteColour() const;
     void FitCurve();
     void FitMarks();
     void ShowWhole();

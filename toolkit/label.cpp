@@ -41,6 +41,10 @@ void Label::SetForeColor(Colour colour) {
     Inner(*this).setPalette(palette);
 }
 
+void Label::SetWraps(bool wraps) {
+    Inner(*this).setWordWrap(wraps);
+}
+
 void Label::SetBuddy(Control& control) {
     Inner(*this).setBuddy(control.Widget());
     control.SetAccessibleName(WithoutAccessKey(ShownText(caption_)).toStdString());

@@ -16,6 +16,8 @@ class Label : public Control {
     // Keeps the label's place; one that was never given a size fits itself to the caption.
     void SetCaption(const std::string& caption);
     void SetForeColor(Colour colour);
+    // A caption that is too long for one line goes on in the next.
+    void SetWraps(bool wraps);
     // The access key moves the focus to this control, which also takes the caption as its name for
     // a screen reader. Without it the "&" only stays out of sight.
     void SetBuddy(Control& control);

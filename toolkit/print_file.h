@@ -12,7 +12,7 @@ namespace trabeon {
 
 class PrintFile {
   public:
-    // Where the printer prints to a file, it prints into a folder of its own beside that file,
+    // Where the printer prints to a file, it prints into a private folder beside that file,
     // whose name nobody can guess and where nobody else can write.
     explicit PrintFile(QPrinter& printer);
     // What did not take its place goes.

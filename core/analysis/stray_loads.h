@@ -1,4 +1,4 @@
-// Loads that do not lie on their member. The analysis takes them as they stand; users want to know.
+// Loads that do not lie on their member. The analysis takes them as entered; users want to know.
 #pragma once
 
 #include <cstddef>
@@ -10,7 +10,7 @@
 
 namespace trabeon {
 
-/// Row and member count from 1, the row in its file as it stands.
+/// Row and member count from 1; the row is its place in the file before the analysis.
 struct StrayLoad {
     std::string_view kind;  // "point load" or "distributed load"
     std::size_t row = 0;

@@ -29,9 +29,9 @@ class FileSet {
     std::deque<ReplacingFile> files_;
 };
 
-/// To be called by whoever holds the folder's lock, before reading files that a killed process may
-/// have left: finishes a set that was begun, and removes the temporary files of working files.
-/// Only names of working files are believed, whatever "Unfinished.set" says. Silent.
+/// Call it with the folder's lock held, before reading files that a killed process may have left.
+/// It finishes a set that was begun, and removes the temporary files of working files. It believes
+/// only names of working files in "Unfinished.set". Silent.
 void finishSet(const std::filesystem::path& folder);
 
 }  // namespace trabeon

@@ -9,7 +9,7 @@
 
 namespace trabeon {
 
-/// Who holds a folder, as far as the system tells.
+/// Who holds a folder, as far as the system knows.
 struct FolderHolder {
     long process = 0;  // its number; 0: not known
     std::string program;
@@ -18,7 +18,7 @@ struct FolderHolder {
 
 /// Holds a folder against other processes until it goes out of scope. The system keeps the lock
 /// (flock on the folder itself) and releases it when the process ends, however it ends, so nothing
-/// that is left behind can lock anybody out.
+/// that a dead process leaves can lock anybody out.
 class FolderLock {
   public:
     FolderLock() = default;

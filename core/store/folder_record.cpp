@@ -78,8 +78,11 @@ std::uint64_t fingerprint(std::initializer_list<std::string_view> texts) {
 }
 
 FolderRecord readRecord(const std::filesystem::path& folder) {
+    return recordOf(readWhole(folder / working_file::record));
+}
+
+FolderRecord recordOf(std::string_view text) {
     FolderRecord record;
-    const auto text = readWhole(folder / working_file::record);
     FieldReader lines(text);
     while (!lines.atEnd()) {
         const auto line = lines.nextLine();
@@ -105,9 +108,15 @@ std::uint64_t inputFingerprint(const std::filesystem::path& folder) {
 }
 
 Failure holdsOtherRows(const std::filesystem::path& folder) {
-    const auto record = readRecord(folder);
-    const auto dimensions = readWhole(folder / working_file::beamDimensions);
-    if (record.unpackedInput == inputFingerprint(folder) &&
+    constexpr std::array names{working_file::joint,          working_file::member,
+                               working_file::point,          working_file::udl,
+                               working_file::beamDimensions, working_file::record};
+    const auto texts = readFiles(folder, names);
+    if (!texts)
+        return texts.refusal();
+    const auto& [joints, members, points, udls, dimensions, recorded] = *texts;
+    const auto record = recordOf(recorded);
+    if (record.unpackedInput == fingerprint({joints, members, points, udls}) &&
         record.unpackedDimensions == fingerprint(dimensions))
         return std::nullopt;
     std::error_code missing;

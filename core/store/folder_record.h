@@ -13,7 +13,7 @@
 
 namespace trabeon {
 
-/// A number that stands for a text: another text has another one, but for one chance in 2^64.
+/// A number that identifies a text: two texts share one with a chance of one in 2^64.
 [[nodiscard]] std::uint64_t fingerprint(std::string_view text);
 
 /// One fingerprint of several, in their order.
@@ -36,6 +36,7 @@ struct FolderRecord {
 
 /// An unreadable or absent record knows nothing.
 [[nodiscard]] FolderRecord readRecord(const std::filesystem::path& folder);
+[[nodiscard]] FolderRecord recordOf(std::string_view text);
 [[nodiscard]] std::string textOf(const FolderRecord& record);
 
 /// Why a project must not be unpacked into a folder: files are in it that no project file put

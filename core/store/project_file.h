@@ -58,7 +58,7 @@ struct Project {
 /// not lose it. Silent: the title is still in the window.
 void keepTitle(const std::filesystem::path& folder, const ProjectTitle& title);
 
-/// The title that was kept; that of a new project where there is none.
+/// The title that was kept, or the title of a new project.
 [[nodiscard]] ProjectTitle titleIn(const std::filesystem::path& folder);
 
 /// Packs the working files of a folder, flushed to the disk. Refuses a title text that holds a

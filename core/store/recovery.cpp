@@ -37,7 +37,7 @@ bool isWithin(std::string_view text, std::string_view other) {
     return true;
 }
 
-/// "Recovered.TB", "Recovered 2.TB" ...: whatever earlier starts have recovered.
+/// "Recovered.TB", "Recovered 2.TB" ...: what earlier starts have recovered.
 bool isRecovered(const std::string& name) {
     return name == recoveredProject || (name.starts_with("Recovered ") && name.ends_with(".TB"));
 }

@@ -83,8 +83,11 @@ bool isWorkingFile(std::string_view name) {
 Outcome<std::string> readFile(const std::filesystem::path& file) {
     const OpenFile opened(file);
     struct stat status {};
-    if (opened.descriptor() < 0)
-        return errno == ENOENT ? Outcome<std::string>(std::string()) : unreadable(file, errno);
+    if (const int error = opened.descriptor() < 0 ? errno : 0) {
+        std::error_code unknown;
+        const bool isMissing = error == ENOENT && !std::filesystem::is_symlink(file, unknown);
+        return isMissing ? Outcome<std::string>(std::string()) : unreadable(file, error);
+    }
     if (::fstat(opened.descriptor(), &status) != 0)
         return unreadable(file, errno);
     if (S_ISDIR(status.st_mode))

@@ -17,7 +17,7 @@ void say(const Context& context, const std::string& event);
 /// Tells that closing a window has emptied it, and keeps what brings its content back.
 void sayEmptied(Context& context, const std::string& what, std::function<void()> bringBack);
 
-/// Brings back what the window held that was closed last. Nothing happens if there is none.
+/// Brings back the content of the window that was closed last, if any.
 void bringBackClosed(Context& context);
 
 /// Shows the number of joints and members, the length of the beam, and "Changed" while the flag is

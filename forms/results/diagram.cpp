@@ -99,11 +99,12 @@ void Diagram::draw(const DiagramCurve& curve, std::size_t count,
     });
     const char* side = isA ? kind_.sideA : kind_.sideB;
     const auto remark = stationsRemark(context_);
-    chart.SetNote(subject() + (!remark.empty() ? remark
-                               : curve.whole   ? side
-                                               : "Incomplete: analyse again"));
-    if (!remark.empty())
+    if (remark.empty()) {
+        chart.SetNote(subject() + (curve.whole ? side : "Incomplete: analyse again"));
+    } else {
+        chart.SetWarning(remark);
         say(context_, remark);
+    }
     std::size_t done = 0;
     for (const auto& point : curve.points) {
         chart.SetAutoAdvance(false);

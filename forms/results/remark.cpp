@@ -10,7 +10,7 @@ namespace trabeon {
 namespace {
 
 constexpr Colour darkRed = 0xA61B1B;
-constexpr int stripHeight = 330;
+constexpr int stripHeight = 480;  // two lines
 
 }  // namespace
 
@@ -27,6 +27,7 @@ std::string designRemark(Context& context) {
 
 RemarkStrip::RemarkStrip(Container& parent) : lblRemark(parent, "") {
     lblRemark.SetForeColor(darkRed);
+    lblRemark.SetWraps(true);
     lblRemark.SetVisible(false);
 }
 

@@ -192,7 +192,7 @@ TEST(PackAndUnpack, KeepTheTitleAndRefuseRowsThatExistNowhereElse) {
                          ? std::vector<std::string>{command, example(project), work}
                          : std::vector<std::string>{command, example(project), option, work});
     };
-    for (int time = 0; time < 2; ++time) {  // a folder of results of its own serves again
+    for (int time = 0; time < 2; ++time) {  // a run may use its own result folder again
         EXPECT_EQ(run("run", "two-span-floor-beam", "--out").exit, 0);
         EXPECT_EQ(batch({"analyse", work, "--divisions", "20"}).exit, 0);
         EXPECT_EQ(run("unpack", "five-span-with-cantilever").exit, 0);

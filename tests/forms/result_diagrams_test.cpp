@@ -184,7 +184,7 @@ TEST_F(ResultDiagrams, SayWhenTheyAreOfAnotherBeam) {
     EXPECT_EQ(WholeMoment().GraphCMoment.Note(), again);
     EXPECT_EQ(program.window().Event(), again);
     Moment().cboMember.SetListIndex(1);
-    EXPECT_EQ(Moment().GraphMoment1.Note(), "Member 2. " + again);
+    EXPECT_EQ(Moment().GraphMoment1.Note(), again);
     auto& table = forms().Get<frmBMData>();
     EXPECT_EQ(table.remark.lblRemark.Caption(), again);
     EXPECT_TRUE(table.remark.lblRemark.Visible());

@@ -1,10 +1,7 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
-#include "core/store/project_file.h"
 #include "tests/support/other_programs.h"
 #include "tests/support/temporary_folder.h"
-#include "tests/support/time_limit.h"
 
 namespace trabeon::test {
 namespace {
@@ -75,32 +72,6 @@ TEST(ReportProgram, AWordProcessorShowsItsDocumentWhole) {
          {"6 +Cantilever +Canopy edge", "5 +28 +0.0054 +2 +Canopy", "5 +0 +2 +15 +15 +Canopy roof",
           "Final .*\\+0.00E\\+00\n", "Span 5", "5 +12 +250 +450", "Shear OK Def. OK\n"})
         EXPECT_TRUE(text.contains(QRegularExpression(row))) << row;
-}
-
-/// Processor time and memory of the children, so that a busy machine does not count.
-TEST(ReportProgram, TwoHundredMembersTakeUnderTwentySecondsAndHalfAGigabyte) {
-    Project project;
-    for (int i = 1; i <= 201; ++i)
-        project.joints += std::to_string(i) + (i % 200 == 1 ? ",Fixed,A\r\n" : ",Continuous,A\r\n");
-    for (int i = 1; i <= 200; ++i) {
-        const auto member = std::to_string(i);
-        project.members += member + ",28,0.0054,6,A\r\n";
-        project.points += member + ",2," + std::to_string(20 + i % 50) + ",A\r\n";
-        project.udls += member + ",0,6,25,25,A\r\n";
-        for (int section = 1; section <= 12; ++section)
-            project.beamDimensions +=
-                member + "," + std::to_string(section) + ",250,450,400,25,460,200000,250,6\r\n";
-    }
-    const TemporaryFolder folder;
-    folder.write("long.TB", packedText(project));
-    const auto path = QString::fromStdString(folder.path().string());
-    rusage before{}, after{};
-    getrusage(RUSAGE_CHILDREN, &before);
-    const auto made = report({path + "/long.TB", "--out", path + "/long.docx"});
-    getrusage(RUSAGE_CHILDREN, &after);
-    EXPECT_EQ(made.exit, 0) << made.said;
-    EXPECT_LT(after.ru_utime.tv_sec - before.ru_utime.tv_sec, limit(20));
-    EXPECT_LT(after.ru_maxrss, limit(500) * 1024);  // KiB
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
-#include <QElapsedTimer>
 #include <QTimer>
 
 #include "tests/report/report_fixture.h"
-#include "tests/support/time_limit.h"
 
 namespace trabeon::test {
 namespace {
@@ -160,18 +158,6 @@ TEST_F(PreviewTest, TheReportsMenuHoldsTheProgramUntilItIsClosed) {
     Report().mnufilepreview.Choose();
     EXPECT_FALSE(forms().IsLoaded("frmDocPreview"));
     EXPECT_TRUE(forms().IsLoaded("frmReport"));
-}
-
-// A page costs that page: the last of many no more than the first.
-TEST_F(PreviewTest, APageOfALongReportComesAtOnce) {
-    AddPictures(60, 600, 400);
-    ASSERT_EQ(Preview().cboPageno.ListCount(), 30);
-    QElapsedTimer turning;
-    for (const int page : {1, 15, 28, 29}) {
-        turning.start();
-        Preview().cboPageno.SetListIndex(page);
-        EXPECT_LT(static_cast<double>(turning.elapsed()), limit(1000)) << "page " << page + 1;
-    }
 }
 
 }  // namespace

@@ -7,13 +7,11 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QTreeWidget>
-#include <ctime>
 #include <map>
 #include <string>
 #include <vector>
 
 #include "tests/support/program_fixture.h"
-#include "tests/support/time_limit.h"
 #include "toolkit/list_view.h"
 #include "toolkit/picture_box.h"
 #include "toolkit/text_box.h"
@@ -112,15 +110,6 @@ class EditorTest : public ProgramTest {
         for (int i = 1; i <= count; ++i)
             rows += std::to_string(i) + ",200,2,6,\"a description of the usual length\"\r\n";
         return rows;
-    }
-
-    /// Milliseconds of this process, whatever else the machine does.
-    template <class Work>
-    static double Cost(Work work) {
-        const auto begin = std::clock();
-        work();
-        QApplication::processEvents();
-        return 1000.0 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
     }
 
     /// Every control stands inside its form and none on another; captions are not cut.

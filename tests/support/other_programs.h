@@ -23,7 +23,7 @@ inline Run run(const QString& program, const QStringList& words) {
     environment.remove("DISPLAY");
     process.setProcessEnvironment(environment);
     process.start(program, words);
-    process.waitForFinished(600000);
+    process.waitForFinished(-1);
     return {process.exitCode(), process.readAllStandardError().toStdString(),
             process.readAllStandardOutput()};
 }

@@ -243,7 +243,7 @@ TEST(ReplacingFile, NamesThatAreAsLongAsTheyMayBeAreWritten) {
     EXPECT_EQ(folder.contents(), (std::map<std::string, std::string>{{longest, "new"}}));
 }
 
-/// Runs in a process of its own; how that ended.
+/// Runs in a separate process; returns its wait status.
 int statusOf(const std::function<void()>& run) {
     const pid_t child = fork();
     if (child == 0) {
