@@ -45,14 +45,14 @@ std::string helpText(const std::vector<CommandForm>& commands) {
         text += "\n" + usageOf(form) + "\n    " + std::string(form.purpose) +
                 "\n    Example: " + std::string(form.example) + "\n";
     return text +
-           "\n--divisions: equal parts of each span, 1 to 10000 (default 10). --places: decimal "
-           "places to\n"
-           "which the position of a maximum is searched, 0 to 12 (default 3). --cover, --link and\n"
-           "--aggregate: cover, assumed link size and aggregate size (defaults 25, 10, 0).\n"
-           "--no-restrict: spans over 10 m keep their basic span to depth ratio.\n"
-           "Exit code: 0 done, 1 refused or a section failed in shear (the reason stands on "
-           "standard\n"
-           "error), 2 wrong usage.\n";
+           "\n--divisions N    equal parts of each span, 1 to 10000 (default 10)\n"
+           "--places N       decimal places of the position of a maximum, 0 to 12 (default 3)\n"
+           "--cover MM       concrete cover (default 25)\n"
+           "--link MM        assumed size of the links (default 10)\n"
+           "--aggregate MM   largest size of the aggregate (default 0)\n"
+           "--no-restrict    spans over 10 m keep their basic span to depth ratio\n"
+           "\nExit code: 0 done; 1 refused, or a section failed in shear (standard error says why);\n"
+           "2 wrong usage.\n";
 }
 
 std::optional<std::string> CommandLine::option(std::string_view name) const {

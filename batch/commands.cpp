@@ -201,7 +201,8 @@ Outcome<Project> unpackInto(const std::string& file, const fs::path& folder, Fol
     std::error_code error;
     fs::create_directories(folder, error);
     if (!fs::is_directory(folder, error))
-        return Refusal{"The folder \"" + folder.string() + "\" cannot be made. Name another one."};
+        return Refusal{"The folder \"" + folder.string() +
+                       "\" cannot be created. Name another one."};
     if (auto failure = enter(folder, lock))
         return *failure;
     if (auto failure = holdsOtherRows(folder))
@@ -223,7 +224,7 @@ Exit packCommand(const CommandLine& line) {
     if (auto failure = enter(folder, lock))
         return refused(*failure);
     if (std::error_code unknown; !fs::exists(folder / working_file::joint, unknown))
-        return refused({"\"" + folder.string() + "\" holds no beam: there is no Joint.txt in it."});
+        return refused({"\"" + folder.string() + "\" contains no beam: it has no Joint.txt."});
     if (auto failure = unfitProjectFile(line.operands[1]))
         return refused(*failure);
     const auto kept = titleIn(folder);
@@ -245,7 +246,7 @@ void show(const ProjectTitle& title, const Analysis& analysis, const fs::path& f
         std::printf("Balance table (clockwise positive)\n%s\n",
                     balanceTableStrips(readWhole(file), terminalWidth()).c_str());
     else
-        std::printf("The balance table of the %zu members stands in \"%s\".\n\n",
+        std::printf("The balance table of the %zu members is in \"%s\".\n\n",
                     analysis.beam.members(), file.string().c_str());
     std::fputs(resultTables(analysis).c_str(), stdout);
 }
@@ -305,26 +306,23 @@ const std::vector<CommandForm>& commands() {
          runCommand,
          "FILE.TB",
          {"--divisions N", "--places N", "--out DIR"},
-         "Analyses a project and shows the balance table, the moments, the maxima and the "
-         "reactions; "
-         "with dimensions, also the governing sections of its design. The "
-         "result files go to DIR, or to a folder beside the project: \"beam\" for \"beam.TB\", "
-         "\"beam results\" for a project without an ending.",
+         "Analyses a project. Shows the balance table, the moments, the maxima and the\n"
+         "    reactions, and designs the sections if the project has dimensions. The result\n"
+         "    files go to DIR. Without --out they go to a folder beside the project: \"beam\"\n"
+         "    for \"beam.TB\", \"beam results\" for a project without an ending.",
          "trabeon-batch run examples/two-span-floor-beam.TB"},
         {"analyse",
          analyseCommand,
          "DIR",
          {"--divisions N", "--places N"},
-         "Analyses the beam whose working files stand in a folder, and leaves the result files "
-         "there.",
+         "Analyses the beam in a folder of working files. Writes the result files there.",
          "trabeon-batch analyse work --divisions 20"},
         {"design",
          designCommand,
          "DIR",
          {"--divisions N", "--cover MM", "--link MM", "--aggregate MM", "--no-restrict"},
-         "Designs the sections of the analysed beam in a folder, at the divisions of its analysis, "
-         "and "
-         "leaves the design results there.",
+         "Designs the sections of the analysed beam in a folder. Writes the design results\n"
+         "    there. The divisions must be those of the analysis.",
          "trabeon-batch design work --aggregate 20"},
         {"tables",
          tablesCommand,
@@ -336,14 +334,13 @@ const std::vector<CommandForm>& commands() {
          unpackCommand,
          "FILE.TB DIR",
          {},
-         "Takes a project file apart into the working files of a folder.",
+         "Unpacks a project file into the working files of a folder.",
          "trabeon-batch unpack examples/two-span-floor-beam.TB work"},
         {"pack",
          packCommand,
          "DIR FILE.TB",
          {"--title T", "--designer D", "--beam B"},
-         "Packs the working files of a folder into a project file. A file that is there and is no "
-         "project stays.",
+         "Packs the working files of a folder into a project file. Replaces only a project.",
          "trabeon-batch pack work beam.TB --title \"Warehouse\" --designer \"A. Engineer\" --beam "
          "B1"},
     };

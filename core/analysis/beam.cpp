@@ -48,7 +48,8 @@ Failure unfitSpelling(const std::vector<JointRow>& joints, const std::vector<Joi
 Failure unfitMember(const MemberRow& row, std::size_t number, const Beam& beam) {
     const auto bad = [&](std::string_view what, const std::string& text) {
         return Refusal{"Member " + std::to_string(number) + ": " + std::string(what) + " is \"" +
-                       excerpt(text) + "\". It must be a number above 0; mend the member's row."};
+                       excerpt(text) +
+                       "\". It must be a number above 0; correct the member's row."};
     };
     if (!isMeasure(beam.MemberE[number]))
         return bad("E", row.E);

@@ -122,8 +122,9 @@ Failure holdsOtherRows(const std::filesystem::path& folder) {
     std::error_code missing;
     for (const auto name : workingFiles)
         if (isUsers(name) && std::filesystem::file_size(folder / name, missing) > 0 && !missing)
-            return Refusal{"The folder \"" + folder.string() + "\" holds \"" + std::string(name) +
-                           "\", which no project file put there or which was changed since. Name "
+            return Refusal{"The folder \"" + folder.string() + "\" contains \"" +
+                           std::string(name) +
+                           "\", which does not come from a project file or was changed since. Name "
                            "another folder, or save these rows first (trabeon-batch pack) and "
                            "empty it; nothing was changed."};
     return std::nullopt;

@@ -32,7 +32,7 @@ bool begins(const fs::path& file, std::string_view start) {
 }
 
 Refusal taken(const fs::path& file, std::string_view kind) {
-    return {"\"" + file.string() + "\" is there already and is no " + std::string(kind) +
+    return {"\"" + file.string() + "\" already exists and is not a " + std::string(kind) +
             ". Name another file; nothing was changed."};
 }
 

@@ -196,7 +196,7 @@ std::string titleLines(const ProjectTitle& title) {
 Outcome<std::string> projectText(const std::filesystem::path& file) {
     std::error_code missing;
     if (!std::filesystem::exists(file, missing))
-        return Refusal{"\"" + file.string() + "\" is not there. Choose a project file (*.TB)."};
+        return Refusal{"\"" + file.string() + "\" does not exist. Choose a project file (*.TB)."};
     auto text = readFile(file);
     if (text && isUtf16(*text))
         return Refusal{
@@ -210,7 +210,7 @@ Outcome<Project> checkedProject(std::string_view text, const std::filesystem::pa
     auto project = unpackedProject(text);
     if (!project)
         return Refusal{"\"" + file.string() + "\" is not a whole project file: " +
-                       project.refusal().sentence + ". Mend that line; nothing was changed."};
+                       project.refusal().sentence + ". Correct that line; nothing was changed."};
     return project;
 }
 
@@ -306,9 +306,9 @@ Outcome<std::uint64_t> packProject(const std::filesystem::path& folder, const Pr
     const auto text = packedText(*project);
     if (const auto again = unpackedProject(text); !again)
         return Refusal{
-            "The project was not saved, for it could not be opened again: of what would "
+            "The project was not saved, because it could not be opened again: of what would "
             "be written, " +
-            again.refusal().sentence + ". Mend that row, then save again."};
+            again.refusal().sentence + ". Correct that row, then save again."};
     if (auto failure = replaceFile(file, text, Survives::powerCut))
         return *failure;
     return fingerprint(text);

@@ -28,7 +28,7 @@ Outcome<fs::path> resolved(const fs::path& target) {
     auto file = fs::canonical(target, error);
     if (!error)
         return file;
-    return Refusal{quoted(target) + " is a link to a file that is not there (" + error.message() +
+    return Refusal{quoted(target) + " is a link to a file that does not exist (" + error.message() +
                    "). Remove the link or choose another name; nothing was changed."};
 }
 

@@ -107,7 +107,7 @@ Failure missing(const std::filesystem::path& folder, std::span<const std::string
     for (const auto name : names)
         if (!std::filesystem::exists(folder / name, error))
             return Refusal{'"' + (folder / name).string() +
-                           "\" has gone: another program took away rows of the open project. Put "
+                           "\" is missing: another program removed rows of the open project. Put "
                            "the file back, or choose New; nothing was changed."};
     return std::nullopt;
 }

@@ -137,7 +137,7 @@ TEST(Run, LongBeamShowsItsMomentsAndSaysWhereItsTableIs) {
     ASSERT_EQ(batch({"pack", folder.path().string(), project}).exit, 0);
     const auto answer = batch({"run", project});
     // Many equal spans: wL²/12 = 36 at the supports in the middle.
-    expectAll(answer.out, {"The balance table of the 21 members stands in \"" +
+    expectAll(answer.out, {"The balance table of the 21 members is in \"" +
                                (folder / "long/TB.txt").string() + "\".",
                            "\n11               -36         -36",
                            "Reactions add up to 1512, loads to 1512: they agree."});
@@ -203,7 +203,7 @@ TEST(PackAndUnpack, KeepTheTitleAndRefuseRowsThatExistNowhereElse) {
     for (const auto& answer :
          {run("run", "two-span-floor-beam", "--out"), run("unpack", "two-span-floor-beam")}) {
         EXPECT_EQ(answer.exit, 1);
-        expectAll(answer.err, {"The folder \"" + work + "\" holds \"Joint.txt\""});
+        expectAll(answer.err, {"The folder \"" + work + "\" contains \"Joint.txt\""});
     }
     expectAll(folder.read("work/Joint.txt"), {"7,Fixed,typed"});
 }

@@ -263,7 +263,7 @@ TEST_F(MainWindow, CancelledOrRefusedOpenLeavesTheProjectAsItWas) {
     outside.ExpectOpen("Open Trabeon File", bad);
     outside.ExpectMsgBox("\"" + bad +
                          "\" is not a whole project file: line 4: the file ends where the designer "
-                         "was expected. Mend that line; nothing was changed.");
+                         "was expected. Correct that line; nothing was changed.");
     Choose("&File|&Open");
     EXPECT_EQ(folder.contents(), before);
     EXPECT_EQ(caption(), name);
@@ -322,7 +322,7 @@ TEST_F(MainWindow, RowsThatWereTakenAwayAreNotTakenForNone) {
     context().CommonDialog1.FileName = job;
     const auto rows = folder.read("Joint.txt");
     const auto gone = '"' + (folder / "Joint.txt").string() +
-                      "\" has gone: another program took away rows of the open project. Put the "
+                      "\" is missing: another program removed rows of the open project. Put the "
                       "file back, or choose New; nothing was changed.";
     fs::remove(folder / "Joint.txt");
     auto& joints = forms().Get<frmJoints>();

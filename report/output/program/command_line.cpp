@@ -77,17 +77,16 @@ Failure readOption(const std::string& name, const std::string& value, ReportComm
 
 std::string reportHelp() {
     return std::string(
-               "Makes the document of a project: unpacks, analyses and designs it. Needs "
-               "no display.\n\n") +
+               "Analyses and designs a project and writes its document. Needs no display.\n\n") +
            usage +
            "\n    Example: trabeon-report examples/two-span-floor-beam.TB --out beam.docx\n\n" +
-           "--divisions: equal parts of each span, 1 to 10000 (default 10). --places: decimal "
-           "places to\nwhich the position of a maximum is searched, 0 to 12 (default 3). --kinds: "
-           "what goes in, of\n" +
+           "--out FILE       the document; replaces only a document\n"
+           "--divisions N    equal parts of each span, 1 to 10000 (default 10)\n"
+           "--places N       decimal places of the position of a maximum, 0 to 12 (default 3)\n"
+           "--kinds K,K,...  what the document contains (default: everything), of\n"
+           "                 " +
            allKinds() +
-           " (default all). --out: a document that is there is replaced, any other file stays.\nExit "
-           "code: 0 done, 1 refused (the reason stands on standard error), 2 "
-           "wrong usage.\n";
+           "\n\nExit code: 0 done; 1 refused (standard error says why); 2 wrong usage.\n";
 }
 
 Outcome<ReportCommand> readReportCommand(const std::vector<std::string>& words) {

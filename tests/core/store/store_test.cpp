@@ -118,7 +118,7 @@ TEST(RowEditing, AFailureLeavesTheUsersRows) {
     EXPECT_EQ(folder.read("Joint.txt"), rows);
     std::filesystem::remove(folder / "Joint.txt");
     for (const auto* reason :
-         {"Joint.txt\" has gone", "Joint.txt\" cannot be read (it is a folder"}) {
+         {"Joint.txt\" is missing", "Joint.txt\" cannot be read (it is a folder"}) {
         failure = addRow<JointRow>(folder.path(), 0, {" 1", "Fixed", "None"});
         ASSERT_TRUE(failure);
         EXPECT_NE(failure->sentence.find(reason), std::string::npos) << failure->sentence;
@@ -215,7 +215,7 @@ TEST(ReplacingFile, WritesThroughNothingThatWasPlanted) {
     ASSERT_FALSE(replaceFile(folder / "a.TB", "new"));
     EXPECT_EQ(folder.read("victim") + folder.read("other name"), "keptold");
     const std::pair<const char*, const char*> refused[] = {
-        {"dangling.TB", "is a link to a file that is not there"},
+        {"dangling.TB", "is a link to a file that does not exist"},
         {"folder.TB", "is a folder, not a file"},
         {"pipe.TB", "is a device, not a file"},
         {"protected.TB", "is write-protected"},
@@ -315,7 +315,7 @@ TEST(FolderRecord, KnowsWhichRowsExistNowhereElse) {
     };
     EXPECT_EQ(refused(), "");
     folder.write("Udl.txt", "1,0,6,12,12,\"typed\"\r\n");
-    EXPECT_NE(refused().find("holds \"Udl.txt\""), std::string::npos);
+    EXPECT_NE(refused().find("contains \"Udl.txt\""), std::string::npos);
     Project project;
     project.joints = "1,Fixed,\"None\"\r\n";
     project.beamDimensions = "1,1,300,500,450,30,460,200000,250,6\r\n";
