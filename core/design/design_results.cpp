@@ -7,10 +7,6 @@
 
 namespace trabeon {
 
-double threeFiguresNumber(double value) {
-    return leadingNumber(threeFigures(value));
-}
-
 double wholePart(double value) {
     return std::floor(leadingNumber(generatedText(value)));
 }

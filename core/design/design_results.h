@@ -35,9 +35,6 @@ struct DesignRow {
     static constexpr bool described = false;
 };
 
-/// The number that the mask "0.00E+00" leaves of a value: 1.236 is 1.24.
-[[nodiscard]] double threeFiguresNumber(double value);
-
 /// The largest whole number not above a value, taken at 15 significant digits: what is 3150 on
 /// paper does not become 3149.
 [[nodiscard]] double wholePart(double value);

@@ -6,6 +6,7 @@
 #include "core/design/links.h"
 #include "core/design/reinforcement_tables.h"
 #include "core/design/shear.h"
+#include "core/text/number_masks.h"
 #include "tests/support/table.h"
 
 namespace trabeon {
