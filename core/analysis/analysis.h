@@ -44,7 +44,7 @@ struct AnalysisOutputs {
     std::function<void(double)> progress = [](double) {};
     std::function<void(const BeamRows&)> rowsRead = [](const BeamRows&) {};
 
-    void refuse(const Refusal& why) const { message({why.sentence, 48, "Trabeon"}); }
+    void refuse(const Refusal& why) const { message({why.sentence, MessageKind::refusal}); }
 };
 
 /// The loads in normal form, the end moments, the stations and the maxima. The table's rows went

@@ -85,7 +85,7 @@ void BalanceTableWriter::write(const TableRow& row) {
 
 void writeStations(ReplacingFile& file, const Analysis& analysis) {
     for (std::size_t span = 1; span <= analysis.beam.members(); ++span) {
-        file.write("Span" + printForm(static_cast<double>(span)) + "\r\n");
+        file.write("Span" + printForm(span) + "\r\n");
         const auto& maximum = analysis.maxima[span - 1];
         bool written = false;
         for (const auto& station : analysis.stationsOf(span)) {
@@ -101,7 +101,7 @@ void writeStations(ReplacingFile& file, const Analysis& analysis) {
 void writeMaxima(ReplacingFile& file, const Analysis& analysis) {
     for (std::size_t span = 1; span <= analysis.beam.members(); ++span) {
         const auto& [x, forces] = analysis.maxima[span - 1];
-        file.write("Span #" + printForm(static_cast<double>(span)) + "\r\n");
+        file.write("Span #" + printForm(span) + "\r\n");
         file.write(printForm(x) + ',' + threeFigures(forces.moment) + ',' +
                    threeFigures(forces.shear) + "\r\n");
     }

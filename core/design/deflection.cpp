@@ -4,8 +4,8 @@
 #include <cmath>
 #include <utility>
 
-#include "core/analysis/beam.h"
 #include "core/design/notes.h"
+#include "core/rules/joint_types.h"
 
 namespace trabeon {
 

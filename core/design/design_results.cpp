@@ -14,20 +14,11 @@ double wholePart(double value) {
 DesignRow DesignResult(const SectionResult& result) {
     const auto cut = [](double value) { return generatedText(wholePart(value)); };
     const auto rounded = [](double value) { return generatedText(threeFiguresNumber(value)); };
-    return {generatedText(static_cast<double>(result.Member)),
-            rounded(result.x),
-            cut(result.Asreq),
-            cut(result.Aspreq),
-            cut(result.Asprov),
-            cut(result.Aspprov),
-            cut(result.MaxRein),
-            result.MomentRein,
-            rounded(result.AsvOsvreq),
-            rounded(result.AsvOsvprov),
-            result.ShearRein,
-            cut(result.DefActual),
-            cut(result.DefAllow),
-            result.DefNote};
+    return {generatedText(result.Member), rounded(result.x),  cut(result.Asreq),
+            cut(result.Aspreq),           cut(result.Asprov), cut(result.Aspprov),
+            cut(result.MaxRein),          result.MomentRein,  rounded(result.AsvOsvreq),
+            rounded(result.AsvOsvprov),   result.ShearRein,   cut(result.DefActual),
+            cut(result.DefAllow),         result.DefNote};
 }
 
 }  // namespace trabeon
