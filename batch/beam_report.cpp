@@ -8,6 +8,7 @@
 
 #include "batch/text_table.h"
 #include "core/analysis/settled_sum.h"
+#include "core/text/number_masks.h"
 
 namespace trabeon {
 namespace {
@@ -40,10 +41,11 @@ std::string spanTable(const Analysis& analysis) {
     std::string text = tableLine("Member", {"M left", "M right", "at x", "M max", "shear there"});
     for (std::size_t i = 1; i <= analysis.beam.members(); ++i) {
         const auto stations = analysis.stationsOf(i);
-        const auto& maximum = analysis.maxima[i - 1];
-        text += tableLine(std::to_string(i), {figure(stations.front().forces.moment),
-                                              figure(stations.back().forces.moment),
-                                              figure(maximum.x), maximum.moment, maximum.shear});
+        const auto& [x, forces] = analysis.maxima[i - 1];
+        text +=
+            tableLine(std::to_string(i), {figure(stations.front().forces.moment),
+                                          figure(stations.back().forces.moment), figure(x),
+                                          threeFigures(forces.moment), threeFigures(forces.shear)});
     }
     return text;
 }

@@ -2,14 +2,16 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 
 #include "core/analysis/fixed_end_moments.h"
+#include "core/analysis/maximum_search.h"
 #include "core/text/number_text.h"
 
 namespace trabeon {
 namespace {
 
-bool structureHolds(const BeamRows& rows, const MessageSink& show) {
+bool passesRules(const BeamRows& rows, const MessageSink& show) {
     bool JointError = false;
     bool MemberError = false;
     CheckJoint(rows.joints, JointError, show);
@@ -36,14 +38,23 @@ Failure unfit(const std::vector<Station>& stations, std::size_t perSpan) {
     return std::nullopt;
 }
 
-Failure unfit(const std::vector<SpanMaximum>& maxima) {
-    for (std::size_t k = 0; k < maxima.size(); ++k)
-        if (maxima[k].moment.empty() || maxima[k].shear.empty())
-            return tooLarge(k + 1);
-    return std::nullopt;
+std::vector<Station> searchMaxima(const LoadedBeam& loaded, std::span<const Station> stations,
+                                  const AnalysisSettings& settings,
+                                  const AnalysisOutputs& outputs) {
+    const auto n = loaded.beam.members();
+    const auto perSpan = stations.size() / n;
+    const double CorrectTo = 1 / std::pow(10, settings.places + 1);
+    std::vector<Station> maxima;
+    maxima.reserve(n);
+    for (std::size_t span = 1; span <= n; ++span) {
+        const auto own = stations.subspan((span - 1) * perSpan, perSpan);
+        maxima.push_back(searchMaximum(loaded, span, own, CorrectTo));
+        outputs.progress(50 + 50 * static_cast<double>(span) / static_cast<double>(n));
+    }
+    return maxima;
 }
 
-/// The calculation from a sound structure on.
+/// The calculation of a beam whose structure passed the rules.
 Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
                             const TableSink& tableRow, const AnalysisOutputs& outputs) {
     if (auto failure = unfit(settings))
@@ -68,17 +79,16 @@ Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
     if (!Final)
         return Final.refusal();
 
-    SpanResults results(*udls, *points, static_cast<int>(settings.Divisions));
-    const double CorrectTo = 1 / std::pow(10, settings.places + 1);
-    auto maxima = searchMaxima(results, *beam, *Final, CorrectTo, [&](std::size_t span) {
-        outputs.progress(50 + 50 * static_cast<double>(span) / static_cast<double>(n));
-    });
-    if (auto failure = unfit(results.stations(), results.stationsPerSpan()))
+    const LoadedBeam loaded{*beam, *Final, *udls, *points};
+    const auto Divisions = static_cast<std::size_t>(settings.Divisions);
+    auto stations = FindMxSx(loaded, Divisions);
+    if (auto failure = unfit(stations, Divisions + 1))
         return *failure;
-    if (auto failure = unfit(maxima))
+    auto maxima = searchMaxima(loaded, stations, settings, outputs);
+    if (auto failure = unfit(maxima, 1))
         return *failure;
-    return Analysis{std::move(*beam),  std::move(*points),     std::move(*udls),
-                    std::move(*Final), results.takeStations(), std::move(maxima)};
+    return Analysis{std::move(*beam),  std::move(*points),  std::move(*udls),
+                    std::move(*Final), std::move(stations), std::move(maxima)};
 }
 
 }  // namespace
@@ -105,7 +115,7 @@ BeamRows readBeamRows(const std::filesystem::path& folder) {
 std::optional<Analysis> analyse(BeamRows rows, const AnalysisSettings& settings,
                                 const TableSink& tableRow, const AnalysisOutputs& outputs) {
     outputs.progress(0);
-    if (!structureHolds(rows, outputs.message))
+    if (!passesRules(rows, outputs.message))
         return std::nullopt;
     auto analysis = calculate(std::move(rows), settings, tableRow, outputs);
     if (analysis)

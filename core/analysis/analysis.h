@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "core/analysis/beam.h"
-#include "core/analysis/maximum_search.h"
 #include "core/analysis/member_loads.h"
 #include "core/analysis/relaxation.h"
 #include "core/analysis/span_results.h"
@@ -45,7 +44,7 @@ struct AnalysisOutputs {
     std::function<void(double)> progress = [](double) {};
     std::function<void(const BeamRows&)> rowsRead = [](const BeamRows&) {};
 
-    void refuse(const Refusal& why) const { message({why.sentence, 48, "Trabeon"}); }
+    void refuse(const Refusal& why) const { message({why.sentence, MessageKind::refusal}); }
 };
 
 /// The loads in normal form, the end moments, the stations and the maxima. The table's rows went
@@ -54,9 +53,9 @@ struct Analysis {
     Beam beam;
     MemberLoads<PointLoad> points;
     MemberLoads<UdlLoad> udls;
-    std::vector<double> Final;        // by member end, clockwise positive, from 1
-    std::vector<Station> stations;    // Divisions + 1 a span, one span behind the other
-    std::vector<SpanMaximum> maxima;  // one a span
+    std::vector<double> Final;      // by member end, clockwise positive, from 1
+    std::vector<Station> stations;  // Divisions + 1 for each span, first span first
+    std::vector<Station> maxima;    // one for each span
 
     [[nodiscard]] std::span<const Station> stationsOf(std::size_t span) const {
         const auto perSpan = stations.size() / maxima.size();

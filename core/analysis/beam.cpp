@@ -1,37 +1,30 @@
 #include "core/analysis/beam.h"
 
-#include <array>
-#include <cctype>
 #include <cmath>
 #include <string>
 
+#include "core/rules/structure_rules.h"
 #include "core/text/number_text.h"
 #include "core/text/readable.h"
 
 namespace trabeon {
 namespace {
 
-constexpr std::array<std::string_view, 5> jointNames{"", "Cantilever", "Pin Jointed", "Continuous",
-                                                     "Fixed"};
-
 bool isMeasure(double value) {
     return value > 0 && std::isfinite(value);
 }
 
-/// A type that was spelled by hand ("fixed", "PIN") passed the rules as no type at all; as the type
-/// that it is taken for it must pass them too.
+/// The rules pass over a type that is not spelled exactly ("fixed", "PIN"). Such a beam must also
+/// pass them with the types that the analysis takes.
 Failure unfitSpelling(const std::vector<JointRow>& joints, const std::vector<Joint>& types) {
-    const auto nameOf = [&](std::size_t j) {
-        return jointNames[static_cast<std::size_t>(types[j])];
-    };
     std::size_t misspelled = 1;
-    while (misspelled <= joints.size() && joints[misspelled - 1].type == nameOf(misspelled))
+    while (misspelled <= joints.size() && joints[misspelled - 1].type == nameOf(types[misspelled]))
         ++misspelled;
     if (misspelled > joints.size())
         return std::nullopt;
     auto spelled = joints;
     for (std::size_t j = 1; j <= joints.size(); ++j)
-        spelled[j - 1].type = nameOf(j);
+        spelled[j - 1].type = nameOf(types[j]);
     bool error = false;
     std::string first;
     CheckJoint(spelled, error, [&](const Message& message) {
@@ -42,7 +35,7 @@ Failure unfitSpelling(const std::vector<JointRow>& joints, const std::vector<Joi
         return std::nullopt;
     return Refusal{"Joint " + std::to_string(misspelled) + ", whose type \"" +
                    excerpt(joints[misspelled - 1].type) + "\" was taken for " +
-                   std::string(nameOf(misspelled)) + ": " + first};
+                   std::string(nameOf(types[misspelled])) + ": " + first};
 }
 
 Failure unfitMember(const MemberRow& row, std::size_t number, const Beam& beam) {
@@ -65,21 +58,6 @@ Failure unfitMember(const MemberRow& row, std::size_t number, const Beam& beam) 
 }
 
 }  // namespace
-
-Joint jointOf(std::string_view type) {
-    std::string letters(type.substr(0, 3));
-    for (char& c : letters)
-        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    if (letters == "can")
-        return Joint::cantilever;
-    if (letters == "pin")
-        return Joint::pin;
-    if (letters == "con")
-        return Joint::continuous;
-    if (letters == "fix")
-        return Joint::fixed;
-    return Joint::unknown;
-}
 
 Outcome<Beam> beamOf(const std::vector<JointRow>& joints, const std::vector<MemberRow>& members) {
     Beam beam;

@@ -6,14 +6,10 @@
 #include <vector>
 
 #include "core/outcome.h"
-#include "core/rules/structure_rules.h"
+#include "core/rules/joint_types.h"
+#include "core/store/rows.h"
 
 namespace trabeon {
-
-/// What a joint is, known by the first three letters of its type in any case.
-enum class Joint { unknown = 0, cantilever = 1, pin = 2, continuous = 3, fixed = 4 };
-
-[[nodiscard]] Joint jointOf(std::string_view type);
 
 /// All arrays count from 1; element 0 is not used and is 0.
 struct Beam {

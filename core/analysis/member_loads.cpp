@@ -1,5 +1,6 @@
 #include "core/analysis/member_loads.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 #include <utility>
@@ -15,13 +16,6 @@ Refusal named(std::string_view load, std::size_t row, std::size_t member, const 
 }
 
 }  // namespace
-
-std::size_t memberOf(std::string_view text, std::size_t members) {
-    const double number = leadingNumber(text);
-    const bool one =
-        number >= 1 && number <= static_cast<double>(members) && number == std::floor(number);
-    return one ? static_cast<std::size_t>(number) : 0;
-}
 
 PointLoad::PointLoad(const PointRow& row) : a(leadingNumber(row.a)), P(leadingNumber(row.P)) {}
 
@@ -47,47 +41,43 @@ Failure UdlLoad::unfit() const {
 
 template <class Load>
 Outcome<MemberLoads<Load>> normalForm(std::vector<typename Load::Row> rows, std::size_t members) {
-    // Loads counted per member give each member's place; the rows then go there in their order.
-    std::vector<std::pair<std::size_t, Load>>
-        kept;  // member and load, row by row; member 0: dropped
-    std::vector<std::size_t> first(members + 2, 0);
+    struct Kept {
+        std::size_t member, row;
+        Load load;
+    };
+    std::vector<Kept> kept;
     kept.reserve(rows.size());
     for (std::size_t k = 0; k < rows.size(); ++k) {
-        Load load(rows[k]);
-        const auto member = load.isZero() ? 0 : memberOf(rows[k].member, members);
-        if (member > 0)
-            if (const auto why = load.unfit())
-                return named(Load::name, k + 1, member, *why);
-        kept.emplace_back(member, load);
-        if (member > 0)
-            ++first[member];
-    }
-    std::size_t place = 0;
-    for (std::size_t i = 1; i <= members; ++i) {
-        const auto count = std::max<std::size_t>(first[i], 1);
-        first[i] = place;
-        place += count;
-    }
-    first[members + 1] = place;
-
-    MemberLoads<Load> normal{{}, {}, std::move(first)};
-    normal.rows.resize(place);
-    normal.loads.resize(place, Load(Load::zeroRow()));
-    auto next = normal.first;
-    for (std::size_t k = 0; k < rows.size(); ++k) {
-        const auto member = kept[k].first;
+        const Load load(rows[k]);
+        const auto member = load.isZero() ? 0 : wholeNumberUpTo(members, rows[k].member);
         if (member == 0)
             continue;
-        normal.rows[next[member]] = std::move(rows[k]);
-        normal.loads[next[member]++] = kept[k].second;
+        if (const auto why = load.unfit())
+            return named(Load::name, k + 1, member, *why);
+        kept.push_back({member, k, load});
     }
+    std::stable_sort(kept.begin(), kept.end(),
+                     [](const Kept& a, const Kept& b) { return a.member < b.member; });
+
+    MemberLoads<Load> normal;
+    normal.rows.reserve(kept.size() + members);
+    normal.loads.reserve(kept.size() + members);
+    normal.first.assign(members + 2, 0);
+    auto next = kept.begin();
     for (std::size_t i = 1; i <= members; ++i) {
-        if (next[i] == normal.first[i])
-            normal.rows[next[i]] = Load::zeroRow();
-        const auto number = generatedText(static_cast<double>(i));
-        for (auto k = normal.first[i]; k < normal.first[i + 1]; ++k)
-            normal.rows[k].member = number;
+        normal.first[i] = normal.rows.size();
+        for (; next != kept.end() && next->member == i; ++next) {
+            normal.rows.push_back(std::move(rows[next->row]));
+            normal.loads.push_back(next->load);
+        }
+        if (normal.first[i] == normal.rows.size()) {
+            normal.rows.push_back(Load::zeroRow());
+            normal.loads.emplace_back(normal.rows.back());
+        }
+        for (auto k = normal.first[i]; k < normal.rows.size(); ++k)
+            normal.rows[k].member = generatedText(i);
     }
+    normal.first[members + 1] = normal.rows.size();
     return normal;
 }
 

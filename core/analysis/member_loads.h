@@ -10,9 +10,6 @@
 
 namespace trabeon {
 
-/// The member that a row names, 0 if that is none from 1 to `members`.
-[[nodiscard]] std::size_t memberOf(std::string_view text, std::size_t members);
-
 /// P, positive downward, at the distance a from the member's left joint.
 struct PointLoad {
     double a = 0, P = 0;
@@ -63,11 +60,11 @@ struct MemberLoads {
     }
 };
 
-/// Drops the rows whose load is 0 and those of no member from 1 to `members`, puts the rest in
-/// ascending member order, stable within a member, their member number as generated text, and gives
-/// every member without a load a "Zero Load" row. Refuses a load that cannot be calculated: a
-/// number that is not finite, a distributed load on a width of 0; the refusal names its row as it
-/// stood.
+/// Drops the rows whose load is 0 and those whose member is none of 1 to `members`. Sorts the rest
+/// by member; rows of one member keep their order. Writes member numbers as generated text, and
+/// gives every member without a load a "Zero Load" row. Refuses a load that cannot be calculated:
+/// a number that is not finite, or a distributed load on a width of 0. The refusal names the row's
+/// place among `rows`.
 template <class Load>
 [[nodiscard]] Outcome<MemberLoads<Load>> normalForm(std::vector<typename Load::Row> rows,
                                                     std::size_t members);

@@ -33,13 +33,6 @@ char* put(char* at, std::string_view text) {
     return at + text.size();
 }
 
-void writeRow(ReplacingFile& file, double x, std::string_view moment, std::string_view shear) {
-    char* at = file.room(4 * longestMask);
-    at = put(putThreeFigures(at, x), ",");
-    at = put(put(put(at, moment), ","), shear);
-    file.advance(put(at, "\r\n"));
-}
-
 void writeRow(ReplacingFile& file, const Station& station) {
     char* at = file.room(4 * longestMask);
     at = put(putThreeFigures(at, station.x), ",");
@@ -92,12 +85,12 @@ void BalanceTableWriter::write(const TableRow& row) {
 
 void writeStations(ReplacingFile& file, const Analysis& analysis) {
     for (std::size_t span = 1; span <= analysis.beam.members(); ++span) {
-        file.write("Span" + printForm(static_cast<double>(span)) + "\r\n");
+        file.write("Span" + printForm(span) + "\r\n");
         const auto& maximum = analysis.maxima[span - 1];
         bool written = false;
         for (const auto& station : analysis.stationsOf(span)) {
             if (!written && maximum.x <= station.x) {
-                writeRow(file, maximum.x, maximum.moment, maximum.shear);
+                writeRow(file, maximum);
                 written = true;
             }
             writeRow(file, station);
@@ -107,9 +100,10 @@ void writeStations(ReplacingFile& file, const Analysis& analysis) {
 
 void writeMaxima(ReplacingFile& file, const Analysis& analysis) {
     for (std::size_t span = 1; span <= analysis.beam.members(); ++span) {
-        const auto& maximum = analysis.maxima[span - 1];
-        file.write("Span #" + printForm(static_cast<double>(span)) + "\r\n");
-        file.write(printForm(maximum.x) + ',' + maximum.moment + ',' + maximum.shear + "\r\n");
+        const auto& [x, forces] = analysis.maxima[span - 1];
+        file.write("Span #" + printForm(span) + "\r\n");
+        file.write(printForm(x) + ',' + threeFigures(forces.moment) + ',' +
+                   threeFigures(forces.shear) + "\r\n");
     }
 }
 

@@ -1,12 +1,8 @@
 #include "core/analysis/span_results.h"
 
 #include <algorithm>
-#include <array>
-#include <cmath>
-#include <span>
 
 #include "core/analysis/settled_sum.h"
-#include "core/text/number_masks.h"
 
 namespace trabeon {
 namespace {
@@ -61,55 +57,33 @@ class SimpleSpan {
     SettledSum moment_, shear_;
 };
 
-/// A value that is not finite has no text.
-void putText(double value, std::string& text) {
-    text.clear();
-    if (!std::isfinite(value))
-        return;
-    std::array<char, longestMask> mask;
-    text.assign(mask.data(), putThreeFigures(mask.data(), value));
-}
-
 }  // namespace
 
-void SpanResults::FindMxSx(double, double, double, std::size_t MemNo, double X_Dist,
-                           std::string& B_Moment, std::string& S_Force, std::string_view FindMax,
-                           std::vector<double>& TempMx, std::vector<double>& TempVx,
-                           const std::vector<double>& Length, const std::vector<double>& Final,
-                           const std::vector<Joint>& SupportType, std::size_t Supports) {
-    const auto calculate = [&](std::size_t span, double x, std::size_t index) {
-        const bool freeToFixed =
-            SupportType[span] == Joint::cantilever && SupportType[span + 1] == Joint::fixed;
-        SimpleSpan simple(Length[span], -Final[2 * span - 1], Final[2 * span], !freeToFixed, x);
-        for (const auto& load : udls_.on(span))
-            simple.add(load);
-        for (const auto& load : points_.on(span))
-            simple.add(load);
-        const auto forces = simple.forces();
-        TempMx[index] = forces.moment;
-        TempVx[index] = forces.shear;
-        return forces;
-    };
-    TempMx.resize(stationsPerSpan(), 0);
-    TempVx.resize(stationsPerSpan(), 0);
-    SectionForces last;
-    if (FindMax == "Y") {
-        last = calculate(MemNo, X_Dist, 0);
-    } else {
-        stations_.clear();
-        stations_.reserve((Supports - 1) * stationsPerSpan());
-        for (std::size_t span = 1; span < Supports; ++span) {
-            const double part = Length[span] / Divisions_;
-            for (std::size_t k = 0; k < stationsPerSpan(); ++k) {
-                const double x =
-                    k + 1 == stationsPerSpan() ? Length[span] : static_cast<double>(k) * part;
-                last = calculate(span, x, k);
-                stations_.push_back({x, last});
-            }
+SectionForces FindMxSx(const LoadedBeam& loaded, std::size_t MemNo, double X_Dist) {
+    const auto& [beam, Final, udls, points] = loaded;
+    const bool freeToFixed =
+        beam.SupportType[MemNo] == Joint::cantilever && beam.SupportType[MemNo + 1] == Joint::fixed;
+    SimpleSpan simple(beam.Length[MemNo], -Final[2 * MemNo - 1], Final[2 * MemNo], !freeToFixed,
+                      X_Dist);
+    for (const auto& load : udls.on(MemNo))
+        simple.add(load);
+    for (const auto& load : points.on(MemNo))
+        simple.add(load);
+    return simple.forces();
+}
+
+std::vector<Station> FindMxSx(const LoadedBeam& loaded, std::size_t Divisions) {
+    std::vector<Station> stations;
+    stations.reserve(loaded.beam.members() * (Divisions + 1));
+    for (std::size_t span = 1; span <= loaded.beam.members(); ++span) {
+        const double Length = loaded.beam.Length[span];
+        const double part = Length / static_cast<double>(Divisions);
+        for (std::size_t k = 0; k <= Divisions; ++k) {
+            const double x = k == Divisions ? Length : static_cast<double>(k) * part;
+            stations.push_back({x, FindMxSx(loaded, span, x)});
         }
     }
-    putText(last.moment, B_Moment);
-    putText(last.shear, S_Force);
+    return stations;
 }
 
 }  // namespace trabeon

@@ -41,7 +41,7 @@ void appendStray(std::vector<StrayLoad>& stray, const std::vector<typename Load:
                  const std::vector<double>& lengths) {
     for (std::size_t k = 0; k < rows.size(); ++k) {
         const Load load(rows[k]);
-        const auto member = load.isZero() ? 0 : memberOf(rows[k].member, lengths.size());
+        const auto member = load.isZero() ? 0 : wholeNumberUpTo(lengths.size(), rows[k].member);
         if (member == 0 || load.unfit())
             continue;
         auto what = wrongWith(load, lengths[member - 1]);

@@ -57,14 +57,12 @@ Bars barsFor(double area, double b, const MiscProperties& misc) {
     return chosen;
 }
 
-void ProvideReinforcement(double b, double fy, double Asreq, double Aspreq, double& Asprov,
-                          double& Aspprov, std::string& MomentRein, double /*OriginMoment*/,
-                          double /*OriginShear*/, const MiscProperties& misc) {
-    const auto bars = barsFor(Asreq, b, misc);
-    const auto barsOpposite = barsFor(Aspreq, b, misc);
-    MomentRein = textOf(bars, fy) + " &  " + textOf(barsOpposite, fy);
-    Asprov = areaProvided(bars);
-    Aspprov = areaProvided(barsOpposite);
+void ProvideReinforcement(double b, double fy, Reinforcement& steel, const MiscProperties& misc) {
+    const auto lower = barsFor(steel.Asreq, b, misc);
+    const auto upper = barsFor(steel.Aspreq, b, misc);
+    steel.Asprov = areaProvided(lower);
+    steel.Aspprov = areaProvided(upper);
+    steel.MomentRein = textOf(lower, fy) + " &  " + textOf(upper, fy);
 }
 
 }  // namespace trabeon

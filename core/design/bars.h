@@ -1,9 +1,8 @@
 // Bars for the two faces of a section: sizes 10, 12, 16, 20 and 25 mm.
 #pragma once
 
-#include <string>
-
 #include "core/design/misc_properties.h"
+#include "core/design/reinforcement.h"
 
 namespace trabeon {
 
@@ -28,10 +27,8 @@ struct Bars {
 /// taken whether it fits or not.
 [[nodiscard]] Bars barsFor(double area, double b, const MiscProperties& misc);
 
-/// Sets the areas provided for Asreq and Aspreq (mm2, finite), and MomentRein, the bars of both in
-/// this order: " 3Y 25 &   2Y 12". OriginMoment and OriginShear play no part.
-void ProvideReinforcement(double b, double fy, double Asreq, double Aspreq, double& Asprov,
-                          double& Aspprov, std::string& MomentRein, double OriginMoment,
-                          double OriginShear, const MiscProperties& misc);
+/// Chooses the bars for Asreq and for Aspreq, which are finite, and sets Asprov, Aspprov and
+/// MomentRein. b in mm, fy in N/mm2.
+void ProvideReinforcement(double b, double fy, Reinforcement& steel, const MiscProperties& misc);
 
 }  // namespace trabeon

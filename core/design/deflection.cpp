@@ -2,21 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
-#include "core/analysis/beam.h"
 #include "core/design/notes.h"
+#include "core/rules/joint_types.h"
 
 namespace trabeon {
-namespace {
-
-SpanKind memberKind(const std::vector<JointRow>& joints, std::size_t Member) {
-    const auto typeOf = [&](std::size_t joint) {
-        return joint <= joints.size() ? std::string_view(joints[joint - 1].type) : "";
-    };
-    return spanKind(typeOf(Member), typeOf(Member + 1));
-}
-
-}  // namespace
 
 SpanKind spanKind(std::string_view leftType, std::string_view rightType) {
     const auto left = jointOf(leftType), right = jointOf(rightType);
@@ -25,6 +16,13 @@ SpanKind spanKind(std::string_view leftType, std::string_view rightType) {
     if (left == Joint::pin || right == Joint::pin)
         return SpanKind::simplySupported;
     return SpanKind::continuous;
+}
+
+SpanKind spanKind(const std::vector<JointRow>& joints, std::size_t Member) {
+    const auto typeOf = [&](std::size_t joint) {
+        return joint <= joints.size() ? std::string_view(joints[joint - 1].type) : "";
+    };
+    return spanKind(typeOf(Member), typeOf(Member + 1));
 }
 
 double basicRatio(SpanKind kind, double b) {
@@ -49,11 +47,12 @@ double serviceStress(double fy, double Asreq, double Asprov) {
     return 5.0 / 8 * fy * Asreq / Asprov;
 }
 
-double tensionFactor(double Asreq, double Asprov, double b, double d, double fy, double Moment) {
+double tensionFactor(const SectionData& section, double Asreq, double Asprov) {
     if (Asprov == 0)
         return 1;
-    const double m = std::fabs(Moment) * 1e6 / (b * d * d);
-    return std::min(0.55 + (477 - serviceStress(fy, Asreq, Asprov)) / (120 * (0.9 + m)), 2.0);
+    const double m = std::fabs(section.Moment) * 1e6 / (section.b * section.d * section.d);
+    const double fs = serviceStress(section.fy, Asreq, Asprov);
+    return std::min(0.55 + (477 - fs) / (120 * (0.9 + m)), 2.0);
 }
 
 double compressionFactor(double Aspprov, double b, double d) {
@@ -61,20 +60,16 @@ double compressionFactor(double Aspprov, double b, double d) {
     return std::min(1 + p / (3 + p), 1.5);
 }
 
-void DesignDeflection(std::size_t Member, double L, double Asreq, double Asprov, double b, double d,
-                      double fy, double Moment, double& DefActual, double& DefAllow,
-                      std::string& DefNote, double Aspprov, const std::vector<JointRow>& joints,
-                      bool restrictDeflection) {
-    const auto ratio = ratioForLength(memberKind(joints, Member), b, L, restrictDeflection);
-    if (!ratio) {
-        DefActual = DefAllow = 0;
-        DefNote = note::manualCalculation;
-        return;
-    }
-    DefAllow =
-        *ratio * tensionFactor(Asreq, Asprov, b, d, fy, Moment) * compressionFactor(Aspprov, b, d);
-    DefActual = L * 1e3 / d;
+Deflection DesignDeflection(const SectionData& section, SpanKind kind, const Reinforcement& steel,
+                            bool restrictDeflection, std::string DefNote) {
+    const auto ratio = ratioForLength(kind, section.b, section.L, restrictDeflection);
+    if (!ratio)
+        return {0, 0, std::string(note::manualCalculation)};
+    const double DefAllow = *ratio * tensionFactor(section, steel.Asreq, steel.Asprov) *
+                            compressionFactor(steel.Aspprov, section.b, section.d);
+    const double DefActual = section.L * 1e3 / section.d;
     DefNote += DefActual > DefAllow ? note::deflectionFailed : note::deflectionOK;
+    return {DefActual, DefAllow, std::move(DefNote)};
 }
 
 }  // namespace trabeon

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/design/reinforcement.h"
+#include "core/design/section_data.h"
 #include "core/store/rows.h"
 
 namespace trabeon {
@@ -14,8 +16,11 @@ namespace trabeon {
 /// How a member is held, for its basic ratio.
 enum class SpanKind { cantilever = 1, simplySupported = 2, continuous = 3 };
 
-/// A joint is what an analysis takes it for. A fixed end counts as continuous.
+/// Joint types are read as the analysis reads them. A fixed end counts as continuous.
 [[nodiscard]] SpanKind spanKind(std::string_view leftType, std::string_view rightType);
+
+/// The same for a member, which counts from 1. A joint that has no row counts as continuous.
+[[nodiscard]] SpanKind spanKind(const std::vector<JointRow>& joints, std::size_t Member);
 
 /// Table 3.9 for a flanged section with bw / b of 0.3 or less: 5.6, 16, 20.8. Departs from it: the
 /// web is 1 mm wide, so that these hold for every b from 1 / 0.3 mm up.
@@ -31,20 +36,24 @@ enum class SpanKind { cantilever = 1, simplySupported = 2, continuous = 3 };
 
 /// Table 3.10 by its formula 7: 0.55 + (477 - fs) / (120 (0.9 + M / b d²)), at most 2; no lower
 /// limit. 1 where no steel is provided.
-[[nodiscard]] double tensionFactor(double Asreq, double Asprov, double b, double d, double fy,
-                                   double Moment);
+[[nodiscard]] double tensionFactor(const SectionData& section, double Asreq, double Asprov);
 
 /// Table 3.11 by its formula 9: 1 + p / (3 + p), at most 1.5, with p = 100 Aspprov / (b d). So 1
 /// where no steel is provided.
 [[nodiscard]] double compressionFactor(double Aspprov, double b, double d);
 
-/// Sets the actual and the allowed ratio and appends the verdict to DefNote. A cantilever over 10 m
-/// with restrictDeflection has no ratios, 0 and 0, and DefNote becomes "Please Provide Manual
-/// Calculation". Asreq and Asprov are the lower face's and Aspprov the upper one's, whichever is in
-/// tension. Member counts from 1.
-void DesignDeflection(std::size_t Member, double L, double Asreq, double Asprov, double b, double d,
-                      double fy, double Moment, double& DefActual, double& DefAllow,
-                      std::string& DefNote, double Aspprov, const std::vector<JointRow>& joints,
-                      bool restrictDeflection);
+/// The actual and the allowed ratio of span to effective depth, and the section's note.
+struct Deflection {
+    double DefActual = 0, DefAllow = 0;
+    std::string DefNote;
+};
+
+/// Checks a section and appends the verdict to DefNote. Asreq and Asprov of the lower face enter as
+/// tension steel and Aspprov of the upper face as compression steel, also where the moment is
+/// hogging. A cantilever over 10 m with restrictDeflection has no ratios, and its note becomes
+/// "Please Provide Manual Calculation".
+[[nodiscard]] Deflection DesignDeflection(const SectionData& section, SpanKind kind,
+                                          const Reinforcement& steel, bool restrictDeflection,
+                                          std::string DefNote);
 
 }  // namespace trabeon

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <optional>
 
 #include "core/analysis/analysis.h"
 #include "core/design/bars.h"
@@ -26,45 +27,48 @@ bool areAboveZero(std::initializer_list<double> values) {
     return std::all_of(values.begin(), values.end(), [](double value) { return value > 0; });
 }
 
-bool hasData(const CarriedValues& at) {
+bool hasData(const SectionData& at) {
     return areAboveZero({at.b, at.effd, at.fcu, at.fy, at.fyv}) &&
            areFinite(
                {at.b, at.effd, at.fcu, at.fy, at.fyv, at.YM, at.L, at.dist, at.Moment, at.Shear});
 }
 
-bool hasResults(const CarriedValues& at) {
-    return areFinite(
-        {at.Asprov, at.Aspprov, at.AsvOsvreq, at.AsvOsvprov, at.DefActual, at.DefAllow});
+bool isFinite(const SectionResult& result) {
+    return areFinite({result.Asprov, result.Aspprov, result.AsvOsvreq, result.AsvOsvprov,
+                      result.DefActual, result.DefAllow});
 }
 
-/// The steel required; false if it comes out as no finite number.
-bool designSteel(CarriedValues& at, const MiscProperties& misc) {
-    DesignMoment(at.b, at.d, at.effd, at.fcu, at.fy, at.YM, at.fyv, at.L, at.dist, at.Moment,
-                 at.Shear, at.Asreq, at.Aspreq, at.OriginMoment, at.OriginShear, misc);
-    MinReinforcement(at.fy, at.b, at.d, at.MinTenRein, at.MinCompRein);
-    MaxReinforcement(at.b, at.d, at.MaxRein);
-    if (!areFinite({at.Asreq, at.Aspreq, at.MaxRein}))
-        return false;
-    raiseToMinimum(at.OriginMoment, at.MinTenRein, at.MinCompRein, at.Asreq, at.Aspreq);
-    return true;
+/// The steel required and the bars for it; nothing if it is not a finite number.
+std::optional<Reinforcement> designSteel(SectionData& section, const MiscProperties& misc) {
+    auto steel = DesignMoment(section, misc);
+    if (!areFinite({steel.Asreq, steel.Aspreq, MaxReinforcement(section.b, section.d)}))
+        return std::nullopt;
+    raiseToMinimum(section.OriginMoment, MinReinforcement(section.fy, section.b, section.d), steel);
+    ProvideReinforcement(section.b, section.fy, steel, misc);
+    return steel;
 }
 
-/// Once the run's flag is set no section is given links any more.
-void designLinks(CarriedValues& at) {
-    DesignShear(at.b, at.d, at.fcu, at.fyv, at.Shear, at.Asprov, at.AsvOsvreq, at.ShearFailed);
-    const bool given = !at.ShearFailed &&
-                       ProvideShearLinks(at.fyv, at.d, at.AsvOsvreq, at.AsvOsvprov, at.ShearRein);
-    at.DefNote += given ? note::shearOK : note::shearFailed;
+/// Chooses the links and returns their word of the note. Once the run's flag is set, no section
+/// gets links any more.
+std::string_view designLinks(CarriedValues& carried, double Asprov) {
+    const auto& section = carried.section;
+    const auto required = DesignShear(section, Asprov);
+    if (required)
+        carried.AsvOsvreq = *required;
+    else
+        carried.ShearFailed = true;
+    if (carried.ShearFailed)
+        return note::shearFailed;
+    carried.links = ProvideShearLinks(section.fyv, section.d, carried.AsvOsvreq);
+    return carried.links.ShearRein.empty() ? note::shearFailed : note::shearOK;
 }
 
-/// Its numbers are the member's and the section's place; the carried results stay as they are.
-DesignRow rowWithoutData(std::size_t Member, CarriedValues& carried) {
-    carried.DefNote.clear();
-    CarriedValues none;
-    double x = std::isfinite(carried.dist) ? carried.dist : 0;
-    return DesignResult(Member, x, none.Asreq, none.Aspreq, none.Asprov, none.Aspprov, 0, 0,
-                        none.MaxRein, "", none.AsvOsvreq, none.AsvOsvprov, "", none.DefActual,
-                        none.DefAllow, std::string(note::noData), 0, 0);
+DesignRow rowWithoutData(std::size_t Member, double dist) {
+    SectionResult result;
+    result.Member = Member;
+    result.x = std::isfinite(dist) ? dist : 0;
+    result.DefNote = note::noData;
+    return DesignResult(result);
 }
 
 std::uint64_t designFingerprint(const std::filesystem::path& folder, double Divisions,
@@ -78,25 +82,34 @@ std::uint64_t designFingerprint(const std::filesystem::path& folder, double Divi
 
 }  // namespace
 
-DesignRow designSection(std::size_t Member, std::size_t Section, CarriedValues& at,
+DesignRow designSection(std::size_t Member, std::size_t Section, CarriedValues& carried,
                         const DesignData& data, const MiscProperties& misc) {
-    data.GetData(Member, Section, at.b, at.d, at.effd, at.fcu, at.fy, at.YM, at.fyv, at.L, at.dist,
-                 at.Moment, at.Shear, at.OriginMoment, at.OriginShear);
-    if (!data.hasStation(Member, Section) || !hasData(at) || !designSteel(at, misc))
-        return rowWithoutData(Member, at);
-    ProvideReinforcement(at.b, at.fy, at.Asreq, at.Aspreq, at.Asprov, at.Aspprov, at.MomentRein,
-                         at.OriginMoment, at.OriginShear, misc);
-    designLinks(at);
-    DesignDeflection(Member, at.L, at.Asreq, at.Asprov, at.b, at.d, at.fy, at.Moment, at.DefActual,
-                     at.DefAllow, at.DefNote, at.Aspprov, data.joints(), misc.restrictDeflection);
-    if (!hasResults(at))
-        return rowWithoutData(Member, at);
-    auto row = DesignResult(Member, at.dist, at.Asreq, at.Aspreq, at.Asprov, at.Aspprov,
-                            at.MinTenRein, at.MinCompRein, at.MaxRein, at.MomentRein, at.AsvOsvreq,
-                            at.AsvOsvprov, at.ShearRein, at.DefActual, at.DefAllow, at.DefNote,
-                            at.OriginMoment, at.OriginShear);
-    at.DefNote.clear();
-    return row;
+    auto& section = carried.section;
+    section = data.GetData(Member, Section).value_or(section);
+    std::optional<Reinforcement> steel;
+    if (data.hasStation(Member, Section) && hasData(section))
+        steel = designSteel(section, misc);
+    if (!steel)
+        return rowWithoutData(Member, section.dist);
+    const auto shearWord = designLinks(carried, steel->Asprov);
+    const auto [DefActual, DefAllow, DefNote] =
+        DesignDeflection(section, spanKind(data.joints(), Member), *steel, misc.restrictDeflection,
+                         std::string(shearWord));
+    const SectionResult result{.Member = Member,
+                               .x = section.dist,
+                               .Asreq = steel->Asreq,
+                               .Aspreq = steel->Aspreq,
+                               .Asprov = steel->Asprov,
+                               .Aspprov = steel->Aspprov,
+                               .MaxRein = MaxReinforcement(section.b, section.d),
+                               .MomentRein = steel->MomentRein,
+                               .AsvOsvreq = carried.AsvOsvreq,
+                               .AsvOsvprov = carried.links.AsvOsvprov,
+                               .ShearRein = carried.links.ShearRein,
+                               .DefActual = DefActual,
+                               .DefAllow = DefAllow,
+                               .DefNote = DefNote};
+    return isFinite(result) ? DesignResult(result) : rowWithoutData(Member, section.dist);
 }
 
 BeamDesign designBeam(const DesignData& data, const MiscProperties& misc) {

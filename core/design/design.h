@@ -8,38 +8,32 @@
 #include "core/analysis/result_state.h"
 #include "core/design/design_data.h"
 #include "core/design/design_results.h"
+#include "core/design/links.h"
 #include "core/design/misc_properties.h"
 #include "core/outcome.h"
 
 namespace trabeon {
 
-/// The one set of values of a run, handed on from section to section. Nothing is reset in between
-/// but DefNote: a value that a step does not set stays from the section before. So a section
-/// without dimensions is designed as the one before it; once ShearFailed is set, every later
-/// section shows the links of the last one that was given any. All is 0 and empty when a run
-/// begins.
+/// The values of a design run that pass from section to section. They change only where a section
+/// sets them: a section without dimensions is designed with those of the section before it, and
+/// once ShearFailed is set, every later section shows the links of the last one that got any. All
+/// is 0 and empty when a run begins.
 struct CarriedValues {
-    double b = 0, d = 0, effd = 0, fcu = 0, fy = 0, YM = 0, fyv = 0, L = 0, dist = 0;
-    double Moment = 0, Shear = 0, OriginMoment = 0, OriginShear = 0;
-    double Asreq = 0, Aspreq = 0, MinTenRein = 0, MinCompRein = 0, MaxRein = 0;
-    double Asprov = 0, Aspprov = 0;
-    std::string MomentRein;
-    double AsvOsvreq = 0, AsvOsvprov = 0;
-    std::string ShearRein;
-    double DefActual = 0, DefAllow = 0;
-    std::string DefNote;
+    SectionData section;
+    double AsvOsvreq = 0;
+    ShearLinks links;
     bool ShearFailed = false;
 };
 
-/// Designs a section with the values of the one before it, and leaves its own. A section whose b,
-/// effective depth, fcu, fy or fyv is not above 0, that has no station, or whose values are no
-/// finite numbers, is not calculated: its results are 0, its bars and links empty, its note "No
-/// Data".
+/// Designs a section with the values of the one before it, and passes its own on. A
+/// section is not calculated if its b, effective depth, fcu, fy or fyv is not above 0, if it has no
+/// station, or if a value is not a finite number. Its results are then 0, its bars and links empty,
+/// and its note is "No Data".
 [[nodiscard]] DesignRow designSection(std::size_t Member, std::size_t Section,
                                       CarriedValues& carried, const DesignData& data,
                                       const MiscProperties& misc);
 
-/// The lines of all sections, and whether the shear stress of any was above its limit.
+/// The lines of all sections, and whether the shear stress of any section was above its limit.
 struct BeamDesign {
     std::vector<DesignRow> rows;
     bool ShearFailed = false;
@@ -54,13 +48,13 @@ struct BeamDesign {
 [[nodiscard]] Failure writeDesign(const std::filesystem::path& folder, const BeamDesign& design,
                                   double Divisions, const MiscProperties& misc);
 
-/// What to show beside "DResult.txt": nothing if it was designed from the stations, dimensions and
-/// properties that are there now, or is absent; otherwise that the beam is to be analysed again, or
-/// designed again.
+/// What to show beside "DResult.txt". Nothing if the file is absent, or was designed from the
+/// stations, dimensions and properties that are there now. Otherwise that the user must analyse or
+/// design the beam again.
 [[nodiscard]] std::string_view remarkOnDesign(const std::filesystem::path& folder, double Divisions,
                                               const MiscProperties& misc, Unrecorded unrecorded);
 
-/// Designs the beam whose working files stand in a folder, analysed with the same Divisions, and
+/// Designs the beam whose working files are in a folder and were made with the same Divisions, and
 /// writes "DResult.txt".
 [[nodiscard]] Outcome<BeamDesign> designFolder(const std::filesystem::path& folder,
                                                double Divisions, const MiscProperties& misc);

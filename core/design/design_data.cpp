@@ -9,6 +9,20 @@
 #include "core/text/number_text.h"
 
 namespace trabeon {
+namespace {
+
+SectionData sizesOf(const BeamDimensionRow& row) {
+    return {.b = leadingNumber(row.b),
+            .d = leadingNumber(row.d),
+            .effd = leadingNumber(row.effd),
+            .fcu = leadingNumber(row.fcu),
+            .fy = leadingNumber(row.fy),
+            .YM = leadingNumber(row.YM),
+            .fyv = leadingNumber(row.fyv),
+            .L = leadingNumber(row.L)};
+}
+
+}  // namespace
 
 DesignData::DesignData(std::vector<JointRow> joints, std::size_t NumofMem,
                        const std::vector<BeamDimensionRow>& dimensions, std::string_view stations,
@@ -16,10 +30,8 @@ DesignData::DesignData(std::vector<JointRow> joints, std::size_t NumofMem,
     : joints_(std::move(joints)), NumofMem_(NumofMem), sectionsPerMember_(Divisions + 2) {
     dimensions_.reserve(dimensions.size());
     for (const auto& row : dimensions)
-        dimensions_.push_back({leadingNumber(row.Member), leadingNumber(row.Section),
-                               leadingNumber(row.b), leadingNumber(row.d), leadingNumber(row.effd),
-                               leadingNumber(row.fcu), leadingNumber(row.fy), leadingNumber(row.YM),
-                               leadingNumber(row.fyv), leadingNumber(row.L)});
+        dimensions_.push_back(
+            {leadingNumber(row.Member), leadingNumber(row.Section), sizesOf(row)});
     std::stable_sort(dimensions_.begin(), dimensions_.end(),
                      [](const Dimensions& left, const Dimensions& right) {
                          return std::tie(left.Member, left.Section) <
@@ -49,21 +61,18 @@ const DesignData::Dimensions* DesignData::find(std::size_t Member, std::size_t S
     return first != dimensions_.end() && numbers(*first) == wanted ? &*first : nullptr;
 }
 
-void DesignData::GetData(std::size_t Member, std::size_t Section, double& b, double& d,
-                         double& effd, double& fcu, double& fy, double& YM, double& fyv, double& L,
-                         double& dist, double& Moment, double& Shear, double& OriginMoment,
-                         double& OriginShear) const {
+std::optional<SectionData> DesignData::GetData(std::size_t Member, std::size_t Section) const {
     const auto* row = find(Member, Section);
     if (row == nullptr)
-        return;
-    std::tie(b, d, effd, fcu) = std::tie(row->b, row->d, row->effd, row->fcu);
-    std::tie(fy, YM, fyv, L) = std::tie(row->fy, row->YM, row->fyv, row->L);
-    const auto& station = stations_[(Member - 1) * sectionsPerMember_ + Section];
-    dist = station.x;
-    OriginMoment = station.forces.moment;
-    OriginShear = station.forces.shear;
-    Moment = std::fabs(OriginMoment);
-    Shear = std::fabs(OriginShear);
+        return std::nullopt;
+    auto data = row->section;
+    const auto& [x, forces] = stations_[(Member - 1) * sectionsPerMember_ + Section];
+    data.dist = x;
+    data.Moment = std::fabs(forces.moment);
+    data.Shear = std::fabs(forces.shear);
+    data.OriginMoment = forces.moment;
+    data.OriginShear = forces.shear;
+    return data;
 }
 
 MissingDimensions DesignData::missingDimensions() const {

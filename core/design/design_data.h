@@ -2,10 +2,12 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string_view>
 #include <vector>
 
 #include "core/analysis/span_results.h"
+#include "core/design/section_data.h"
 #include "core/outcome.h"
 #include "core/store/rows.h"
 
@@ -26,13 +28,9 @@ class DesignData {
                const std::vector<BeamDimensionRow>& dimensions, std::string_view stations,
                std::size_t Divisions);
 
-    /// Fills all arguments but the first two: sizes in mm, strengths in N/mm2, L and dist in m,
-    /// OriginMoment in kNm and OriginShear in kN with their signs, Moment and Shear without. Of
-    /// several rows of a section the first counts. A section without a row leaves every argument
-    /// as it was.
-    void GetData(std::size_t Member, std::size_t Section, double& b, double& d, double& effd,
-                 double& fcu, double& fy, double& YM, double& fyv, double& L, double& dist,
-                 double& Moment, double& Shear, double& OriginMoment, double& OriginShear) const;
+    /// The data of a section; nothing for a section without a dimension row. Of several rows of a
+    /// section the first counts.
+    [[nodiscard]] std::optional<SectionData> GetData(std::size_t Member, std::size_t Section) const;
 
     [[nodiscard]] const std::vector<JointRow>& joints() const { return joints_; }
     [[nodiscard]] std::size_t NumofMem() const { return NumofMem_; }
@@ -47,9 +45,10 @@ class DesignData {
     [[nodiscard]] MissingDimensions missingDimensions() const;
 
   private:
-    /// A dimension row as numbers; those of one section stand in file order.
+    /// A dimension row as numbers; the section has no forces yet.
     struct Dimensions {
-        double Member, Section, b, d, effd, fcu, fy, YM, fyv, L;
+        double Member, Section;
+        SectionData section;
     };
 
     void readStations(std::string_view text);
@@ -58,7 +57,7 @@ class DesignData {
     std::vector<JointRow> joints_;
     std::size_t NumofMem_;
     std::size_t sectionsPerMember_;
-    std::vector<Dimensions> dimensions_;
+    std::vector<Dimensions> dimensions_;  // by member and section, then in file order
     std::vector<Station> stations_;
     std::size_t stationsRead_ = 0;
     bool stationsFit_ = false;

@@ -7,38 +7,18 @@
 
 namespace trabeon {
 
-double threeFiguresNumber(double value) {
-    return leadingNumber(threeFigures(value));
-}
-
 double wholePart(double value) {
     return std::floor(leadingNumber(generatedText(value)));
 }
 
-DesignRow DesignResult(std::size_t Member, double& x, double& Asreq, double& Aspreq, double& Asprov,
-                       double& Aspprov, double /*MinTenRein*/, double /*MinCompRein*/,
-                       double& MaxRein, const std::string& MomentRein, double& AsvOsvreq,
-                       double& AsvOsvprov, const std::string& ShearRein, double& DefActual,
-                       double& DefAllow, const std::string& DefNote, double /*OriginMoment*/,
-                       double /*OriginShear*/) {
-    for (double* value : {&x, &AsvOsvreq, &AsvOsvprov})
-        *value = threeFiguresNumber(*value);
-    for (double* value : {&Asreq, &Aspreq, &Asprov, &Aspprov, &MaxRein, &DefActual, &DefAllow})
-        *value = wholePart(*value);
-    return {generatedText(static_cast<double>(Member)),
-            generatedText(x),
-            generatedText(Asreq),
-            generatedText(Aspreq),
-            generatedText(Asprov),
-            generatedText(Aspprov),
-            generatedText(MaxRein),
-            MomentRein,
-            generatedText(AsvOsvreq),
-            generatedText(AsvOsvprov),
-            ShearRein,
-            generatedText(DefActual),
-            generatedText(DefAllow),
-            DefNote};
+DesignRow DesignResult(const SectionResult& result) {
+    const auto cut = [](double value) { return generatedText(wholePart(value)); };
+    const auto rounded = [](double value) { return generatedText(threeFiguresNumber(value)); };
+    return {generatedText(result.Member), rounded(result.x),  cut(result.Asreq),
+            cut(result.Aspreq),           cut(result.Asprov), cut(result.Aspprov),
+            cut(result.MaxRein),          result.MomentRein,  rounded(result.AsvOsvreq),
+            rounded(result.AsvOsvprov),   result.ShearRein,   cut(result.DefActual),
+            cut(result.DefAllow),         result.DefNote};
 }
 
 }  // namespace trabeon

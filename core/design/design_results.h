@@ -1,13 +1,26 @@
 // "DResult.txt": a line for each section of each member.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "core/store/rows.h"
 
 namespace trabeon {
 
-/// A line of the file, its fields with the blanks in front that they are written with.
+/// The results of a section as numbers: distance in m, steel areas in mm2, link areas in mm2/mm,
+/// ratios of span to effective depth. Member counts from 1.
+struct SectionResult {
+    std::size_t Member = 0;
+    double x = 0, Asreq = 0, Aspreq = 0, Asprov = 0, Aspprov = 0, MaxRein = 0;
+    std::string MomentRein;
+    double AsvOsvreq = 0, AsvOsvprov = 0;
+    std::string ShearRein;
+    double DefActual = 0, DefAllow = 0;
+    std::string DefNote;
+};
+
+/// A line of the file, each field as it is written, with its leading blank.
 struct DesignRow {
     std::string Member, x, Asreq, Aspreq, Asprov, Aspprov, MaxRein, MomentRein, AsvOsvreq,
         AsvOsvprov, ShearRein, DefActual, DefAllow, DefNote;
@@ -22,20 +35,12 @@ struct DesignRow {
     static constexpr bool described = false;
 };
 
-/// The number that the mask "0.00E+00" leaves of a value: 1.236 is 1.24.
-[[nodiscard]] double threeFiguresNumber(double value);
-
 /// The largest whole number not above a value, taken at 15 significant digits: what is 3150 on
 /// paper does not become 3149.
 [[nodiscard]] double wholePart(double value);
 
-/// The line of a section. Converts the values in place: x (m) and the link areas (mm2/mm) to three
-/// figures, steel areas (mm2) and ratios to whole numbers. All are finite. MinTenRein, MinCompRein,
-/// OriginMoment and OriginShear are not written.
-[[nodiscard]] DesignRow DesignResult(
-    std::size_t Member, double& x, double& Asreq, double& Aspreq, double& Asprov, double& Aspprov,
-    double MinTenRein, double MinCompRein, double& MaxRein, const std::string& MomentRein,
-    double& AsvOsvreq, double& AsvOsvprov, const std::string& ShearRein, double& DefActual,
-    double& DefAllow, const std::string& DefNote, double OriginMoment, double OriginShear);
+/// The line of a section, whose numbers are all finite: x and the link areas to three figures,
+/// steel areas and ratios cut to whole numbers.
+[[nodiscard]] DesignRow DesignResult(const SectionResult& result);
 
 }  // namespace trabeon

@@ -37,42 +37,40 @@ double compressionSteelStress(double d, double dPrime, double fy, double YM) {
     return 0.0035 * (x - dPrime) / x * YM;
 }
 
-SteelAreas steelFor(double b, double d, double fcu, double fy, double YM, double Moment,
-                    double dPrime) {
-    const double K = bendingRatio(b, d, fcu, Moment);
+SteelAreas steelFor(const SectionData& section, double dPrime) {
+    const double b = section.b, d = section.d, fcu = section.fcu, fy = section.fy;
+    const double M = section.Moment * 1e6;
+    const double K = bendingRatio(b, d, fcu, section.Moment);
     if (K < greatestSinglyReinforcedK)
-        return {Moment * 1e6 / (0.87 * fy * leverArm(d, K)), 0};
-    const double fsc = compressionSteelStress(d, dPrime, fy, YM);
+        return {M / (0.87 * fy * leverArm(d, K)), 0};
+    const double fsc = compressionSteelStress(d, dPrime, fy, section.YM);
     const double Asp = (K - greatestSinglyReinforcedK) * fcu * b * d * d / (fsc * (d - dPrime));
     const double z = leverArm(d, greatestSinglyReinforcedK);
     return {greatestSinglyReinforcedK * fcu * b * d * d / (0.87 * fy * z) + Asp, Asp};
 }
 
-void DesignMoment(double b, double& d, double effd, double fcu, double fy, double YM,
-                  double /*fyv*/, double /*L*/, double /*x*/, double Moment, double /*Shear*/,
-                  double& Asreq, double& Aspreq, double OriginMoment, double /*OriginShear*/,
-                  const MiscProperties& misc) {
-    d = effd;
-    const auto steel = steelFor(b, d, fcu, fy, YM, Moment, compressionSteelDepth(misc.cover));
-    Asreq = isSagging(OriginMoment) ? steel.As : steel.Asp;
-    Aspreq = isSagging(OriginMoment) ? steel.Asp : steel.As;
+Reinforcement DesignMoment(SectionData& section, const MiscProperties& misc) {
+    section.d = section.effd;
+    const auto [As, Asp] = steelFor(section, compressionSteelDepth(misc.cover));
+    Reinforcement steel;
+    steel.Asreq = isSagging(section.OriginMoment) ? As : Asp;
+    steel.Aspreq = isSagging(section.OriginMoment) ? Asp : As;
+    return steel;
 }
 
-void MinReinforcement(double fy, double b, double d, double& MinTenRein, double& MinCompRein) {
-    MinTenRein = (fy <= 250 ? 0.24 : 0.2) * b * d / 100;
-    MinCompRein = 0.2 * b * d / 100;
+MinimumSteel MinReinforcement(double fy, double b, double d) {
+    return {(fy <= 250 ? 0.24 : 0.2) * b * d / 100, 0.2 * b * d / 100};
 }
 
-void MaxReinforcement(double b, double d, double& MaxRein) {
-    MaxRein = 4 * b * d / 100;
+double MaxReinforcement(double b, double d) {
+    return 4 * b * d / 100;
 }
 
-void raiseToMinimum(double OriginMoment, double MinTenRein, double MinCompRein, double& Asreq,
-                    double& Aspreq) {
-    double& tension = isSagging(OriginMoment) ? Asreq : Aspreq;
-    double& compression = isSagging(OriginMoment) ? Aspreq : Asreq;
-    tension = std::max(tension, MinTenRein);
-    compression = std::max(compression, MinCompRein);
+void raiseToMinimum(double OriginMoment, const MinimumSteel& minimum, Reinforcement& steel) {
+    double& tension = isSagging(OriginMoment) ? steel.Asreq : steel.Aspreq;
+    double& compression = isSagging(OriginMoment) ? steel.Aspreq : steel.Asreq;
+    tension = std::max(tension, minimum.MinTenRein);
+    compression = std::max(compression, minimum.MinCompRein);
 }
 
 }  // namespace trabeon

@@ -4,6 +4,8 @@
 #pragma once
 
 #include "core/design/misc_properties.h"
+#include "core/design/reinforcement.h"
+#include "core/design/section_data.h"
 
 namespace trabeon {
 
@@ -21,8 +23,8 @@ inline constexpr double greatestSinglyReinforcedK = 0.156;
 /// left out.
 [[nodiscard]] double compressionSteelDepth(double cover);
 
-/// The stress fsc of compression steel at the depth d' when K is K': 0.87 fy, or with d' / d above
-/// 0.215 what the strain 0.0035 (x - d') / x gives with the steel's modulus YM.
+/// The stress fsc of compression steel at the depth d' when K is K': 0.87 fy; where d' / d is above
+/// 0.215, the strain 0.0035 (x - d') / x times the steel's modulus YM.
 [[nodiscard]] double compressionSteelStress(double d, double dPrime, double fy, double YM);
 
 /// Steel of the tension face and of the compression face.
@@ -30,29 +32,30 @@ struct SteelAreas {
     double As = 0, Asp = 0;
 };
 
-/// The steel for a moment of 0 or more. Departs from the clause: the tension steel carries the
-/// compression steel at its full area, also where fsc is below 0.87 fy. Not finite where d' is d or
-/// x, or YM is 0, in a section that needs compression steel.
-[[nodiscard]] SteelAreas steelFor(double b, double d, double fcu, double fy, double YM,
-                                  double Moment, double dPrime);
+/// The steel for the moment without its sign. Departs from the clause: the tension steel carries
+/// the compression steel at its full area, also where fsc is below 0.87 fy. Not finite where d' is
+/// d or x, or YM is 0, in a section that needs compression steel.
+[[nodiscard]] SteelAreas steelFor(const SectionData& section, double dPrime);
 
-/// Sets d to effd, and Asreq and Aspreq to the steel of the lower and the upper face: OriginMoment,
-/// 0 or more when sagging, says which one is in tension. fyv, L, x, Shear and OriginShear play no
-/// part.
-void DesignMoment(double b, double& d, double effd, double fcu, double fy, double YM, double fyv,
-                  double L, double x, double Moment, double Shear, double& Asreq, double& Aspreq,
-                  double OriginMoment, double OriginShear, const MiscProperties& misc);
+/// Sets d to effd, and returns the steel required, Asreq and Aspreq. OriginMoment says which face
+/// is in tension: the lower one if it is 0 or more.
+[[nodiscard]] Reinforcement DesignMoment(SectionData& section, const MiscProperties& misc);
 
-/// The least steel of the tension and the compression face, clause 3.12.5: for fy up to 250 0.24 %
-/// and 0.2 %, above it 0.2 % and 0.2 %. Departs from it: of the effective section b d, not of the
-/// gross one; 0.2 % for strong tension steel, not 0.13 %; and for the compression face always.
-void MinReinforcement(double fy, double b, double d, double& MinTenRein, double& MinCompRein);
+/// The least steel of the tension face and of the compression face.
+struct MinimumSteel {
+    double MinTenRein = 0, MinCompRein = 0;
+};
 
-/// The most steel, 4 % (clause 3.12.6), but of the effective section. Nothing is held against it.
-void MaxReinforcement(double b, double d, double& MaxRein);
+/// Clause 3.12.5: for fy up to 250 0.24 % and 0.2 %, above it 0.2 % and 0.2 %. Departs from it: of
+/// the effective section b d, not of the gross one; 0.2 % for strong tension steel, not 0.13 %; and
+/// for the compression face always.
+[[nodiscard]] MinimumSteel MinReinforcement(double fy, double b, double d);
 
-/// Raises the steel of each face to its minimum; OriginMoment says which face is in tension.
-void raiseToMinimum(double OriginMoment, double MinTenRein, double MinCompRein, double& Asreq,
-                    double& Aspreq);
+/// MaxRein, 4 % (clause 3.12.6), but of the effective section. No area is compared with it.
+[[nodiscard]] double MaxReinforcement(double b, double d);
+
+/// Raises the steel required in each face to its minimum. OriginMoment says which face is in
+/// tension.
+void raiseToMinimum(double OriginMoment, const MinimumSteel& minimum, Reinforcement& steel);
 
 }  // namespace trabeon

@@ -20,7 +20,8 @@ struct Links {
     double sets = 0, size = 0, spacing = 0;
 };
 
-/// Steps down from `widest` without walking: the quotient is at most a step beside the spacing.
+/// The widest spacing that is enough, if one is. The quotient is at most one step off, so only that
+/// step is walked.
 std::optional<double> widestSpacing(double sets, double size, double AsvOsvreq, double widest) {
     if (!(linksProvided(sets, size, closestSpacing) > AsvOsvreq))
         return std::nullopt;
@@ -52,15 +53,14 @@ double linksProvided(double sets, double size, double spacing) {
     return sets * 2 * legArea(size) / spacing;
 }
 
-bool ProvideShearLinks(double fyv, double d, double AsvOsvreq, double& AsvOsvprov,
-                       std::string& ShearRein) {
+ShearLinks ProvideShearLinks(double fyv, double d, double AsvOsvreq) {
     const auto links = firstLinks(std::floor(0.75 * d), AsvOsvreq);
-    AsvOsvprov = links ? linksProvided(links->sets, links->size, links->spacing) : 0;
-    ShearRein.clear();
-    if (links)
-        ShearRein = generatedText(links->sets) + gradeLetter(fyv) + generatedText(links->size) +
-                    '-' + generatedText(links->spacing);
-    return links.has_value();
+    if (!links)
+        return {};
+    const auto& [sets, size, spacing] = *links;
+    return {linksProvided(sets, size, spacing), generatedText(sets) + gradeLetter(fyv) +
+                                                    generatedText(size) + '-' +
+                                                    generatedText(spacing)};
 }
 
 }  // namespace trabeon

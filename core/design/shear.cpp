@@ -25,14 +25,12 @@ double linksRequired(double b, double fyv, double v, double vc) {
     return stress * b / (0.87 * fyv);
 }
 
-void DesignShear(double b, double d, double fcu, double fyv, double Shear, double Asprov,
-                 double& AsvOsvreq, bool& ShearFailed) {
-    const double v = shearStress(b, d, Shear);
-    if (v > greatestShearStress(fcu)) {
-        ShearFailed = true;
-        return;
-    }
-    AsvOsvreq = linksRequired(b, fyv, v, concreteShearStress(b, d, fcu, Asprov));
+std::optional<double> DesignShear(const SectionData& section, double Asprov) {
+    const double v = shearStress(section.b, section.d, section.Shear);
+    if (v > greatestShearStress(section.fcu))
+        return std::nullopt;
+    const double vc = concreteShearStress(section.b, section.d, section.fcu, Asprov);
+    return linksRequired(section.b, section.fyv, v, vc);
 }
 
 }  // namespace trabeon

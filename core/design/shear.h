@@ -3,7 +3,10 @@
 // and finite.
 #pragma once
 
+#include <optional>
 #include <string_view>
+
+#include "core/design/section_data.h"
 
 namespace trabeon {
 
@@ -26,9 +29,8 @@ inline constexpr std::string_view shearFailureSentence = "Please Increase bv or 
 /// least links as up to vc + 0.4.
 [[nodiscard]] double linksRequired(double b, double fyv, double v, double vc);
 
-/// Sets AsvOsvreq; or, if the stress is above the limit, sets ShearFailed and leaves AsvOsvreq as
-/// it was. Nothing here clears ShearFailed: it is the whole run's.
-void DesignShear(double b, double d, double fcu, double fyv, double Shear, double Asprov,
-                 double& AsvOsvreq, bool& ShearFailed);
+/// AsvOsvreq; nothing if the stress is above the limit. Asprov is that of the lower face, also
+/// where the moment is hogging.
+[[nodiscard]] std::optional<double> DesignShear(const SectionData& section, double Asprov);
 
 }  // namespace trabeon

@@ -9,25 +9,27 @@
 
 namespace trabeon {
 
-/// A message box as a calculation asks for it: the text, the buttons and mark as a style number
-/// (48: one OK button and an exclamation mark), and the window's title.
+/// What a message is about: a broken rule of the structure, or the reason why there is no result.
+enum class MessageKind { structure, refusal };
+
+/// One sentence for the user. The window that shows it chooses title and buttons.
 struct Message {
     std::string text;
-    int style = 48;
-    std::string title;
+    MessageKind kind = MessageKind::refusal;
 };
 
 /// Shows messages, in the order in which they come.
 using MessageSink = std::function<void(const Message&)>;
 
-/// Shows the message, then sets Shown to true: a message shown is an error reported.
-void Mbox(std::string Msg, int Style, std::string Title, bool& Shown, const MessageSink& show);
+/// Shows a message about the structure, then sets Shown to true: a message shown is an error.
+void Mbox(std::string Msg, bool& Shown, const MessageSink& show);
 
-/// Judges the sequence of joint types, compared as exact texts; a text outside the four passes.
-/// Shows a message for each rule that fails and sets JointError to true; leaves it alone otherwise.
+/// Checks the sequence of joint types, which are compared as exact texts; any other text passes.
+/// Shows a message for each broken rule, and then sets JointError to true.
 void CheckJoint(const std::vector<JointRow>& joints, bool& JointError, const MessageSink& show);
 
-/// Judges the count of members: one less than the joints. As CheckJoint, with MemberError.
+/// Checks that there is one member less than joints. Otherwise shows a message, and sets
+/// MemberError to true.
 void CheckMember(std::size_t joints, std::size_t members, bool& MemberError,
                  const MessageSink& show);
 

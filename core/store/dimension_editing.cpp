@@ -1,7 +1,6 @@
 #include "core/store/dimension_editing.h"
 
 #include <algorithm>
-#include <cmath>
 #include <tuple>
 #include <vector>
 
@@ -18,13 +17,6 @@ Rows asRead(const Rows& rows) {
     return rowsOf<BeamDimensionRow>(textOf(rows, Description::quoted));
 }
 
-/// The number of a field if it is a whole one from 1 to `most`, else 0.
-std::size_t numberUpTo(std::size_t most, const std::string& field) {
-    const double number = leadingNumber(field);
-    const bool within = number >= 1 && number <= static_cast<double>(most);
-    return within && number == std::floor(number) ? static_cast<std::size_t>(number) : 0;
-}
-
 Rows inOrder(const Rows& rows, const BeamExtent& extent) {
     struct Place {
         std::size_t Member, Section, row;
@@ -32,8 +24,8 @@ Rows inOrder(const Rows& rows, const BeamExtent& extent) {
     std::vector<Place> places;
     places.reserve(rows.size());
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        const Place place{numberUpTo(extent.members, rows[i].Member),
-                          numberUpTo(extent.sections, rows[i].Section), i};
+        const Place place{wholeNumberUpTo(extent.members, rows[i].Member),
+                          wholeNumberUpTo(extent.sections, rows[i].Section), i};
         if (place.Member > 0 && place.Section > 0)
             places.push_back(place);
     }
@@ -58,7 +50,7 @@ Failure addDimensions(const std::filesystem::path& folder, std::size_t position,
     auto& rows = *found;
     auto place = std::min(position, rows.size());
     for (auto section = sections.first; section <= sections.last; ++section) {
-        row.Section = generatedText(static_cast<double>(section));
+        row.Section = generatedText(section);
         rows.insert(rows.begin() + static_cast<std::ptrdiff_t>(place),
                     section == sections.last ? row : asRead({row}).front());
         place = rows.size();

@@ -69,7 +69,7 @@ template <class Row>
     rows->erase(rows->begin() + static_cast<std::ptrdiff_t>(position - 1));
     if (numbering == Numbering::fromOne)
         for (std::size_t i = 0; i < rows->size(); ++i)
-            (*rows)[i].*Row::fields.front() = generatedText(static_cast<double>(i + 1));
+            (*rows)[i].*Row::fields.front() = generatedText(i + 1);
     return rewriteRows(folder, *rows);
 }
 

@@ -8,6 +8,7 @@
 #include <cstring>
 
 #include "core/text/decimal.h"
+#include "core/text/number_text.h"
 
 namespace trabeon {
 namespace {
@@ -169,6 +170,10 @@ std::string threePlaces(double value) {
 std::string threeFigures(double value) {
     std::array<char, longestMask> text{};
     return {text.data(), putThreeFigures(text.data(), value)};
+}
+
+double threeFiguresNumber(double value) {
+    return leadingNumber(threeFigures(value));
 }
 
 }  // namespace trabeon

@@ -30,6 +30,9 @@ char* putNineDigits(char* at, double whole);
 /// Text of the mask "0.00E+00".
 [[nodiscard]] std::string threeFigures(double value);
 
+/// The number that the mask "0.00E+00" leaves of a value: 1.236 gives 1.24.
+[[nodiscard]] double threeFiguresNumber(double value);
+
 /// The same by way of the decimal digits alone: slow, plain, and what the fast way is checked
 /// against.
 char* putThreeFiguresPlainly(char* at, double value);

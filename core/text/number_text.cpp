@@ -121,6 +121,12 @@ std::optional<double> numberOfWholeText(std::string_view text) {
     return value;
 }
 
+std::size_t wholeNumberUpTo(std::size_t most, std::string_view text) {
+    const double number = leadingNumber(text);
+    const bool within = number >= 1 && number <= static_cast<double>(most);
+    return within && number == std::floor(number) ? static_cast<std::size_t>(number) : 0;
+}
+
 std::string generatedText(double value) {
     if (isShortWhole(value))
         return wholeText(value);

@@ -1,6 +1,8 @@
 // Numbers read from text, and text made from numbers. Nothing here follows a locale.
 #pragma once
 
+#include <concepts>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,11 +17,24 @@ namespace trabeon {
 /// The number that a whole text stands for, blanks around it allowed; nothing if it is no number.
 [[nodiscard]] std::optional<double> numberOfWholeText(std::string_view text);
 
+/// The leading number of a text if it is a whole one from 1 to `most`; otherwise 0.
+[[nodiscard]] std::size_t wholeNumberUpTo(std::size_t most, std::string_view text);
+
 /// Plain decimal text of at most 15 significant digits, one blank in front of a value of 0 or more:
 /// " 3", " 0.386", "-1.5", " 1E+15", " 1E-05". The value must be finite.
 [[nodiscard]] std::string generatedText(double value);
 
-/// Generated number text and one blank behind it: " 3 ".
+/// Generated number text and one blank after it: " 3 ".
 [[nodiscard]] std::string printForm(double value);
+
+/// The same for whole numbers.
+template <std::integral Whole>
+[[nodiscard]] std::string generatedText(Whole value) {
+    return generatedText(static_cast<double>(value));
+}
+template <std::integral Whole>
+[[nodiscard]] std::string printForm(Whole value) {
+    return printForm(static_cast<double>(value));
+}
 
 }  // namespace trabeon

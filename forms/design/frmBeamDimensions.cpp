@@ -104,7 +104,7 @@ void frmBeamDimensions::Form_Load() {
     sortList();
     const auto members = readRows<MemberRow>(context_.folder).size();
     for (std::size_t k = 1; k <= members; ++k)
-        cboMember.AddItem("Member" + generatedText(static_cast<double>(k)));
+        cboMember.AddItem("Member" + generatedText(k));
     const double Divisions = divisions();
     if (unfitDivisions(Divisions))
         return;

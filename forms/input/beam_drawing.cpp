@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/rules/joint_types.h"
 #include "core/text/number_masks.h"
 #include "core/text/number_text.h"
 
@@ -49,11 +50,12 @@ std::string numberShown(const std::string& field) {
 }  // namespace
 
 void DrawJoint(PictureBox& picture, std::string_view JType, double x, double y) {
-    if (JType == "Fixed")
+    const auto joint = jointNamed(JType);
+    if (joint == Joint::fixed)
         drawWall(picture, x, y);
-    if (JType == "Continuous" || JType == "Pin Jointed")
+    if (joint == Joint::continuous || joint == Joint::pin)
         drawTriangle(picture, x, y);
-    if (JType == "Pin Jointed")
+    if (joint == Joint::pin)
         drawDisc(picture, x, y);
 }
 

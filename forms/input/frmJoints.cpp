@@ -1,13 +1,12 @@
 #include "forms/input/frmJoints.h"
 
 #include <algorithm>
-#include <array>
+
+#include "core/rules/joint_types.h"
 
 namespace trabeon {
 namespace {
 
-constexpr std::array<std::string_view, 4> jointTypes{"Cantilever", "Pin Jointed", "Continuous",
-                                                     "Fixed"};
 constexpr int margin = 120;
 constexpr int listLeft = 3360;
 
@@ -67,14 +66,14 @@ void frmJoints::cmdNextJoint_Click() {
 }
 
 void frmJoints::cmdBackJoint_Click() {
-    step(jointTypes.size() - 1);
+    step(jointNames.size() - 1);
 }
 
 /// The types form a ring.
 void frmJoints::step(std::size_t forward) {
-    const auto* const now = std::find(jointTypes.begin(), jointTypes.end(), lblJoint.Caption());
-    const auto position = static_cast<std::size_t>(now - jointTypes.begin());
-    lblJoint.SetCaption(std::string(jointTypes[(position + forward) % jointTypes.size()]));
+    const auto* const now = std::find(jointNames.begin(), jointNames.end(), lblJoint.Caption());
+    const auto position = static_cast<std::size_t>(now - jointNames.begin());
+    lblJoint.SetCaption(std::string(jointNames[(position + forward) % jointNames.size()]));
     showType();
 }
 

@@ -62,7 +62,7 @@ class LoadForm : public Form {
     void FillFromFiles() {
         const auto members = readRows<MemberRow>(context_.folder).size();
         for (std::size_t k = 1; k <= members; ++k)
-            cboMember.AddItem("Member" + generatedText(static_cast<double>(k)));
+            cboMember.AddItem("Member" + generatedText(k));
         if (members > 0)
             cboMember.SetListIndex(0);
         rows_.Fill();

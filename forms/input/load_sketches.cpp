@@ -35,8 +35,7 @@ void drawMember(PictureBox& picture) {
 }
 
 void printMember(PictureBox& picture, const SketchedMember& member) {
-    picture.PrintLine("L = " + printForm(member.L) + gap + "Member " +
-                      printForm(static_cast<double>(member.number)));
+    picture.PrintLine("L = " + printForm(member.L) + gap + "Member " + printForm(member.number));
 }
 
 /// A distributed load on the picture.

@@ -65,7 +65,7 @@ std::vector<std::string> Diagram::memberItems(const char* blanks) const {
     std::vector<std::string> items;
     const auto members = readRows<MemberRow>(context_.folder).size();
     for (std::size_t k = 1; k <= members; ++k)
-        items.push_back(std::string("Member") + blanks + generatedText(static_cast<double>(k)));
+        items.push_back(std::string("Member") + blanks + generatedText(k));
     return items;
 }
 

@@ -80,7 +80,10 @@ void frmAnalysis::cmdAnalyse_Click() {
     const WaitCursor wait;
     AnalysisOutputs outputs;
     outputs.message = [](const Message& message) {
-        Outside::Current().MsgBox(message.text, message.style, message.title);
+        if (message.kind == MessageKind::structure)
+            Outside::Current().MsgBox(message.text, 48, "Joint Error");
+        else
+            warn(message.text);
     };
     outputs.progress = PacedProgress(PBAnalysis);
     std::vector<StrayLoad> stray;

@@ -114,9 +114,7 @@ class Print {
         return text;
     }
 
-    static std::string number(std::size_t value) {
-        return generatedText(static_cast<double>(value));
-    }
+    static std::string number(std::size_t value) { return generatedText(value); }
 
     const PrintSource& source_;
     Pen pen_;

@@ -121,17 +121,9 @@ TEST(GetData, FindsSectionsByNumberAndStationsByPlace) {
         "Span 1 \r\n0,1,2\r\n3,-4,-5\r\n6,7,8\r\nSpan 2 \r\n0,10,11\r\n3,12,-13\r\n6,-14,15\r\n";
     beam.section(2, 2, "1,2,3,4,5,6,7,8").section(1, 2, "9,9,9,9,9,9,9,9");
     beam.section(2, 2, "0,0,0,0,0,0,0,0");  // the first row of a section counts
-    double b, d, effd, fcu, fy, YM, fyv, L, dist, Moment, Shear, OriginMoment, OriginShear = 77;
-    const auto get = [&](std::size_t Member, std::size_t Section) {
-        beam.data().GetData(Member, Section, b, d, effd, fcu, fy, YM, fyv, L, dist, Moment, Shear,
-                            OriginMoment, OriginShear);
-        return std::vector{b, d,    effd,   fcu,   fy,           YM,         fyv,
-                           L, dist, Moment, Shear, OriginMoment, OriginShear};
-    };
-    const std::vector<double> second{1, 2, 3, 4, 5, 6, 7, 8, 3, 12, 13, 12, -13};
-    EXPECT_EQ(get(2, 1), second);
-    EXPECT_EQ(get(2, 0), second);  // no row of its own: all as before
-    EXPECT_EQ(get(1, 1), (std::vector<double>{9, 9, 9, 9, 9, 9, 9, 9, 3, 4, 5, -4, -5}));
+    EXPECT_EQ(beam.data().GetData(2, 1), (SectionData{1, 2, 3, 4, 5, 6, 7, 8, 3, 12, 13, 12, -13}));
+    EXPECT_EQ(beam.data().GetData(2, 0), std::nullopt);
+    EXPECT_EQ(beam.data().GetData(1, 1), (SectionData{9, 9, 9, 9, 9, 9, 9, 9, 3, 4, 5, -4, -5}));
     EXPECT_TRUE(beam.data().stationsFit());
     const auto [count, Member, Section] = beam.data().missingDimensions();
     EXPECT_EQ((std::vector{count, Member, Section}), (std::vector<std::size_t>{4, 1, 1}));

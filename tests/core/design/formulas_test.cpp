@@ -6,6 +6,7 @@
 #include "core/design/links.h"
 #include "core/design/reinforcement_tables.h"
 #include "core/design/shear.h"
+#include "core/text/number_masks.h"
 #include "tests/support/table.h"
 
 namespace trabeon {
@@ -31,53 +32,46 @@ Cells barsOf(const Row& row) {
 }
 
 Cells steelOf(const Row& row) {
-    const auto steel = steelFor(row(0), row(1), row(2), row(3), row(4), row(5), row(6));
+    const SectionData section{
+        .b = row(0), .d = row(1), .fcu = row(2), .fy = row(3), .YM = row(4), .Moment = row(5)};
+    const auto steel = steelFor(section, row(6));
     return {steel.As, steel.Asp};
 }
 
 Cells reinforcementOf(const Row& row) {
-    double Asprov = 0, Aspprov = 0;
-    std::string text;
-    ProvideReinforcement(row(0), row(1), row(2), row(3), Asprov, Aspprov, text, -1, 0,
-                         {25, 10, row(4)});
-    return {Asprov, Aspprov, text};
+    Reinforcement steel{row(2), row(3), 0, 0, ""};
+    ProvideReinforcement(row(0), row(1), steel, {25, 10, row(4)});
+    return {steel.Asprov, steel.Aspprov, steel.MomentRein};
 }
 
 Cells momentSteelOf(const Row& row) {
-    double d = 450, Asreq = -1, Aspreq = -1;
-    DesignMoment(250, d, 400, 25, 460, 2e5, 250, 6, 3, std::fabs(row(0)), 10, Asreq, Aspreq, row(0),
-                 -10, {row(1)});
-    EXPECT_EQ(d, 400);
-    return {Asreq, Aspreq};
+    SectionData section{250, 450, 400, 25, 460, 2e5, 250, 6, 3, std::fabs(row(0)), 10, row(0), -10};
+    const auto steel = DesignMoment(section, {row(1)});
+    EXPECT_EQ(section.d, 400);
+    return {steel.Asreq, steel.Aspreq};
 }
 
 Cells minimaOf(const Row& row) {
-    double tension = 0, compression = 0, most = 0;
-    MinReinforcement(row(0), 300, 400, tension, compression);
-    MaxReinforcement(300, 400, most);
-    EXPECT_EQ(most, 4800);
-    return {tension, compression};
+    EXPECT_EQ(MaxReinforcement(300, 400), 4800);
+    const auto [MinTenRein, MinCompRein] = MinReinforcement(row(0), 300, 400);
+    return {MinTenRein, MinCompRein};
 }
 
 Cells raisedOf(const Row& row) {
-    double Asreq = row(1), Aspreq = row(2);
-    raiseToMinimum(row(0), 288, 240, Asreq, Aspreq);
-    return {Asreq, Aspreq};
+    Reinforcement steel{row(1), row(2), 0, 0, ""};
+    raiseToMinimum(row(0), {288, 240}, steel);
+    return {steel.Asreq, steel.Aspreq};
 }
 
 Cells shearOf(const Row& row) {
-    double AsvOsvreq = 7;
-    bool failed = row(2) != 0;
-    DesignShear(250, 400, row(0), 250, row(1), 1000, AsvOsvreq, failed);
-    return {AsvOsvreq, failed ? 1.0 : 0.0};
+    const auto AsvOsvreq =
+        DesignShear({.b = 250, .d = 400, .fcu = row(0), .fyv = 250, .Shear = row(1)}, 1000);
+    return {AsvOsvreq.value_or(0)};
 }
 
 Cells linksOf(const Row& row) {
-    double provided = 3;
-    std::string text = "old";
-    const bool enough = ProvideShearLinks(row(0), row(1), row(2), provided, text);
-    EXPECT_EQ(enough, !text.empty());
-    return {provided, text};
+    const auto [AsvOsvprov, ShearRein] = ProvideShearLinks(row(0), row(1), row(2));
+    return {AsvOsvprov, ShearRein};
 }
 
 Cells deflectionOf(const Row& row) {
@@ -85,11 +79,11 @@ Cells deflectionOf(const Row& row) {
                                        {"", "Continuous", ""},
                                        {"", "Continuous", ""},
                                        {"", "Cantilever", ""}};
-    double actual = -1, allowed = -1;
-    std::string note = "Shear OK";
-    DesignDeflection(static_cast<std::size_t>(row(0)), row(1), 200, row(3), 300, row(2), 460, 50,
-                     actual, allowed, note, row(4), joints, row(5) != 0);
-    return {actual, allowed, note};
+    const auto kind = spanKind(joints, static_cast<std::size_t>(row(0)));
+    const SectionData section{.b = 300, .d = row(2), .fy = 460, .L = row(1), .Moment = 50};
+    const auto [DefActual, DefAllow, DefNote] =
+        DesignDeflection(section, kind, {200, 0, row(3), row(4), ""}, row(5) != 0, "Shear OK");
+    return {DefActual, DefAllow, DefNote};
 }
 
 TEST(Design, FormulasAgreeWithTheirTables) {
@@ -125,7 +119,10 @@ TEST(Design, FormulasAgreeWithTheirTables) {
               return Cells{ratioForLength(kindOf(r(0)), r(1), r(2), r(3) != 0).value_or(0)};
           }},
          {"tensionFactor",
-          [](const Row& r) { return Cells{tensionFactor(r(0), r(1), 300, 400, r(2), r(3))}; }},
+          [](const Row& r) {
+              const SectionData section{.b = 300, .d = 400, .fy = r(2), .Moment = r(3)};
+              return Cells{tensionFactor(section, r(0), r(1))};
+          }},
          {"compressionFactor",
           [](const Row& r) { return Cells{compressionFactor(r(0), 250, 400)}; }},
          {"DesignDeflection", deflectionOf},

@@ -13,8 +13,7 @@ std::vector<test::Cell> shownBy(const Check& check) {
     std::string shown;
     bool error = false;
     check(error, [&](const Message& message) {
-        EXPECT_EQ(message.style, 48);
-        EXPECT_EQ(message.title, "Joint Error");
+        EXPECT_EQ(message.kind, MessageKind::structure);
         shown += message.text;
     });
     EXPECT_EQ(error, !shown.empty());
