@@ -107,11 +107,6 @@ Failure unfitDivisions(double Divisions) {
     return std::nullopt;
 }
 
-BeamRows readBeamRows(const std::filesystem::path& folder) {
-    return {readRows<JointRow>(folder), readRows<MemberRow>(folder), readRows<PointRow>(folder),
-            readRows<UdlRow>(folder)};
-}
-
 std::optional<Analysis> analyse(BeamRows rows, const AnalysisSettings& settings,
                                 const TableSink& tableRow, const AnalysisOutputs& outputs) {
     outputs.progress(0);

@@ -21,8 +21,6 @@ struct BeamRows {
     std::vector<UdlRow> udls;
 };
 
-[[nodiscard]] BeamRows readBeamRows(const std::filesystem::path& folder);
-
 /// Divisions: equal parts of each span, a whole number from 1 to 10,000. places: 0 to 12; the
 /// search for a maximum stops at a bracket of 1 / 10^(places + 1) of the length unit.
 struct AnalysisSettings {

@@ -8,6 +8,7 @@
 #include "core/store/folder_record.h"
 #include "core/text/number_masks.h"
 #include "core/text/number_text.h"
+#include "core/text/three_figures.h"
 
 namespace trabeon {
 namespace {

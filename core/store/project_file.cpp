@@ -77,7 +77,7 @@ class Unpacker {
     }
 
     /// Row by row, each on a line of its own, up to the heading that begins with these letters.
-    template <class Row>
+    template <FileRow Row>
     std::string rows(std::string_view heading, std::string_view expected) {
         std::string text;
         while (present(expected)) {

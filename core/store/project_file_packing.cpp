@@ -30,13 +30,13 @@ std::string wholeLines(std::string_view file) {
     return lines;
 }
 
-template <class Row>
+template <FileRow Row>
 std::string packedRows(std::string_view file) {
     return textOf(rowsOf<Row>(file), Description::quoted);
 }
 
 /// The same line by line: one that is no whole row stays as it stands.
-template <class Row>
+template <FileRow Row>
 std::string packedLines(std::string_view file) {
     std::string text;
     FieldReader reader(file);

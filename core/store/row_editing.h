@@ -1,6 +1,5 @@
-// How the five editors change their row files: never in place. The new content goes to the scratch
-// twin, which is then copied over the working file; a failed write leaves the working file as it
-// was.
+// How the five editors change their row files. The new content goes to a scratch file, which is
+// then copied over the working file. A failed write leaves the working file as it was.
 #pragma once
 
 #include <algorithm>
@@ -14,9 +13,9 @@
 
 namespace trabeon {
 
-/// The rows of a file that is about to be rewritten. Refuses a file that cannot be read, and one
-/// that another program has taken away: its rows would be lost.
-template <class Row>
+/// The rows of a file that will be rewritten. Refuses a file that cannot be read. Refuses a missing
+/// file too: another program took it away, and its rows would be lost.
+template <EditedRow Row>
 [[nodiscard]] Outcome<std::vector<Row>> rowsToChange(const std::filesystem::path& folder) {
     if (auto failure = missing(folder, std::array{Row::file}))
         return *failure;
@@ -26,23 +25,19 @@ template <class Row>
     return rowsOf<Row>(*text);
 }
 
-/// Writes the rows to the scratch twin and takes it over into the working file.
-template <class Row>
+/// Writes the rows to the scratch file and copies it over the working file.
+template <EditedRow Row>
 [[nodiscard]] Failure rewriteRows(const std::filesystem::path& folder,
                                   const std::vector<Row>& rows) {
     const auto scratch = folder / Row::scratch;
-    const auto text = textOf(rows, Description::quoted);
-    if (auto failure = replaceFile(scratch, text))
+    if (auto failure = replaceFile(scratch, textOf(rows, Description::quoted)))
         return failure;
-    DuplicateFile(scratch, folder / Row::file);
-    if (readWhole(folder / Row::file) == text)
-        return std::nullopt;
-    return replaceFile(folder / Row::file, text);  // the copy was silent; this says why
+    return DuplicateFile(scratch, folder / Row::file);
 }
 
 /// Puts a row after the first `position` rows of its file; the others stay as they were read.
 /// A position beyond the end counts as the end.
-template <class Row>
+template <EditedRow Row>
 [[nodiscard]] Failure addRow(const std::filesystem::path& folder, std::size_t position,
                              const Row& row) {
     auto rows = rowsToChange<Row>(folder);
@@ -56,9 +51,9 @@ template <class Row>
 /// What Remove does to the number field of the rows that stay.
 enum class Numbering { asRead, fromOne };
 
-/// Takes row `position`, counting from 1, out of its file. A position that no row has changes
+/// Removes row `position`, counting from 1, from its file. A position without a row changes
 /// nothing.
-template <class Row>
+template <EditedRow Row>
 [[nodiscard]] Failure removeRow(const std::filesystem::path& folder, std::size_t position,
                                 Numbering numbering) {
     auto rows = rowsToChange<Row>(folder);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <concepts>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,8 +13,21 @@
 
 namespace trabeon {
 
-// Each row tells its fields in file order, its file, the scratch twin of its file, and whether its
-// last field is a description, which most writers put in double quotes.
+/// A row of a working file, which is a struct of texts. `fields` are its members in file order,
+/// `file` is the name of the file, and `described` says whether the last field is a description,
+/// which most writers put in double quotes.
+template <class Row>
+concept FileRow = requires(Row row) {
+    { row.*Row::fields.front() } -> std::same_as<std::string&>;
+    { Row::file } -> std::convertible_to<std::string_view>;
+    { Row::described } -> std::convertible_to<bool>;
+};
+
+/// A row of a file that an editor rewrites by way of a scratch file.
+template <class Row>
+concept EditedRow = FileRow<Row> && requires {
+    { Row::scratch } -> std::convertible_to<std::string_view>;
+};
 
 /// Row k of "Joint.txt" is joint k from the left, whatever its number field says.
 struct JointRow {
@@ -47,7 +61,7 @@ struct PointRow {
     static constexpr bool described = true;
 };
 
-/// A distributed load from a on, b wide, whose intensity runs straight from w1 to w2.
+/// A distributed load that begins at a and is b wide. Its intensity goes straight from w1 to w2.
 struct UdlRow {
     std::string member, a, b, w1, w2, description;
 
@@ -72,25 +86,25 @@ struct BeamDimensionRow {
     static constexpr bool described = false;
 };
 
-/// A field as it stands, so with the blank in front of a generated number; in double quotes if a
-/// comma or a line end would cut it.
+/// Appends a field as it is, with the blank in front of a generated number. It goes into double
+/// quotes if a comma or a line end would cut it.
 void appendField(std::string& text, std::string_view field);
 
-/// The same for a description, whose blanks at either end are kept by double quotes too.
+/// The same for a description. Double quotes also keep the blanks at its ends.
 void appendBare(std::string& text, std::string_view description);
 
-/// A field in double quotes. One that holds a double quote itself came bare from a file that was
-/// edited by hand, and stays bare: quotes would cut it.
+/// Appends a field in double quotes. A field that has a double quote inside comes from a file that
+/// was edited by hand. It stays bare, because quotes would cut it.
 void appendQuoted(std::string& text, std::string_view field);
 
-/// A line as it stands, with the one line end that all files have.
+/// Appends a line as it is, with the line end that all files have.
 void appendLine(std::string& text, std::string_view line);
 
-/// How a writer puts the description: the editors and the project file quote it, others do not.
+/// How a writer puts the description. The editors and the project file quote it, others do not.
 enum class Description { quoted, bare };
 
-/// One line with its line end.
-template <class Row>
+/// Appends one line with its line end.
+template <FileRow Row>
 void appendRow(std::string& text, const Row& row, Description description) {
     constexpr auto last = Row::fields.size() - 1;
     for (std::size_t i = 0; i < last; ++i) {
@@ -107,7 +121,7 @@ void appendRow(std::string& text, const Row& row, Description description) {
 }
 
 /// All rows of a file's text. A last row that is short has empty texts for what is missing.
-template <class Row>
+template <FileRow Row>
 [[nodiscard]] std::vector<Row> rowsOf(std::string_view text) {
     std::vector<Row> rows;
     const auto lines = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
@@ -120,12 +134,12 @@ template <class Row>
 }
 
 /// All rows of the row's own file in a working folder.
-template <class Row>
+template <FileRow Row>
 [[nodiscard]] std::vector<Row> readRows(const std::filesystem::path& folder) {
     return rowsOf<Row>(readWhole(folder / Row::file));
 }
 
-template <class Row>
+template <FileRow Row>
 [[nodiscard]] std::string textOf(const std::vector<Row>& rows, Description description) {
     std::string text;
     for (const auto& row : rows)

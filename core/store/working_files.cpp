@@ -112,12 +112,12 @@ Failure missing(const std::filesystem::path& folder, std::span<const std::string
     return std::nullopt;
 }
 
-void DuplicateFile(const std::filesystem::path& Source, const std::filesystem::path& Target) {
+Failure DuplicateFile(const std::filesystem::path& Source, const std::filesystem::path& Target) {
     std::error_code error;
     if (!std::filesystem::exists(Source, error))
-        return;
-    if (const auto text = readFile(Source))
-        static_cast<void>(replaceFile(Target, *text));
+        return unreadable(Source, ENOENT);
+    const auto text = readFile(Source);
+    return text ? replaceFile(Target, *text) : Failure(text.refusal());
 }
 
 void MurderFile(const std::filesystem::path& file) {

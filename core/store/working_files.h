@@ -114,9 +114,9 @@ template <std::size_t Count>
 [[nodiscard]] Failure missing(const std::filesystem::path& folder,
                               std::span<const std::string_view> names);
 
-/// Copies Source over Target, whole or not at all. Silent: a copy that fails leaves Target as it
-/// was.
-void DuplicateFile(const std::filesystem::path& Source, const std::filesystem::path& Target);
+/// Copies Source over Target, whole or not at all, and returns why the copy failed. Shows nothing.
+[[nodiscard]] Failure DuplicateFile(const std::filesystem::path& Source,
+                                    const std::filesystem::path& Target);
 
 /// Deletes a file. Silent, also when there is none.
 void MurderFile(const std::filesystem::path& file);

@@ -1,8 +1,9 @@
-// The fixed number masks of tables and station files, written straight into a buffer: nearly the
-// whole cost of an analysis is this text, so the three-figure mask has a fast way of its own.
+// The fixed number masks of tables and station files.
 #pragma once
 
 #include <string>
+
+#include "core/text/three_figures.h"
 
 namespace trabeon {
 
@@ -11,12 +12,6 @@ inline constexpr int longestMask = 24;
 
 /// Each writes from `at` on, and returns the end of what it wrote. Values must be finite; a value
 /// is rounded on its decimal value at 15 significant digits, a tie away from zero.
-
-/// "0.00E+00": 1.23E+01, -4.50E-02, 0.00E+00.
-char* putThreeFigures(char* at, double value);
-
-/// "+0.00E+00;-0.00E+00": always a sign, +0.00E+00 for zero.
-char* putSignedThreeFigures(char* at, double value);
 
 /// "00.00000%" of a factor from 0 to 1: 50.00000%, 00.00000%, 100.00000%.
 char* putPercent(char* at, double factor);
@@ -32,9 +27,5 @@ char* putNineDigits(char* at, double whole);
 
 /// The number that the mask "0.00E+00" leaves of a value: 1.236 gives 1.24.
 [[nodiscard]] double threeFiguresNumber(double value);
-
-/// The same by way of the decimal digits alone: slow, plain, and what the fast way is checked
-/// against.
-char* putThreeFiguresPlainly(char* at, double value);
 
 }  // namespace trabeon

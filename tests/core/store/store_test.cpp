@@ -37,9 +37,9 @@ TEST(WorkingFiles, AreEmptiedCopiedAndDeletedWithoutAWord) {
         {"BM.txt", ""},    {"TB.txt", ""},     {"BeamDim.txt", ""}, {"DResult.txt", "kept"}};
     EXPECT_EQ(folder.contents(), emptied);
 
-    DuplicateFile(folder / "DResult.txt", folder / "Joint.txt");
+    EXPECT_FALSE(DuplicateFile(folder / "DResult.txt", folder / "Joint.txt"));
     EXPECT_EQ(folder.read("Joint.txt"), "kept");
-    DuplicateFile(folder / "none.txt", folder / "Joint.txt");
+    EXPECT_TRUE(DuplicateFile(folder / "none.txt", folder / "Joint.txt"));
     EXPECT_EQ(folder.read("Joint.txt"), "kept");
     MurderFile(folder / "Joint.txt");
     MurderFile(folder / "Joint.txt");
