@@ -1,4 +1,4 @@
-// The lock that keeps two programs out of one working folder.
+// A lock, so that two programs do not use one working folder at a time.
 #pragma once
 
 #include <chrono>
@@ -9,16 +9,16 @@
 
 namespace trabeon {
 
-/// Who holds a folder, as far as the system tells.
+/// The process that holds a folder, as far as the system knows it.
 struct FolderHolder {
-    long process = 0;  // its number; 0: not known
+    long process = 0;  // its number; 0 if it is not known
     std::string program;
     bool runsThisProgram = false;  // the same program file as this process
 };
 
-/// Holds a folder against other processes until it goes out of scope. The system keeps the lock
-/// (flock on the folder itself) and releases it when the process ends, however it ends, so nothing
-/// that is left behind can lock anybody out.
+/// Locks a folder against other processes until it goes out of scope. The lock is flock on the
+/// folder itself. The system releases it when the process ends, also after a crash, so a lock never
+/// remains.
 class FolderLock {
   public:
     FolderLock() = default;
@@ -26,8 +26,8 @@ class FolderLock {
     FolderLock(const FolderLock&) = delete;
     FolderLock& operator=(const FolderLock&) = delete;
 
-    /// Takes the lock if it is not held yet, and waits for it as long as `patience`. Refuses with a
-    /// sentence that says who holds the folder, or why it cannot be locked.
+    /// Takes the lock if this object does not have it yet, and waits for it up to `patience`. The
+    /// refusal says who holds the folder, or why it cannot be locked.
     [[nodiscard]] Failure take(const std::filesystem::path& folder,
                                std::chrono::milliseconds patience);
 

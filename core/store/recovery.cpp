@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Exit deletes these; the beam dimensions stay behind each run.
+/// Whether files are there that Exit deletes. The beam dimensions are not among them.
 bool endedWithoutExit(const fs::path& folder) {
     constexpr std::array exitTakes{working_file::joint, working_file::member, working_file::point,
                                    working_file::udl, working_file::balanceTable};
@@ -37,7 +37,7 @@ bool isWithin(std::string_view text, std::string_view other) {
     return true;
 }
 
-/// "Recovered.TB", "Recovered 2.TB" ...: whatever earlier starts have recovered.
+/// Whether an earlier start made this file: "Recovered.TB", "Recovered 2.TB" ...
 bool isRecovered(const std::string& name) {
     return name == recoveredProject || (name.starts_with("Recovered ") && name.ends_with(".TB"));
 }
@@ -52,7 +52,7 @@ bool wasRecoveredBefore(std::string_view text, const fs::path& folder) {
     return false;
 }
 
-/// Keeps what an earlier start has recovered, under the first free name.
+/// Renames what an earlier start has recovered to the first free name.
 Failure setAside(const fs::path& recovered) {
     std::error_code error;
     if (!fs::exists(fs::symlink_status(recovered, error)))

@@ -51,7 +51,8 @@ std::string randomDigits() {
     return text;
 }
 
-/// A name that is too long for its ending loses its last characters.
+/// The path of the temporary file. A name that is too long with its ending loses its last
+/// characters.
 fs::path besides(const fs::path& target) {
     auto name = target.filename().string();
     name.resize(std::min(name.size(), longestName - 1 - digits - ending.size()));
@@ -62,8 +63,8 @@ int errorOf(int result) {
     return result == 0 ? 0 : errno;
 }
 
-/// Owner, group and permissions of the target. A group that cannot be kept gives the new one no
-/// more than everybody has.
+/// Gives the new file the owner, group and permissions of the target. If the group cannot be kept,
+/// the new group gets no more rights than everybody has.
 int takeOver(int descriptor, const struct stat& target) {
     struct stat made {};
     if (::fstat(descriptor, &made) != 0)

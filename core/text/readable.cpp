@@ -57,7 +57,7 @@ std::string fromLatin1(std::string_view text) {
     return utf8;
 }
 
-/// Whether a character changes the screen or the terminal around it, or may not stand in XML.
+/// Whether a character has an effect on a screen or a terminal, or is not allowed in XML.
 bool isControl(char32_t code) {
     return code < 0x20 || (code >= 0x7F && code < 0xA0) || code == 0xFFFE || code == 0xFFFF;
 }
