@@ -20,7 +20,10 @@ int main(int argc, char** argv) try {
     frmTrabeon program(folder);
     takeUpReport(program.context());
     program.context().forms.Register<frmPrintOptions>(program.context());
-    const int exit = program.Start() ? application.Run() : 0;
+    if (!program.Start())
+        return 0;
+    removeLentPictures(folder);
+    const int exit = application.Run();
     removeLentPictures(folder);
     return exit;
 } catch (const std::exception& error) {

@@ -50,7 +50,7 @@ std::string spanTable(const Analysis& analysis) {
     return text;
 }
 
-/// From the moments about the left joint, so that it does not lean on the shears.
+/// From the moments about the left joint, so that it does not depend on the shears.
 double rightReaction(const Analysis& analysis, std::size_t member) {
     const auto stations = analysis.stationsOf(member);
     const double left = stations.front().forces.moment;

@@ -10,18 +10,19 @@
 
 namespace trabeon {
 
-/// The upward reaction of each joint, the first joint's at index 0: of each span the left one from
-/// its shear, the right one from its moments, so that their sum can be held against the loads.
+/// The upward reaction of each joint, the first joint at index 0. In each span the left reaction
+/// follows from the shear and the right one from the moments, so that their sum is a check on the
+/// loads.
 [[nodiscard]] std::vector<double> reactionsOf(const Analysis& analysis);
 
 /// The sum of all loads, downward positive.
 [[nodiscard]] double totalLoad(const Analysis& analysis);
 
-/// The balance table ("TB.txt") in strips of at most `width` characters, a column for each member
-/// end.
+/// The balance table ("TB.txt") in strips of at most `width` characters, with a column for each
+/// member end.
 [[nodiscard]] std::string balanceTableStrips(std::string_view table, std::size_t width);
 
-/// One line that holds the sum of the reactions against the sum of the loads.
+/// One line that compares the sum of the reactions with the sum of the loads.
 [[nodiscard]] std::string reactionCheck(const Analysis& analysis);
 
 /// End moments and maximum of each span, the reaction of each joint, and the check of the

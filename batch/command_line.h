@@ -1,4 +1,4 @@
-// The words of a command line: what is asked for, or one line that says what is wrong.
+// Reads the words of a command line, or says in one line what is wrong.
 #pragma once
 
 #include <optional>
@@ -15,7 +15,7 @@ enum class Exit { done = 0, refused = 1, usage = 2 };
 
 struct CommandForm;
 
-/// A command line that fits one of the forms.
+/// The words of a command line that fits one of the forms.
 struct CommandLine {
     const CommandForm* command = nullptr;  // none: "--help"
     std::vector<std::string> operands;
@@ -23,11 +23,12 @@ struct CommandLine {
 
     [[nodiscard]] std::optional<std::string> option(std::string_view name) const;
 
-    /// Puts the number of an option, if it is there, into value; refuses what is no number.
+    /// Sets `value` to the number of an option, if the option is there. Refuses a text that is not
+    /// a number.
     [[nodiscard]] Failure readNumber(std::string_view name, double& value) const;
 };
 
-/// A command as users call it, and what carries it out.
+/// A command as users call it, and the function that carries it out.
 struct CommandForm {
     std::string_view name;
     Exit (*carryOut)(const CommandLine& line);
@@ -41,8 +42,8 @@ struct CommandForm {
 /// What `--help` prints.
 [[nodiscard]] std::string helpText(const std::vector<CommandForm>& commands);
 
-/// Reads the words behind the program's name by the commands, which must outlive the line. "--help"
-/// anywhere is no command. Options stand anywhere behind the command, as "--name value" or
+/// Reads the words after the program's name. `commands` must outlive the line. "--help" anywhere
+/// gives a line without a command. Options come anywhere after the command, as "--name value" or
 /// "--name=value"; the last one counts.
 [[nodiscard]] Outcome<CommandLine> readCommandLine(const std::vector<std::string>& words,
                                                    const std::vector<CommandForm>& commands);

@@ -52,7 +52,7 @@ Exit wrongUsage(const Refusal& refusal) {
 /// How long a command waits for another program that is at work in its folder.
 constexpr std::chrono::seconds patience{3};
 
-/// Takes a folder for this command alone, and finishes what a killed one has left there.
+/// Locks a folder for this command, and finishes the files that a killed command left there.
 Failure enter(const fs::path& folder, FolderLock& lock) {
     std::error_code error;
     if (!fs::is_directory(folder, error))
@@ -88,7 +88,7 @@ Outcome<MiscProperties> propertiesOf(const CommandLine& line) {
 
 constexpr auto clearedLine = "\r                \r";
 
-/// A percentage on standard error, for a person who waits at a terminal.
+/// Shows a percentage on standard error if that is a terminal and the beam is long.
 std::function<void(double)> progressLine(std::size_t members) {
     if (members < manyMembers || isatty(STDERR_FILENO) == 0)
         return [](double) {};
@@ -136,7 +136,7 @@ Failure outdated(const fs::path& file, ResultState state) {
     return Refusal{'"' + file.string() + "\": " + std::string(analyseAgain)};
 }
 
-/// A run takes a station file as it is; a user who has not analysed shall know it.
+/// The design reads any station file. A user who has not analysed the beam must know it.
 Failure unfitStations(const DesignData& data) {
     if (data.NumofMem() > 0 && data.stationsFit())
         return std::nullopt;

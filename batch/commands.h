@@ -5,13 +5,13 @@
 
 namespace trabeon {
 
-/// All commands: each name stands here once, with its form and its function.
+/// All commands, each with its form and its function.
 [[nodiscard]] const std::vector<CommandForm>& commands();
 
-/// Carries a command out; reasons go to standard error, one a line.
+/// Carries a command out. Reasons go to standard error, one on each line.
 [[nodiscard]] Exit carryOut(const CommandLine& line);
 
-/// One line on standard error.
+/// Writes one line to standard error.
 void complain(std::string_view sentence);
 
 }  // namespace trabeon

@@ -16,7 +16,7 @@ constexpr auto outOfMemory =
     "There is not enough memory to go on. Close other programs or allow this one more memory, then "
     "start it again.\n";
 
-/// An exception needs memory too, and there may be none even for that.
+/// Called if there is not even enough memory for an exception.
 [[noreturn]] void endWithoutException() {
     if (std::current_exception())
         std::abort();  // a fault of this program

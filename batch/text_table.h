@@ -1,4 +1,4 @@
-// Lines of a table for a terminal: a label at the left, cells to the right of their columns.
+// Lines of a table for a terminal: a label on the left, then cells that are aligned to the right.
 #pragma once
 
 #include <initializer_list>
@@ -10,7 +10,7 @@ namespace trabeon {
 inline constexpr std::size_t columnWidth = 12;
 inline constexpr std::size_t labelWidth = 8;
 
-/// A text that is as wide as its column, or a blank and the text itself.
+/// The text after as many blanks as make it as wide as its column, at least one.
 [[nodiscard]] std::string padded(std::string_view text, std::size_t width);
 
 /// The text and the blanks up to the first column, at least one.

@@ -51,9 +51,10 @@ void lendPicture(const fs::path& path) {
 void removeLentPictures(const fs::path& folder) {
     std::error_code error;
     std::vector<fs::path> read;
-    for (const auto& entry : fs::directory_iterator(folder, error))
-        if (isLentAndRead(entry))
-            read.push_back(entry.path());
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error))
+        if (isLentAndRead(*entry))
+            read.push_back(entry->path());
     for (const auto& path : read)
         fs::remove(path, error);
 }

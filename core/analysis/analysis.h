@@ -1,4 +1,4 @@
-// The whole analysis of a beam as one call over values.
+// The whole analysis of a beam as one function over values.
 #pragma once
 
 #include <functional>
@@ -13,7 +13,7 @@
 
 namespace trabeon {
 
-/// The input files' rows.
+/// The rows of the input files.
 struct BeamRows {
     std::vector<JointRow> joints;
     std::vector<MemberRow> members;
@@ -34,9 +34,9 @@ struct AnalysisSettings {
 /// Refuses settings outside their limits.
 [[nodiscard]] Failure unfit(const AnalysisSettings& settings);
 
-/// What an analysis tells its user while it runs. `progress` gets 0, then 50 when the moments have
-/// settled, then 50 + 50 i / n when span i of n is searched. `rowsRead` gets the rows of a folder
-/// as they stood before the analysis puts the loads in order.
+/// Who hears of an analysis while it runs. `progress` gets 0, then 50 when the relaxation has
+/// ended, then 50 + 50 i / n when span i of n has been searched. `rowsRead` gets the rows of the
+/// folder as they were read, before the analysis sorts the loads.
 struct AnalysisOutputs {
     MessageSink message;
     std::function<void(double)> progress = [](double) {};
@@ -45,8 +45,8 @@ struct AnalysisOutputs {
     void refuse(const Refusal& why) const { message({why.sentence, MessageKind::refusal}); }
 };
 
-/// The loads in normal form, the end moments, the stations and the maxima. The table's rows went
-/// out one by one, so that a long table needs no memory.
+/// The results. The rows of the balance table are not among them: they go out one by one, so that a
+/// long table needs no memory.
 struct Analysis {
     Beam beam;
     MemberLoads<PointLoad> points;
@@ -61,8 +61,8 @@ struct Analysis {
     }
 };
 
-/// The balance table goes to `tableRow` as it comes up. Nothing if the structure breaks a rule or a
-/// value cannot be calculated: then a message was shown.
+/// Each row of the balance table goes to `tableRow` once it is calculated. Returns nothing if the
+/// structure breaks a rule or a value cannot be calculated; then a message was shown.
 [[nodiscard]] std::optional<Analysis> analyse(BeamRows rows, const AnalysisSettings& settings,
                                               const TableSink& tableRow,
                                               const AnalysisOutputs& outputs);

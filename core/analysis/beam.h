@@ -17,8 +17,8 @@ struct Beam {
     std::size_t EndCount = 0;  // member ends: 2 × (Supports - 1)
     std::vector<Joint> SupportType;
     std::vector<double> MemberE, MemberI, Length;
-    std::vector<double>
-        Stiffness;  // E × I / L, with no factor 4 and no reduction for a pinned far end
+    /// E × I / L, without a factor 4 and without a reduction for a pinned far end.
+    std::vector<double> Stiffness;
 
     [[nodiscard]] std::size_t members() const { return Supports - 1; }
     [[nodiscard]] bool leftCantilever() const { return SupportType[1] == Joint::cantilever; }
@@ -27,8 +27,9 @@ struct Beam {
     }
 };
 
-/// The beam of rows that passed CheckJoint and CheckMember. Refuses a joint of an unknown type, and
-/// a member whose E, I, L or stiffness is not above 0 or not finite; the refusal names the row.
+/// The beam of rows that passed CheckJoint and CheckMember. Refuses a joint of an unknown type.
+/// Refuses a member whose E, I, L or stiffness is not above 0 or not finite. The refusal names the
+/// row.
 [[nodiscard]] Outcome<Beam> beamOf(const std::vector<JointRow>& joints,
                                    const std::vector<MemberRow>& members);
 

@@ -9,7 +9,7 @@
 namespace trabeon {
 namespace {
 
-/// Puts the end of a member at x: a joint of its own, or the other side of the former member's.
+/// Puts the start or the end of a member at x. A start joins the end of the member before it.
 void addJoint(std::vector<CurveJoint>& joints, double x, std::size_t left, std::size_t right) {
     if (left == 0 && !joints.empty())
         joints.back().right = right;

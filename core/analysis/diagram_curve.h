@@ -21,9 +21,9 @@ struct CurvePoint {
     bool isMaximum;           // the row of the member's greatest moment
 };
 
-/// The end of a member on the axis: joint `left` to the left of it, joint `right` to the right.
-/// Both are the same but where the members that meet are no neighbours on the beam, and 0 where
-/// there is no member on that side.
+/// Where a member ends or begins on the axis. `left` is the joint at the end of the member on the
+/// left, `right` the joint at the start of the member on the right; 0 if there is no such member.
+/// They differ where the two members are not neighbours on the beam.
 struct CurveJoint {
     double x;
     std::size_t left, right;
@@ -33,9 +33,9 @@ struct CurveJoint {
 struct DiagramCurve {
     std::vector<CurvePoint> points;
     std::vector<CurveJoint> joints;  // those that the file reaches; none for a single span
-    bool whole = false;              // the file had every row of every member asked for, no more
-    /// The points where the greatest and the least value belong, from 0; 0 without points. Of rows
-    /// that round to the same value it is the maximum of a member, else the end of a member, else
+    bool whole = false;  // the file has exactly the expected rows of every member asked for
+    /// The points to label with the greatest and the least value, from 0; 0 without points. If
+    /// several points have the value, it is the maximum of a member, else the end of a member, else
     /// the middle one.
     std::size_t greatest = 0, least = 0;
 };
@@ -50,8 +50,8 @@ struct ResultTexts {
 [[nodiscard]] DiagramCurve spanCurve(const ResultTexts& results, std::size_t rowsPerMember,
                                      StationField field, std::size_t member);
 
-/// Members, by rising number, laid end to end whatever lies between them on the beam. At the end of
-/// each but the last two points share an x.
+/// Several members in rising order, laid end to end even if they are not neighbours on the beam.
+/// Where two members meet, two points have the same x.
 [[nodiscard]] DiagramCurve beamCurve(const ResultTexts& results, std::size_t rowsPerMember,
                                      StationField field, const std::vector<std::size_t>& members);
 

@@ -1,4 +1,4 @@
-// What each member end takes with both ends held fixed.
+// The moments at the ends of a member whose two ends are held fixed.
 #pragma once
 
 #include <vector>
@@ -8,7 +8,7 @@
 
 namespace trabeon {
 
-/// The two moments on a member's ends as magnitudes that a downward load makes positive.
+/// The two moments as magnitudes, positive for a downward load.
 struct EndMoments {
     double left = 0, right = 0;
 };
@@ -21,8 +21,8 @@ struct EndMoments {
 [[nodiscard]] EndMoments fixedEndMoments(const PointLoad& load, double L);
 
 /// FEM by member end, clockwise positive: element 2i - 1 is the left end of member i and 2i its
-/// right end, element 0 is not used. A cantilever member takes its statical moment at the support
-/// and nothing at the free end.
+/// right end; element 0 is not used. A cantilever member has its statical moment at the support and
+/// 0 at the free end.
 [[nodiscard]] std::vector<double> fixedEndMoments(const Beam& beam,
                                                   const MemberLoads<UdlLoad>& udls,
                                                   const MemberLoads<PointLoad>& points);

@@ -22,7 +22,7 @@ struct PointLoad {
     [[nodiscard]] Failure unfit() const;
 };
 
-/// Intensity from w1 at a to w2 at a + b, straight in between, positive downward.
+/// A load whose intensity goes straight from w1 at a to w2 at a + b, positive downward.
 struct UdlLoad {
     double a = 0, b = 0, w1 = 0, w2 = 0;
 
@@ -33,11 +33,11 @@ struct UdlLoad {
     [[nodiscard]] static UdlRow zeroRow() { return {"", "0", "1", "0", "0", "Zero Load"}; }
     [[nodiscard]] Failure unfit() const;
 
-    /// The load on the first t of its width: the whole of it with t = b.
+    /// The force of the load on the first t of its width; t = b gives the whole load.
     [[nodiscard]] double resultant(double t) const { return t * (w1 + intensityAt(t)) / 2; }
 
-    /// Moment of the load on the first t of its width about a point at the distance c from its
-    /// start.
+    /// The moment of the load on the first t of its width, about a point at the distance c from the
+    /// start of the load.
     [[nodiscard]] double momentAbout(double c, double t) const {
         return t / 6 * (w1 * (3 * c - t) + intensityAt(t) * (3 * c - 2 * t));
     }

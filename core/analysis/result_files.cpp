@@ -42,8 +42,8 @@ void writeRow(ReplacingFile& file, const Station& station) {
     file.advance(put(at, "\r\n"));
 }
 
-/// A load file in normal form, and the scratch twin that the regrouping leaves. A second analysis
-/// finds them so, and leaves them alone.
+/// Writes a load file in normal form, and its scratch file with the same content. Files that are in
+/// normal form already are not written again.
 template <class Load>
 void writeLoads(FileSet& files, const std::filesystem::path& folder, const MemberLoads<Load>& loads,
                 std::string& text) {
@@ -55,8 +55,8 @@ void writeLoads(FileSet& files, const std::filesystem::path& folder, const Membe
     text = std::move(normal);
 }
 
-/// Rows that a project file put here still come from there once they are in normal form. The
-/// results are of these rows.
+/// Records that the results belong to the rows in normal form. Rows that came from a project file
+/// still count as coming from it.
 void writeRecord(FileSet& files, const std::filesystem::path& folder, std::uint64_t before,
                  std::uint64_t after, double Divisions) {
     auto record = readRecord(folder);

@@ -6,8 +6,8 @@
 
 namespace trabeon {
 
-/// Writes the balance table row by row: the label, five blanks, then each cell and five blanks. A
-/// row but the first begins with a line end, so the last row ends the file without one.
+/// Writes the balance table row by row: the label, five blanks, then each cell and five blanks.
+/// Lines are separated by line ends; there is none after the last row.
 class BalanceTableWriter {
   public:
     explicit BalanceTableWriter(ReplacingFile& file) : file_(file) {}
@@ -19,16 +19,16 @@ class BalanceTableWriter {
 };
 
 /// For each span the heading "Span" and its number in print form, then x, moment and shear of each
-/// station in the mask "0.00E+00"; the row of the maximum stands before the first station that is
-/// not nearer to the left joint.
+/// station in the mask "0.00E+00". The row of the maximum comes before the first station whose x is
+/// not below its x.
 void writeStations(ReplacingFile& file, const Analysis& analysis);
 
 /// For each span the heading "Span #" and its number, then x in print form, moment and shear.
 void writeMaxima(ReplacingFile& file, const Analysis& analysis);
 
-/// Analyses the beam whose rows stand in a working folder. Rewrites "Point.txt" and "Udl.txt" in
-/// normal form, "TB.txt", "BM.txt" and "BMMax.txt", all of them or, if anything fails before the
-/// first is replaced, none; whatever failed has been told to `message`.
+/// Analyses the beam in a working folder. Writes "TB.txt", "BM.txt" and "BMMax.txt", and rewrites
+/// "Point.txt" and "Udl.txt" in normal form. If anything fails before the first file is replaced,
+/// no file changes. Returns nothing if it failed; then a message was shown.
 [[nodiscard]] std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
                                                     const AnalysisSettings& settings,
                                                     const AnalysisOutputs& outputs);

@@ -8,8 +8,8 @@
 
 namespace trabeon {
 
-/// absent: there are no results. unrecorded: nobody knows what they were made from, for example
-/// because they were written by hand. outdated: the rows or the settings have changed since.
+/// absent: there are no results. unrecorded: it is not known what they were made from, for example
+/// because another program wrote them. outdated: the rows or the settings have changed since.
 enum class ResultState { absent, unrecorded, outdated, current };
 
 inline constexpr std::string_view analyseAgain =
@@ -17,19 +17,20 @@ inline constexpr std::string_view analyseAgain =
 inline constexpr std::string_view noResults = "Not analysed yet: analyse first";
 inline constexpr std::string_view designAgain = "Of another beam or an earlier state: design again";
 
-/// What stations are made from: the four input files, and the number of parts of a span.
+/// The fingerprint of what stations are made from: the four input files, and Divisions.
 [[nodiscard]] std::uint64_t stationsFingerprint(std::uint64_t input, double Divisions);
 
-/// How the results in a file compare with a fingerprint of what they should be made from.
+/// The state of the results in a file. `recorded` is the fingerprint of what they were made from,
+/// `now` the fingerprint of what is there now.
 [[nodiscard]] ResultState resultState(const std::filesystem::path& file,
                                       const std::optional<std::uint64_t>& recorded,
                                       std::uint64_t now);
 
-/// Of "TB.txt", and of "BM.txt" with these Divisions.
+/// The state of "TB.txt", and of "BM.txt" with these Divisions.
 [[nodiscard]] ResultState tableState(const std::filesystem::path& folder);
 [[nodiscard]] ResultState stationsState(const std::filesystem::path& folder, double Divisions);
 
-/// What to show beside results; nothing if they are current. A batch takes unrecorded results
+/// What to show next to results; nothing if they are current. A batch accepts unrecorded results
 /// without a remark, the windows do not.
 enum class Unrecorded { accepted, remarked };
 [[nodiscard]] std::string_view remarkOn(ResultState state, Unrecorded unrecorded,

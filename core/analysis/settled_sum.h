@@ -1,4 +1,4 @@
-// A sum that knows rounding dust from a result.
+// A sum that is exactly 0 where only rounding errors are left.
 #pragma once
 
 #include <algorithm>
@@ -6,7 +6,7 @@
 
 namespace trabeon {
 
-/// Adds terms; what is left below 1e-12 of the largest of them is rounding dust, and 0 on paper.
+/// Adds terms. A sum below 1e-12 of its largest term is a rounding error, and counts as 0.
 class SettledSum {
   public:
     void add(double term) {

@@ -18,9 +18,9 @@ struct StrayLoad {
     std::string what;  // is wrong: "a is 7, beyond the member's end at 6"
 };
 
-/// The point loads with a < 0 or a > L and the distributed loads with a < 0, a + b > L or b < 0, in
-/// the order of their files. A load that ends within 1e-12 L beyond L ends at L. Loads of 0, loads
-/// that name no member, and loads with a number that the analysis refuses are left out.
+/// The point loads with a < 0 or a > L, then the distributed loads with a < 0, a + b > L or b < 0,
+/// each in file order. A load that ends at most 1e-12 L beyond L counts as ending at L. Loads of 0,
+/// loads that name no member, and loads with a number that the analysis refuses are left out.
 [[nodiscard]] std::vector<StrayLoad> strayLoads(const BeamRows& rows);
 
 /// One sentence for the user.

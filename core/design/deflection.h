@@ -1,5 +1,5 @@
-// Span to effective depth ratios: BS 8110: Part 1, clause 3.4.6. Lengths in mm but for the member
-// length L in m, moments in kNm, strengths in N/mm2, areas in mm2. d is the effective depth.
+// Span to effective depth ratios: BS 8110: Part 1, clause 3.4.6. Lengths are in mm, only the member
+// length L is in m; moments in kNm, strengths in N/mm2, areas in mm2. d is the effective depth.
 #pragma once
 
 #include <optional>
@@ -13,7 +13,7 @@
 
 namespace trabeon {
 
-/// How a member is held, for its basic ratio.
+/// How a member is supported. Its basic ratio depends on it.
 enum class SpanKind { cantilever = 1, simplySupported = 2, continuous = 3 };
 
 /// Joint types are read as the analysis reads them. A fixed end counts as continuous.
@@ -26,8 +26,8 @@ enum class SpanKind { cantilever = 1, simplySupported = 2, continuous = 3 };
 /// web is 1 mm wide, so that these hold for every b from 1 / 0.3 mm up.
 [[nodiscard]] double basicRatio(SpanKind kind, double b);
 
-/// The basic ratio, with restrictDeflection for a span over 10 m times 10 / L (clause 3.4.6.4);
-/// nothing for a cantilever over 10 m, which needs a calculation of its own.
+/// The basic ratio. With restrictDeflection, a span over 10 m has 10 / L of it (clause 3.4.6.4),
+/// and a cantilever over 10 m has none: it needs a calculation by hand.
 [[nodiscard]] std::optional<double> ratioForLength(SpanKind kind, double b, double L,
                                                    bool restrictDeflection);
 

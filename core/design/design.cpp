@@ -38,7 +38,7 @@ bool isFinite(const SectionResult& result) {
                       result.DefActual, result.DefAllow});
 }
 
-/// The steel required and the bars for it; nothing if it is not a finite number.
+/// The steel required and its bars; nothing if an area is not a finite number.
 std::optional<Reinforcement> designSteel(SectionData& section, const MiscProperties& misc) {
     auto steel = DesignMoment(section, misc);
     if (!areFinite({steel.Asreq, steel.Aspreq, MaxReinforcement(section.b, section.d)}))

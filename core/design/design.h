@@ -41,14 +41,14 @@ struct BeamDesign {
 
 [[nodiscard]] BeamDesign designBeam(const DesignData& data, const MiscProperties& misc);
 
-/// Refuses Divisions that an analysis refuses, and properties that are no finite numbers.
+/// Refuses Divisions that an analysis refuses, and properties that are not finite numbers.
 [[nodiscard]] Failure unfitForDesign(double Divisions, const MiscProperties& misc);
 
-/// Writes "DResult.txt" into a working folder anew, and records what the design was made from.
+/// Replaces "DResult.txt" in a working folder, and records what the design was made from.
 [[nodiscard]] Failure writeDesign(const std::filesystem::path& folder, const BeamDesign& design,
                                   double Divisions, const MiscProperties& misc);
 
-/// What to show beside "DResult.txt". Nothing if the file is absent, or was designed from the
+/// What to show next to "DResult.txt". Nothing if the file is absent, or was designed from the
 /// stations, dimensions and properties that are there now. Otherwise that the user must analyse or
 /// design the beam again.
 [[nodiscard]] std::string_view remarkOnDesign(const std::filesystem::path& folder, double Divisions,

@@ -1,4 +1,5 @@
-// What a design reads: the sections' sizes and the stations of the analysis, each file once a run.
+// What a design reads: the sizes of the sections, and the stations of the analysis. Each file is
+// read once for the whole run.
 #pragma once
 
 #include <filesystem>
@@ -13,17 +14,18 @@
 
 namespace trabeon {
 
-/// The sections that have no row of their own: how many, and the first one.
+/// The sections without a dimension row: how many there are, and the first one, which counts
+/// from 1.
 struct MissingDimensions {
     std::size_t count = 0, Member = 0, Section = 0;
 };
 
-/// Members count from 1; the sections of a member are the Divisions + 2 rows of its block in the
-/// station file and count from 0, but from 1 in the dimension rows.
+/// Members count from 1. The sections of a member are the Divisions + 2 rows of its block in the
+/// station file. They count from 0 here, and from 1 in the dimension rows.
 class DesignData {
   public:
-    /// The text of "BM.txt" is read by position, a heading and Divisions + 2 rows for each member;
-    /// what is missing reads as 0.
+    /// `stations` is the text of "BM.txt". It is read by position: a heading and Divisions + 2 rows
+    /// for each member. What is missing reads as 0.
     DesignData(std::vector<JointRow> joints, std::size_t NumofMem,
                const std::vector<BeamDimensionRow>& dimensions, std::string_view stations,
                std::size_t Divisions);
@@ -40,7 +42,7 @@ class DesignData {
     [[nodiscard]] bool hasStation(std::size_t Member, std::size_t Section) const {
         return (Member - 1) * sectionsPerMember_ + Section < stationsRead_;
     }
-    /// Whether the station file had just the blocks and rows that were looked for.
+    /// Whether the station file has exactly the expected blocks and rows.
     [[nodiscard]] bool stationsFit() const { return stationsFit_; }
     [[nodiscard]] MissingDimensions missingDimensions() const;
 

@@ -5,7 +5,7 @@
 
 namespace trabeon {
 
-/// The area in mm2 of one leg. Its pi is a little above the true one, as in the reference tables.
+/// The area of one leg in mm2. Its pi is 3.1415936512, as in the reference tables.
 [[nodiscard]] double legArea(double size);
 
 /// Asv / sv in mm2/mm of sets of links with two legs each.

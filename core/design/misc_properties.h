@@ -3,8 +3,9 @@
 
 namespace trabeon {
 
-/// cover, links (the assumed link size) and hagg (the aggregate size) in mm. restrictDeflection:
-/// spans over 10 m are held to a smaller ratio, so that finishes and partitions stay whole.
+/// cover, links (the assumed link size) and hagg (the aggregate size) are in mm. With
+/// restrictDeflection spans over 10 m have a smaller ratio, so that finishes and partitions do not
+/// crack.
 struct MiscProperties {
     double cover = 25;
     double links = 10;

@@ -1,4 +1,4 @@
-// Two reference tables for the desk. They depend on nothing, and the design does not use them.
+// Two reference tables for the user. The design does not use them.
 #pragma once
 
 #include <filesystem>
@@ -8,15 +8,15 @@
 
 namespace trabeon {
 
-/// The text of "AreaofS.txt": a line for each bar size of 8 to 40 mm, the size and the area in
-/// whole mm2, cut, of 1 to 10 bars.
+/// The text of "AreaofS.txt": a line for each bar size from 8 to 40 mm, with the size and the areas
+/// of 1 to 10 bars in mm2, cut to whole numbers.
 [[nodiscard]] std::string steelAreas();
 
-/// The text of "Asvosv.txt": a line for each spacing of 50 to 400 mm, the spacing and Asv / sv in
-/// mm2/mm, in the mask "0.000", of links with two legs of 6 to 16 mm.
+/// The text of "Asvosv.txt": a line for each spacing from 50 to 400 mm, with the spacing and the
+/// Asv / sv in mm2/mm, in the mask "0.000", of links with two legs of 6 to 16 mm.
 [[nodiscard]] std::string linkResistances();
 
-/// Each writes its file into a working folder anew.
+/// Each replaces its file in a working folder.
 [[nodiscard]] Failure writeSteelAreas(const std::filesystem::path& folder);
 [[nodiscard]] Failure writeLinkResistances(const std::filesystem::path& folder);
 

@@ -10,7 +10,7 @@
 
 namespace trabeon {
 
-/// What the user is told when a section's shear stress is above the limit.
+/// The message for a section whose shear stress is above the limit.
 inline constexpr std::string_view shearFailureSentence = "Please Increase bv or d of beam.";
 
 /// v = V / (b d), clause 3.4.5.2.
@@ -25,8 +25,8 @@ inline constexpr std::string_view shearFailureSentence = "Please Increase bv or 
 /// 1, not at least 1; the last factor holds below fcu 25 too.
 [[nodiscard]] double concreteShearStress(double b, double d, double fcu, double Asprov);
 
-/// Asv / sv by table 3.7 for a stress v. Departs from it: below 0.5 vc the section has the same
-/// least links as up to vc + 0.4.
+/// Asv / sv by table 3.7 for a stress v. Departs from it: a stress below 0.5 vc needs minimum links
+/// too, as one up to vc + 0.4 does.
 [[nodiscard]] double linksRequired(double b, double fyv, double v, double vc);
 
 /// AsvOsvreq; nothing if the stress is above the limit. Asprov is that of the lower face, also

@@ -12,7 +12,7 @@ namespace {
 
 using Rows = std::vector<BeamDimensionRow>;
 
-/// Rows as they come back once they have been through a file.
+/// Rows as they are read after they were written to a file.
 Rows asRead(const Rows& rows) {
     return rowsOf<BeamDimensionRow>(textOf(rows, Description::quoted));
 }

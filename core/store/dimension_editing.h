@@ -1,4 +1,4 @@
-// How the sections of a member come into "BeamDim.txt".
+// Adds the sections of a member to "BeamDim.txt".
 #pragma once
 
 #include <cstddef>
@@ -10,7 +10,7 @@
 
 namespace trabeon {
 
-/// Sections in a row, the first and the last counting.
+/// Consecutive sections, with the first and the last.
 struct SectionRange {
     std::size_t first, last;
 };
@@ -20,12 +20,12 @@ struct BeamExtent {
     std::size_t members, sections;
 };
 
-/// Adds a row for each section of the range, alike but for the section number: the first behind
-/// `position` rows, the others one by one at the end. The outcome is that of a rewrite for each
-/// row, so only the newest keeps the blanks around its fields; the file is written once.
+/// Adds a row for each section of the range; the rows differ only in their section number. The
+/// first row comes after `position` rows, the others at the end. The file is written once, with the
+/// result of one rewrite for each row: only the newest row keeps the blanks around its fields.
 ///
-/// With `order` the file is then put in order by member and section; rows of one section stay in
-/// the order they had. A row whose member or section is no whole number within the extent is lost.
+/// With `order` the file is then sorted by member and section; rows of one section keep their
+/// order. A row whose member or section is not a whole number within the extent is lost.
 [[nodiscard]] Failure addDimensions(const std::filesystem::path& folder, std::size_t position,
                                     BeamDimensionRow row, SectionRange sections,
                                     std::optional<BeamExtent> order);

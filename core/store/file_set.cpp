@@ -19,7 +19,8 @@ std::optional<std::string_view> workingFileOf(std::string_view temporary) {
     return target && isWorkingFile(*target) ? target : std::nullopt;
 }
 
-/// The temporary file is beside the file that it replaces, which a link may name.
+/// Renames a temporary file over its target. If the target is a link, the temporary file is in the
+/// folder of the file that the link points to.
 void takePlace(const fs::path& target, std::string_view temporary) {
     std::error_code missing;
     const auto file = fs::weakly_canonical(target, missing);

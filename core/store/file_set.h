@@ -11,17 +11,17 @@
 namespace trabeon {
 
 /// New content for several working files of a folder. No file is replaced before all of the new
-/// content is written. While the files are replaced, "Unfinished.set" names their temporary files:
-/// if the process is killed then, finishSet() does the rest.
+/// content is written. While the files are replaced, "Unfinished.set" names their temporary files.
+/// If the process is killed then, finishSet() replaces the remaining files.
 class FileSet {
   public:
-    /// Finishes a set that was begun in the folder.
+    /// Finishes a set that an earlier process began in the folder.
     explicit FileSet(std::filesystem::path folder);
 
     /// `name` is one of workingFiles.
     ReplacingFile& add(std::string_view name);
 
-    /// Every file takes its place, in the order in which they were added.
+    /// Replaces the files, in the order in which they were added.
     [[nodiscard]] Failure commit();
 
   private:

@@ -56,7 +56,7 @@ Refusal heldBy(const fs::path& folder, const FolderHolder& holder) {
             ". Wait until it has finished or close it, then try again; nothing was changed."};
 }
 
-/// 0 once the lock is taken, or the errno of what failed; EWOULDBLOCK: somebody else holds it.
+/// Returns 0 if it has the lock, or the errno of what failed. EWOULDBLOCK: another process has it.
 int lockWithin(int descriptor, std::chrono::milliseconds patience) {
     const auto end = std::chrono::steady_clock::now() + patience;
     for (;;) {
@@ -70,7 +70,7 @@ int lockWithin(int descriptor, std::chrono::milliseconds patience) {
     }
 }
 
-/// Network file systems lock no folders, but files that are open for writing.
+/// Network file systems cannot lock a folder, only a file that is open for writing.
 int fileToLock(int folder) {
     return ::openat(folder, "Trabeon.lock", O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC,
                     0666);

@@ -1,4 +1,4 @@
-// The lock that keeps two programs out of one working folder.
+// A lock, so that two programs do not use one working folder at a time.
 #pragma once
 
 #include <chrono>
@@ -11,7 +11,7 @@ namespace trabeon {
 
 /// Who holds a folder, as far as the system knows.
 struct FolderHolder {
-    long process = 0;  // its number; 0: not known
+    long process = 0;  // its number; 0 if it is not known
     std::string program;
     bool runsThisProgram = false;  // the same program file as this process
 };
@@ -26,8 +26,8 @@ class FolderLock {
     FolderLock(const FolderLock&) = delete;
     FolderLock& operator=(const FolderLock&) = delete;
 
-    /// Takes the lock if it is not held yet, and waits for it as long as `patience`. Refuses with a
-    /// sentence that says who holds the folder, or why it cannot be locked.
+    /// Takes the lock if this object does not have it yet, and waits for it up to `patience`. The
+    /// refusal says who holds the folder, or why it cannot be locked.
     [[nodiscard]] Failure take(const std::filesystem::path& folder,
                                std::chrono::milliseconds patience);
 

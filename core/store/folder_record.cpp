@@ -23,7 +23,7 @@ constexpr std::array<std::pair<std::string_view, Number FolderRecord::*>, 5> lab
     {"design of ", &FolderRecord::design},
 }};
 
-/// Files that hold the user's rows or results; the others are the program's own.
+/// Whether a file has rows or results of the user; the others are for the program alone.
 constexpr bool isUsers(std::string_view name) {
     return name != working_file::title && name != working_file::record &&
            name != working_file::unfinishedSet;

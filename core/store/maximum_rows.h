@@ -11,12 +11,13 @@ namespace trabeon {
 /// The records of "BMMax.txt", one a member.
 class MaximumRows {
   public:
-    /// The whole text of the file, which must outlive this. It may be empty or end early: then no
-    /// row of the members that are missing is a maximum.
+    /// The whole text of the file, which must outlive this object. It may be empty or end early;
+    /// then the missing members have no maximum.
     explicit MaximumRows(std::string_view maxima);
 
-    /// Whether a row of this member, counted from 1, is the record: the same moment and shear, and
-    /// its distance when rounded to three figures. So are two rows that read the same.
+    /// Whether a row of this member, counted from 1, is its maximum: moment and shear are those of
+    /// the record, and x is the x of the record in three figures. Two rows with the same texts both
+    /// count.
     [[nodiscard]] bool contain(std::size_t member, const StationRow& row) const;
 
   private:

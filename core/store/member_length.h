@@ -1,4 +1,4 @@
-// The length of one member, for whoever needs no more of the member file.
+// Reads the length of one member without the rest of the member file.
 #pragma once
 
 #include <cstddef>

@@ -1,4 +1,4 @@
-// The working files of a project that has nothing in it yet.
+// The working files of an empty project.
 #pragma once
 
 #include <filesystem>
@@ -7,8 +7,8 @@
 
 namespace trabeon {
 
-/// Makes the seven project files of the folder exist and be empty, all of them or none, and drops
-/// the title and the record that belonged to them. Refuses if one of them cannot be emptied.
+/// Creates the seven project files of the folder, empty: all of them or none. Removes the title and
+/// the record. Refuses if a file cannot be emptied.
 [[nodiscard]] Failure CreateNFile(const std::filesystem::path& folder);
 
 }  // namespace trabeon

@@ -31,6 +31,12 @@ bool begins(const fs::path& file, std::string_view start) {
     return read == start;
 }
 
+/// Other files are zip archives too: a document has this part.
+bool isDocument(const fs::path& file) {
+    return begins(file, documentStart) &&
+           readWhole(file).find("word/document.xml") != std::string::npos;
+}
+
 Refusal taken(const fs::path& file, std::string_view kind) {
     return {"\"" + file.string() + "\" already exists and is not a " + std::string(kind) +
             ". Name another file; nothing was changed."};
@@ -44,7 +50,7 @@ Failure unfitDocumentFile(const fs::path& file, const fs::path& project) {
         return Refusal{"\"" + file.string() +
                        "\" is the project itself. Name another file for the document; nothing was "
                        "changed."};
-    if (isFree(file) || begins(file, documentStart))
+    if (isFree(file) || isDocument(file))
         return std::nullopt;
     return taken(file, "document (.docx)");
 }

@@ -1,4 +1,4 @@
-// Where outputs may go: a file that holds something else is never replaced.
+// Where outputs may go. A file with other content is never replaced.
 #pragma once
 
 #include <filesystem>
@@ -7,18 +7,18 @@
 
 namespace trabeon {
 
-/// Refuses a file for the document of a project: the project itself, by whatever path or link, and
-/// whatever is there and is neither empty nor a document (.docx).
+/// Whether the document of a project may be written to a file. Refuses the project itself, also by
+/// another path or a link. Refuses an existing file that is neither empty nor a document (.docx).
 [[nodiscard]] Failure unfitDocumentFile(const std::filesystem::path& file,
                                         const std::filesystem::path& project);
 
-/// Refuses a file for a project: whatever is there and is neither empty nor a project. A damaged
-/// project that begins with "WARNNING!" counts as one.
+/// Whether a project may be written to a file. Refuses an existing file that is neither empty nor a
+/// project. A damaged project that begins with "WARNNING!" counts as a project.
 [[nodiscard]] Failure unfitProjectFile(const std::filesystem::path& file);
 
-/// The folder beside a project that takes its result files: named after the project without its
-/// ending. Where that leaves the whole name, "." or "..", " results" follows the whole name:
-/// "a/b.TB" gives "a/b", "b" gives "b results", "..TB" gives "..TB results".
+/// The folder for the result files of a project. It is next to the project and has its name without
+/// the ending: "a/b.TB" gives "a/b". Where that is the whole name, "." or "..", " results" is added
+/// to the whole name: "b" gives "b results", "..TB" gives "..TB results".
 [[nodiscard]] std::filesystem::path resultFolder(const std::filesystem::path& project);
 
 }  // namespace trabeon

@@ -7,14 +7,14 @@
 
 namespace trabeon {
 
-/// Whether a path leads to a working file of the folder, a scratch file, or a record that the
-/// program keeps there: by its name in capital or small letters, another spelling of the path, or a
-/// link. The file need not be there yet.
+/// Whether a path leads to a working file of the folder, a scratch file, or a file that the program
+/// keeps there for itself. Capital and small letters, other spellings of the path and links make no
+/// difference. The file need not exist.
 [[nodiscard]] bool isOwnFile(const std::filesystem::path& file,
                              const std::filesystem::path& folder);
 
-/// Refuses such a file as a project file: the program would write its rows over the project, or the
-/// project over its rows.
+/// Refuses such a file as a project file: the rows would overwrite the project, or the project the
+/// rows.
 [[nodiscard]] Failure unfitForProject(const std::filesystem::path& file,
                                       const std::filesystem::path& folder);
 

@@ -25,8 +25,8 @@ std::string tooLong(std::string_view title) {
            " are the most";
 }
 
-/// Numbers and types stand bare wherever they are written, which loses the blanks at their ends: in
-/// quotes they are lost at once, so that a row read again is the same row, and a heading a heading.
+/// Numbers and types are written without quotes, which loses the blanks at their ends. A quoted
+/// field loses them here, so that a row reads the same after it was written, and so does a heading.
 std::string_view withoutBlanks(std::string_view field) {
     const auto first = std::min(field.find_first_not_of(' '), field.size());
     field.remove_prefix(first);
@@ -76,7 +76,7 @@ class Unpacker {
         return text;
     }
 
-    /// Row by row, each on a line of its own, up to the heading that begins with these letters.
+    /// Reads rows, one on each line, up to the heading that begins with these letters.
     template <FileRow Row>
     std::string rows(std::string_view heading, std::string_view expected) {
         std::string text;
@@ -97,8 +97,9 @@ class Unpacker {
         return text;
     }
 
-    /// Line by line; where a line is a row it must have that many fields (0: any line will do). The
-    /// number of a row is written bare again, so letters in quotes there are a heading too.
+    /// Reads lines up to the heading that begins with these letters. Each must be a row of that
+    /// many fields; with 0 any line is accepted. The number of a row loses its quotes when it is
+    /// written, so letters in quotes are a heading too.
     std::string lines(std::string_view heading, std::string_view expected, std::size_t fields) {
         std::string text;
         while (present(expected)) {
@@ -114,7 +115,7 @@ class Unpacker {
         return text;
     }
 
-    /// To the end of the file; the empty lines that an editor leaves there are passed over.
+    /// Reads the dimension rows to the end of the file. An empty line at the end is ignored.
     std::string dimensions() {
         std::string text;
         while (!wrong_ && !reader_.atEnd()) {
@@ -166,7 +167,7 @@ class Unpacker {
     Failure wrong_;
 };
 
-/// The working files that a project holds, and where their texts stand in it.
+/// The working files of a project, and the members that have their texts.
 constexpr std::array<std::pair<std::string_view, std::string Project::*>, 6> packedFiles{{
     {working_file::joint, &Project::joints},
     {working_file::member, &Project::members},
@@ -236,7 +237,9 @@ Failure writeWorkingFiles(const Project& project, const std::filesystem::path& f
     record.unpackedInput =
         fingerprint({project.joints, project.members, project.points, project.udls});
     record.unpackedDimensions = fingerprint(project.beamDimensions);
-    record.table.reset();  // it comes with the project
+    record.table.reset();
+    if (!project.balanceTable.empty())  // it comes with the project, and is taken as its own
+        record.table = inputOf(project);
     if (!record.stations)  // these belong to another beam, recorded or not
         record.stations = 0;
     if (!record.design)

@@ -21,7 +21,7 @@ constexpr std::string_view udlsHeading =
 constexpr std::string_view resultsHeading = "TRABEON RESULTS";
 constexpr std::string_view dimensionsHeading = "BEAM DIMENSIONS";
 
-/// Every line of a file, each with the one line end that all files have.
+/// Every line of a file, each with the line end that all files have.
 std::string wholeLines(std::string_view file) {
     std::string lines;
     FieldReader reader(file);
@@ -35,7 +35,7 @@ std::string packedRows(std::string_view file) {
     return textOf(rowsOf<Row>(file), Description::quoted);
 }
 
-/// The same line by line: one that is no whole row stays as it stands.
+/// The same line by line. A line that is not a whole row stays as it is.
 template <FileRow Row>
 std::string packedLines(std::string_view file) {
     std::string text;

@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Exit deletes these; the beam dimensions stay behind each run.
+/// Whether files are there that Exit deletes. The beam dimensions are not among them.
 bool endedWithoutExit(const fs::path& folder) {
     constexpr std::array exitTakes{working_file::joint, working_file::member, working_file::point,
                                    working_file::udl, working_file::balanceTable};
@@ -52,7 +52,7 @@ bool wasRecoveredBefore(std::string_view text, const fs::path& folder) {
     return false;
 }
 
-/// Keeps what an earlier start has recovered, under the first free name.
+/// Renames what an earlier start has recovered to the first free name.
 Failure setAside(const fs::path& recovered) {
     std::error_code error;
     if (!fs::exists(fs::symlink_status(recovered, error)))

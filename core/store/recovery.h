@@ -1,4 +1,4 @@
-// What a run that ended without Exit left in the working folder, saved before it is emptied.
+// Saves the rows that a run without Exit left in the working folder, before the folder is emptied.
 #pragma once
 
 #include <filesystem>
@@ -10,14 +10,14 @@ namespace trabeon {
 
 inline constexpr std::string_view recoveredProject = "Recovered.TB";
 
-/// Packs the rows and the title of a run that did not come to Exit into "Recovered.TB" beside them.
-/// Nothing is done if there was an Exit, which leaves none of the files that it deletes, or if
-/// everything that would be packed is empty or is in a "Recovered.TB" or "Recovered N.TB" already.
-/// Lines that are no rows are packed as they are, so that they can be mended by hand. An older
-/// "Recovered.TB" is kept under the first free name of "Recovered 2.TB", "Recovered 3.TB" ...
+/// Packs the rows and the title of a run that ended without Exit into "Recovered.TB" in the same
+/// folder. Does nothing after an Exit, which deletes the files. Does nothing if the rows are empty,
+/// or are in a "Recovered.TB" or "Recovered N.TB" already. Lines that are not rows are packed as
+/// they are, so that the user can correct them. An older "Recovered.TB" gets the first free name of
+/// "Recovered 2.TB", "Recovered 3.TB" ...
 ///
-/// Returns whether rows were packed now. Refuses files that cannot be read or written: they must
-/// not be emptied then.
+/// Returns whether it packed rows. Refuses files that cannot be read or written; the caller must
+/// not empty them then.
 [[nodiscard]] Outcome<bool> recoverRows(const std::filesystem::path& folder);
 
 }  // namespace trabeon

@@ -1,4 +1,4 @@
-// A file that takes the place of an old one whole, or not at all.
+// A file that replaces an old one completely, or not at all.
 #pragma once
 
 #include <filesystem>
@@ -11,16 +11,16 @@
 
 namespace trabeon {
 
-/// Whether a file that was written survives a power cut (it is slow: the program waits for the
-/// disk), or only the end of the process.
+/// What a written file survives: only the end of the process, or a power cut too. The latter is
+/// slow, because the program waits for the disk.
 enum class Survives { processEnd, powerCut };
 
-/// New content goes to a temporary file beside the target, and commit() renames it over the target.
-/// Until then, and if anything fails or the process dies, the old file stays as it was. A link
-/// stays, and the file that it points to is replaced.
+/// New content goes to a temporary file in the folder of the target, and commit() renames it over
+/// the target. Until then, and if anything fails or the process dies, the old file does not change.
+/// If the target is a link, the file that it points to is replaced.
 ///
-/// Refused are a target that is no regular file (a folder, a device, a pipe), a link that points to
-/// nothing, and a file that is write-protected, for root as well.
+/// Refuses a target that is not a regular file (a folder, a device, a pipe), a link that points to
+/// nothing, and a write-protected file, also for root.
 class ReplacingFile {
   public:
     explicit ReplacingFile(const std::filesystem::path& target,
@@ -30,7 +30,8 @@ class ReplacingFile {
 
     void write(std::string_view text);
 
-    /// Room for `size` characters (at most 4096) to be written in place; advance() tells their end.
+    /// Room for `size` characters, at most 4096, in the buffer. The caller writes them there and
+    /// passes their end to advance().
     char* room(std::size_t size) {
         if (capacity - used_ < size)
             flush();
@@ -38,13 +39,14 @@ class ReplacingFile {
     }
     void advance(const char* end) { used_ = static_cast<std::size_t>(end - buffer_.get()); }
 
-    /// Everything that was written is in the temporary file; a full disk shows here at the latest.
+    /// Writes the rest of the buffer to the temporary file. A full disk is noticed here at the
+    /// latest.
     [[nodiscard]] Failure finish();
 
-    /// Takes the old file's place; finishes first if that is not done.
+    /// Replaces the old file. Calls finish() first if that was not done.
     [[nodiscard]] Failure commit();
 
-    /// The temporary file, for a set of files that takes its place together.
+    /// The temporary file, for a set of files that are replaced together.
     [[nodiscard]] TemporaryFile& temporary() { return fresh_; }
 
   private:
@@ -64,7 +66,7 @@ class ReplacingFile {
     bool finished_ = false;
 };
 
-/// Replaces a file by this text in one go.
+/// Replaces the content of a file by this text.
 [[nodiscard]] Failure replaceFile(const std::filesystem::path& target, std::string_view text,
                                   Survives survives = Survives::processEnd);
 

@@ -1,5 +1,5 @@
-// Reads "BM.txt" by position: for each member in order a heading, then its stations and, among
-// them, its maximum.
+// Reads "BM.txt" by position. Each member has a heading, then its stations, with its maximum among
+// them.
 #pragma once
 
 #include <cstddef>
@@ -10,32 +10,32 @@
 
 namespace trabeon {
 
-/// A station as the file tells it: the distance from the member's left joint, then moment and
-/// shear, sagging positive.
+/// The texts of a row: the distance from the member's left joint, then moment (sagging positive)
+/// and shear.
 struct StationRow {
     std::string_view x, moment, shear;
 };
 
-/// The rows of one member: Divisions + 2, the whole ones of a number with a fraction. None below
-/// -1; numbers above 10,000 count as that, which no analysis exceeds.
+/// The number of rows of one member: Divisions + 2 without a fraction, at least 0. Divisions above
+/// 10,000, the most of an analysis, count as 10,000.
 [[nodiscard]] std::size_t stationRowsOf(double Divisions);
 
-/// Walks over the whole text of the file, which must outlive it and its rows. It ends where the
-/// text does, and before the first line that is not the heading or the whole row that should stand
-/// there, as when the file was made with other Divisions: what follows would be read askew.
+/// Walks over the whole text of the file, which must outlive it and its rows. It ends with the
+/// text, or before the first line that is not the expected heading or row. That happens if the file
+/// was made with other Divisions: the following rows would be read as those of wrong stations.
 class StationReader {
   public:
     StationReader(std::string_view text, std::size_t rowsPerMember)
         : reader_(text), rowsPerMember_(rowsPerMember) {}
 
-    /// Steps to the next row. False: there is none.
+    /// Goes to the next row. Returns false if there is none.
     [[nodiscard]] bool next();
 
     /// Whether the text ends after the row.
     [[nodiscard]] bool atEnd() const { return reader_.atEnd(); }
 
-    /// Whether the row is the last of its member, and a heading or the end of the text follows. If
-    /// a row follows instead, the member has more rows than expected.
+    /// Whether the row is the last one of its member, and a heading or the end of the text follows.
+    /// False if the member has more rows than expected.
     [[nodiscard]] bool endsMember() const;
 
     [[nodiscard]] const StationRow& row() const { return row_; }
@@ -56,7 +56,7 @@ class StationReader {
     bool ended_ = false;
 };
 
-/// The rows of one member, from 1, as far as the file goes.
+/// The rows of one member, from 1. Fewer rows if the file ends early.
 [[nodiscard]] std::vector<StationRow> stationRows(std::string_view text, std::size_t rowsPerMember,
                                                   std::size_t member);
 

@@ -28,7 +28,14 @@ constexpr std::size_t longestName = 255;  // of a directory entry, in bytes
 /// strings in atomic places.
 constinit std::array<std::atomic<const char*>, 64> namesAtSignal{};
 
+pthread_t mainThread;
+
+/// The threads of the toolkit leave the signal to the main thread, which may be in a SignalsWait.
 void removeAndEnd(int signal) {
+    if (::pthread_equal(::pthread_self(), mainThread) == 0) {
+        ::pthread_kill(mainThread, signal);
+        return;
+    }
     for (const auto remove : {&::unlink, &::rmdir})  // a folder goes once it is empty
         for (const auto& place : namesAtSignal)
             if (const char* name = place.load())
@@ -51,7 +58,8 @@ std::string randomDigits() {
     return text;
 }
 
-/// A name that is too long for its ending loses its last characters.
+/// The path of the temporary file. A name that is too long with its ending loses its last
+/// characters.
 fs::path besides(const fs::path& target) {
     auto name = target.filename().string();
     name.resize(std::min(name.size(), longestName - 1 - digits - ending.size()));
@@ -62,8 +70,8 @@ int errorOf(int result) {
     return result == 0 ? 0 : errno;
 }
 
-/// Owner, group and permissions of the target. A group that cannot be kept gives the new one no
-/// more than everybody has.
+/// Gives the new file the owner, group and permissions of the target. If the group cannot be kept,
+/// the new group gets no more rights than everybody has.
 int takeOver(int descriptor, const struct stat& target) {
     struct stat made {};
     if (::fstat(descriptor, &made) != 0)
@@ -188,6 +196,7 @@ int flushFolder(const fs::path& folder) {
 }
 
 void prepareSignals() {
+    mainThread = ::pthread_self();
     std::signal(SIGXFSZ, SIG_IGN);
     for (const int signal : endingSignals)
         if (std::signal(signal, &removeAndEnd) == SIG_IGN)  // as under nohup

@@ -1,4 +1,4 @@
-// The file that new content is written to before it takes the place of an old file.
+// A temporary file for new content, which then replaces an old file.
 #pragma once
 
 #include <csignal>
@@ -8,8 +8,8 @@
 
 namespace trabeon {
 
-/// While it lives, a signal that ends the process removes this file, or this folder once it is
-/// empty (see prepareSignals).
+/// As long as this object exists, a signal that ends the process removes the file, or the folder if
+/// it is empty (see prepareSignals).
 class RemovedAtSignal {
   public:
     RemovedAtSignal() = default;
@@ -22,13 +22,13 @@ class RemovedAtSignal {
     const char* name_ = nullptr;
 };
 
-/// A new file in the folder of its target, named "TARGET.<16 hexadecimal digits>.new". Nobody can
-/// guess the name, and it is never opened through a link, so a save writes into no other file. The
-/// file has the permissions, and where possible the owner and group, of the target from its first
-/// byte on.
+/// A new file in the folder of its target, named "TARGET.<16 hexadecimal digits>.new". The name
+/// cannot be guessed, and the file is never opened through a link, so a save cannot write into
+/// another file. From the start it has the permissions of the target, and where possible its owner
+/// and group.
 ///
-/// Unless it took the target's place, the file is removed when the object goes, and when a signal
-/// ends the process (see prepareSignals).
+/// The file is removed with the object, and when a signal ends the process (see prepareSignals),
+/// unless it has replaced its target.
 class TemporaryFile {
   public:
     TemporaryFile() = default;
@@ -47,7 +47,7 @@ class TemporaryFile {
     /// Renames the file over its target.
     [[nodiscard]] int takePlace();
 
-    /// From here on a signal leaves the file where it is: the next start finishes the set that it
+    /// From now on a signal does not remove the file. The next start finishes the set that it
     /// belongs to.
     void keepOnSignal();
 
@@ -68,11 +68,12 @@ class TemporaryFile {
 /// Waits until a folder's entries are on the disk. Returns 0, or the errno of what failed.
 [[nodiscard]] int flushFolder(const std::filesystem::path& folder);
 
-/// For the start of each program. SIGTERM, SIGINT and SIGHUP remove the temporary files before they
-/// end the process, and a file size limit (SIGXFSZ) fails the write instead of ending the process.
+/// Each program calls this at its start. SIGTERM, SIGINT and SIGHUP then remove the temporary files
+/// before they end the process. A file size limit (SIGXFSZ) makes the write fail instead of ending
+/// the process.
 void prepareSignals();
 
-/// While it lives, SIGTERM, SIGINT and SIGHUP wait.
+/// As long as this object exists, SIGTERM, SIGINT and SIGHUP wait.
 class SignalsWait {
   public:
     SignalsWait();

@@ -94,6 +94,8 @@ Outcome<std::string> readFile(const std::filesystem::path& file) {
         return unreadable(file, "it is a folder");
     if (!S_ISREG(status.st_mode))
         return unreadable(file, "it is a device or a pipe");
+    if (status.st_size > mostBytes)
+        return unreadable(file, "it is larger than 2 GiB");
     return contentOf(opened, file, status.st_size);
 }
 

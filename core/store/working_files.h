@@ -68,7 +68,7 @@ inline constexpr std::array workingFiles{working_file::joint,
                                          working_file::record,
                                          working_file::unfinishedSet};
 
-/// The files with the rows of the beam and its loads.
+/// The files with the rows of the beam and of its loads.
 inline constexpr std::array inputFiles{working_file::joint, working_file::member,
                                        working_file::point, working_file::udl};
 
@@ -78,7 +78,7 @@ inline constexpr std::array projectFiles{working_file::joint,         working_fi
                                          working_file::stations,      working_file::balanceTable,
                                          working_file::beamDimensions};
 
-/// The fifteen files that go when the program is left, in their order.
+/// The fifteen files that Exit deletes, in its order.
 inline constexpr std::array filesDeletedAtExit{
     working_file::joint,         working_file::member,       working_file::point,
     working_file::udl,           working_file::stations,     working_file::balanceTable,
@@ -88,14 +88,16 @@ inline constexpr std::array filesDeletedAtExit{
 
 [[nodiscard]] bool isWorkingFile(std::string_view name);
 
-/// The whole content of a file; a missing one reads as empty. Refuses what is no regular file
-/// (reading a pipe would wait for ever), what the user may not read, and more than 2 GiB.
+/// The whole content of a file; a missing file is empty. Refuses a file that is not a regular one
+/// (a read from a pipe could wait for ever), that the user may not read, or that is larger than
+/// 2 GiB.
 [[nodiscard]] Outcome<std::string> readFile(const std::filesystem::path& file);
 
-/// The same where the caller can go on without the file: a refused one reads as empty too.
+/// The same for a caller that can go on without the file: a refused file is empty too.
 [[nodiscard]] std::string readWhole(const std::filesystem::path& file);
 
-/// The contents of several files of a folder, in their order; refused as readFile refuses.
+/// The contents of several files of a folder, in the order of `names`. Refuses what readFile
+/// refuses.
 template <std::size_t Count>
 [[nodiscard]] Outcome<std::array<std::string, Count>> readFiles(
     const std::filesystem::path& folder, const std::array<std::string_view, Count>& names) {
@@ -109,8 +111,8 @@ template <std::size_t Count>
     return texts;
 }
 
-/// Names the first of these files that is not there. A run creates them all, so another program
-/// has taken it away, and the rows in it must not be taken for none.
+/// Refuses if one of these files is missing, and names the first. A run creates them all, so
+/// another program has removed it. The project then does not simply have no such rows.
 [[nodiscard]] Failure missing(const std::filesystem::path& folder,
                               std::span<const std::string_view> names);
 
@@ -118,7 +120,7 @@ template <std::size_t Count>
 [[nodiscard]] Failure DuplicateFile(const std::filesystem::path& Source,
                                     const std::filesystem::path& Target);
 
-/// Deletes a file. Silent, also when there is none.
+/// Deletes a file. Shows nothing, also if there is none.
 void MurderFile(const std::filesystem::path& file);
 
 }  // namespace trabeon

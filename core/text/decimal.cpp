@@ -67,7 +67,7 @@ std::uint64_t powerOfTen(int exponent) {
     return power;
 }
 
-/// Two digits more tell which way to round, but for a tie and its neighbours, where all of them do.
+/// Two more digits decide which way to round. At a tie and next to one, all digits decide.
 Decimal roundedDecimal(DigitBuffer& buffer, double size) {
     auto longer = withDigits(buffer, size, significant + 2);
     const auto tail = wholeOf(longer.mantissa.substr(significant));

@@ -1,4 +1,4 @@
-// The decimal value of a number at 15 significant digits: what every number text is made from.
+// The decimal value of a number at 15 significant digits. Every number text is made from it.
 #pragma once
 
 #include <cstdint>
@@ -15,8 +15,8 @@ struct Decimal {
 /// The value rounded to 15 significant digits, a tie away from zero. The value must be finite.
 [[nodiscard]] Decimal decimalOf(double value);
 
-/// The whole number nearest to the decimal's size × 10^places, a tie away from zero.
-/// The result must fit: size × 10^places below 10^18.
+/// The whole number nearest to the decimal's size × 10^places, a tie away from zero. That product
+/// must be below 10^18.
 [[nodiscard]] std::uint64_t scaledWhole(const Decimal& decimal, int places);
 
 /// The decimal's first three digits, 100 to 999, a tie away from zero; 0 for zero.

@@ -1,4 +1,4 @@
-// Reads a row file field by field, as all row files are read.
+// Reads row files field by field.
 #pragma once
 
 #include <cstddef>
@@ -7,14 +7,14 @@
 namespace trabeon {
 
 /// Walks over the whole text of a file. Fields are separated by commas; the end of a line (CR LF,
-/// LF or CR) closes a field as a comma does. Blanks around a bare field are dropped; a field in
-/// double quotes runs to the next double quote and keeps all that is inside.
+/// LF or CR) ends a field too. Blanks around a field without quotes are dropped. A field in double
+/// quotes ends at the next double quote and keeps everything inside.
 class FieldReader {
   public:
     /// The text must outlive the reader and the fields that it gives.
     explicit FieldReader(std::string_view text) : text_(text) {}
 
-    /// To be asked between rows.
+    /// Ask this between rows.
     [[nodiscard]] bool atEnd() const { return at_ >= text_.size(); }
 
     /// The next field; empty text at the end of the file.
@@ -26,7 +26,7 @@ class FieldReader {
     /// Whether the field read last was the last one of its line.
     [[nodiscard]] bool lineEnded() const { return lineEnded_; }
 
-    /// Whether the field read last began with a double quote that nothing closes.
+    /// Whether the field read last began with a double quote that is not closed.
     [[nodiscard]] bool quoteOpen() const { return quoteOpen_; }
 
     /// The line, counting from 1, on which the next field or line begins.

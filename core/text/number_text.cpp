@@ -44,7 +44,7 @@ std::size_t numberEnd(std::string_view text) {
     return end;
 }
 
-/// For a number that from_chars calls out of range: too large, or too small to tell from 0?
+/// The value of a number that from_chars calls out of range: infinity, or 0 if it is too small.
 double outOfRange(std::string_view number) {
     const auto mark = number.find_first_of("Ee");
     const auto mantissa = number.substr(0, mark);
@@ -95,7 +95,7 @@ std::string exponentText(int exponent) {
     return text + std::to_string(size);
 }
 
-/// Member, joint and span numbers: most of the numbers that are put into text here.
+/// Member, joint and span numbers are short whole numbers, and so are most numbers here.
 bool isShortWhole(double value) {
     return value >= 0 && value < 1e15 && value == std::floor(value);
 }

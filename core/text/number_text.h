@@ -1,4 +1,4 @@
-// Numbers read from text, and text made from numbers. Nothing here follows a locale.
+// Numbers read from text, and text made from numbers, whatever the locale.
 #pragma once
 
 #include <concepts>
@@ -9,12 +9,13 @@
 
 namespace trabeon {
 
-/// The longest leading decimal number of a text, 0 if there is none: "1.2.3" reads 1.2, "-" reads
-/// 0. Blanks in front are skipped; sign and exponent count ("1.50E+00"); "inf", "nan" and
-/// hexadecimal read 0. A number too large for a double reads as infinity, for the caller to refuse.
+/// The longest leading decimal number of a text, 0 if there is none: "1.2.3" gives 1.2, "-" gives
+/// 0. Leading blanks are skipped. The number may have a sign and an exponent ("1.50E+00"). "inf",
+/// "nan" and hexadecimal numbers give 0. A number too large for a double gives infinity; the caller
+/// refuses it.
 [[nodiscard]] double leadingNumber(std::string_view text);
 
-/// The number that a whole text stands for, blanks around it allowed; nothing if it is no number.
+/// The number that is the whole text, with blanks around it or not; nothing if it is not a number.
 [[nodiscard]] std::optional<double> numberOfWholeText(std::string_view text);
 
 /// The leading number of a text if it is a whole one from 1 to `most`; otherwise 0.

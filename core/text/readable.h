@@ -1,4 +1,4 @@
-// Texts of files as people read them. Files hold bytes of any character set; people see UTF-8.
+// Texts of files as people read them. Files have bytes of any character set; people see UTF-8.
 #pragma once
 
 #include <cstddef>
@@ -7,7 +7,7 @@
 
 namespace trabeon {
 
-/// The text in UTF-8, for screens and paper: a text that is not valid UTF-8 is read as Latin-1.
+/// The text in UTF-8, for screens and paper. A text that is not valid UTF-8 counts as Latin-1.
 /// Tabs and line ends become blanks, other control characters "?".
 [[nodiscard]] std::string readable(std::string_view text);
 

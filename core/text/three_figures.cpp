@@ -60,7 +60,7 @@ char* putMantissaAndExponent(char* at, ThreeFigures figures) {
     return at + 9;
 }
 
-/// The powers of ten for which the fast way is sure of its last bit but one.
+/// The powers of ten for which the fast way is accurate enough.
 constexpr int greatestPower = 100;
 const auto powers = [] {
     std::array<double, 2 * greatestPower + 1> table{};

@@ -203,12 +203,13 @@ void frmBeamDimensions::cmdRemove_Click() {
 }
 
 void frmBeamDimensions::Command1_Click() {
-    MurderFile(context_.folder / BeamDimensionRow::file);
+    if (const auto failure = replaceFile(context_.folder / BeamDimensionRow::file, {})) {
+        warn(failure->sentence);
+        return;
+    }
     MurderFile(context_.folder / BeamDimensionRow::scratch);
     ListView1.ListItems.Clear();
     cmdRemove.SetEnabled(false);
-    if (const auto failure = replaceFile(context_.folder / BeamDimensionRow::file, {}))
-        warn(failure->sentence);
 }
 
 void frmBeamDimensions::cmdDesign_Click() {
