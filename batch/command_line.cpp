@@ -51,7 +51,8 @@ std::string helpText(const std::vector<CommandForm>& commands) {
            "--link MM        assumed size of the links (default 10)\n"
            "--aggregate MM   largest size of the aggregate (default 0)\n"
            "--no-restrict    spans over 10 m keep their basic span to depth ratio\n"
-           "\nExit code: 0 done; 1 refused, or a section failed in shear (standard error says why);\n"
+           "\nExit code: 0 done; 1 refused, or done with a section that failed in shear or with results\n"
+           "of an earlier state (standard error says why);\n"
            "2 wrong usage.\n";
 }
 

@@ -234,8 +234,12 @@ Exit packCommand(const CommandLine& line) {
     const auto packed = packProject(folder, title, line.operands[1]);
     if (!packed)
         return refused(packed.refusal());
-    const auto failure = outdated(folder / working_file::balanceTable, tableState(folder));
-    return failure ? refused(*failure) : Exit::done;
+    const bool isOutdated = tableState(folder) == ResultState::outdated;
+    recordRowsAsPacked(folder);
+    if (!isOutdated)
+        return Exit::done;
+    return refused({'"' + line.operands[1] +
+                    "\" was written. Its balance table: " + std::string(analyseAgain)});
 }
 
 void show(const ProjectTitle& title, const Analysis& analysis, const fs::path& folder) {
@@ -266,7 +270,7 @@ Exit showDesign(const fs::path& folder, const AnalysisSettings& settings) {
     const bool few = data->NumofMem() <= mostMembersShown;
     const auto text = few ? designTable(design, data->NumofMem()) : designSummary(design);
     std::printf("\n%s", text.c_str());
-    return design.ShearFailed ? Exit::refused : Exit::done;
+    return design.ShearFailed ? refused({std::string(shearFailureSentence)}) : Exit::done;
 }
 
 Exit runCommand(const CommandLine& line) {

@@ -1,6 +1,7 @@
 #include "toolkit/text_box.h"
 
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPalette>
 #include <QValidator>
@@ -110,6 +111,10 @@ void TextBox::SetLocked(bool locked) {
 bool TextBox::OnEvent(QEvent& event) {
     if (event.type() == QEvent::FocusIn)
         entering_ = static_cast<QFocusEvent&>(event).reason() == Qt::MouseFocusReason;
+    // A box with nothing to undo leaves the key to the window.
+    if (event.type() == QEvent::ShortcutOverride && !Inner(*this).isUndoAvailable() &&
+        static_cast<QKeyEvent&>(event).matches(QKeySequence::Undo))
+        return true;
     return OnMouse(event) || Control::OnEvent(event);
 }
 

@@ -1,6 +1,7 @@
 // The loads of a beam in normal form: in member order, every member with at least one row.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <span>
 #include <vector>
@@ -18,6 +19,7 @@ struct PointLoad {
     static constexpr std::string_view name = "point load";
     explicit PointLoad(const PointRow& row);
     [[nodiscard]] bool isZero() const { return P == 0; }
+    [[nodiscard]] std::array<double, 2> numbers() const { return {a, P}; }
     [[nodiscard]] static PointRow zeroRow() { return {"", "1", "0", "Zero Load"}; }
     [[nodiscard]] Failure unfit() const;
 };
@@ -30,6 +32,7 @@ struct UdlLoad {
     static constexpr std::string_view name = "distributed load";
     explicit UdlLoad(const UdlRow& row);
     [[nodiscard]] bool isZero() const { return w1 == 0 && w2 == 0; }
+    [[nodiscard]] std::array<double, 4> numbers() const { return {a, b, w1, w2}; }
     [[nodiscard]] static UdlRow zeroRow() { return {"", "0", "1", "0", "0", "Zero Load"}; }
     [[nodiscard]] Failure unfit() const;
 

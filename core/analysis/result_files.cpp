@@ -55,16 +55,42 @@ void writeLoads(FileSet& files, const std::filesystem::path& folder, const Membe
     text = std::move(normal);
 }
 
-/// Records that the results belong to the rows in normal form. Rows that came from a project file
-/// still count as coming from it.
-void writeRecord(FileSet& files, const std::filesystem::path& folder, std::uint64_t before,
-                 std::uint64_t after, double Divisions) {
+template <class Load>
+void addLoads(InputFingerprint& input, const MemberLoads<Load>& loads, std::size_t members) {
+    for (std::size_t member = 1; member <= members; ++member)
+        for (const auto& load : loads.on(member))
+            if (!load.isZero())
+                input.addLoad(member, load.numbers());
+}
+
+/// The same as inputFingerprint() makes from the rows, from the numbers that are read already.
+std::uint64_t inputOf(std::string_view joints, const Analysis& analysis) {
+    InputFingerprint input;
+    for (const auto& joint : rowsOf<JointRow>(joints))
+        input.addJoint(joint.type);
+    const auto& beam = analysis.beam;
+    for (std::size_t member = 1; member <= beam.members(); ++member)
+        input.addMember(beam.MemberE[member], beam.MemberI[member], beam.Length[member]);
+    addLoads(input, analysis.points, beam.members());
+    addLoads(input, analysis.udls, beam.members());
+    return input.value();
+}
+
+/// The fingerprints of the four input files' texts, before and after they are in normal form.
+struct InputTexts {
+    std::uint64_t before, after;
+};
+
+/// Records what the results were made from. Rows that came from a project file still count as
+/// coming from it.
+void writeRecord(FileSet& files, const std::filesystem::path& folder, const InputTexts& texts,
+                 std::uint64_t input, double Divisions) {
     auto record = readRecord(folder);
     const auto old = textOf(record);
-    if (record.unpackedInput == before)
-        record.unpackedInput = after;
-    record.table = after;
-    record.stations = stationsFingerprint(after, Divisions);
+    if (record.unpackedInput == texts.before)
+        record.unpackedInput = texts.after;
+    record.table = input;
+    record.stations = stationsFingerprint(input, Divisions);
     if (const auto text = textOf(record); text != old)
         files.add(working_file::record).write(text);
 }
@@ -135,8 +161,8 @@ std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
     writeMaxima(files.add(working_file::maxima), *analysis);
     writeLoads(files, folder, analysis->points, points);
     writeLoads(files, folder, analysis->udls, udls);
-    writeRecord(files, folder, before, fingerprint({joints, members, points, udls}),
-                settings.Divisions);
+    writeRecord(files, folder, {before, fingerprint({joints, members, points, udls})},
+                inputOf(joints, *analysis), settings.Divisions);
     if (const auto failure = files.commit()) {
         outputs.refuse(*failure);
         return std::nullopt;

@@ -74,10 +74,10 @@ DesignRow rowWithoutData(std::size_t Member, double dist) {
 std::uint64_t designFingerprint(const std::filesystem::path& folder, double Divisions,
                                 const MiscProperties& misc) {
     const auto bits = [](double value) { return std::bit_cast<std::uint64_t>(value); };
-    return mixedFingerprint({fingerprint(readWhole(folder / working_file::stations)),
-                             fingerprint(readWhole(folder / working_file::beamDimensions)),
-                             bits(Divisions), bits(misc.cover), bits(misc.links), bits(misc.hagg),
-                             misc.restrictDeflection ? 1U : 0U});
+    return mixedFingerprint(
+        {fingerprint(readWhole(folder / working_file::stations)), inputFingerprint(folder),
+         fingerprint(readWhole(folder / working_file::beamDimensions)), bits(Divisions),
+         bits(misc.cover), bits(misc.links), bits(misc.hagg), misc.restrictDeflection ? 1U : 0U});
 }
 
 }  // namespace

@@ -24,8 +24,11 @@ std::optional<std::string_view> workingFileOf(std::string_view temporary) {
 void takePlace(const fs::path& target, std::string_view temporary) {
     std::error_code missing;
     const auto file = fs::weakly_canonical(target, missing);
-    if (!missing)
-        std::rename((file.parent_path() / temporary).c_str(), file.c_str());
+    const auto fresh = file.parent_path() / temporary;
+    const bool isOwn = fs::is_regular_file(fs::symlink_status(fresh, missing)) &&
+                       fs::hard_link_count(fresh, missing) == 1;  // links were planted there
+    if (isOwn && !missing)
+        std::rename(fresh.c_str(), file.c_str());
 }
 
 void removeLeftBehind(const fs::path& folder) {

@@ -3,10 +3,13 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <cstdio>
 #include <sstream>
 #include <system_error>
 #include <thread>
@@ -20,7 +23,11 @@ namespace fs = std::filesystem;
 
 /// The process that "/proc/locks" lists for a file: "1: FLOCK ADVISORY WRITE 1234 08:02:5678 0
 /// EOF".
-long processThatLocks(ino_t file) {
+long processThatLocks(const struct stat& file) {
+    std::array<char, 64> wanted{};
+    std::snprintf(wanted.data(), wanted.size(), "%02x:%02x:%lu", gnu_dev_major(file.st_dev),
+                  gnu_dev_minor(file.st_dev), file.st_ino);
+    long elsewhere = 0;  // some file systems show another device than their files do
     std::istringstream lines(readWhole("/proc/locks"));
     std::string line;
     while (std::getline(lines, line)) {
@@ -29,17 +36,21 @@ long processThatLocks(ino_t file) {
         long process = 0;
         words >> number >> kind >> mode >> access >> process >> place;
         const auto inode = place.substr(place.find_last_of(':') + 1);
-        if (kind == "FLOCK" && inode == std::to_string(file) && process > 0)
+        if (kind != "FLOCK" || process <= 0)
+            continue;
+        if (place == wanted.data())
             return process;
+        if (inode == std::to_string(file.st_ino))
+            elsewhere = process;
     }
-    return 0;
+    return elsewhere;
 }
 
 FolderHolder holderOf(int descriptor) {
     struct stat status {};
     if (::fstat(descriptor, &status) != 0)
         return {};
-    FolderHolder holder{processThatLocks(status.st_ino), {}, false};
+    FolderHolder holder{processThatLocks(status), {}, false};
     const auto home = fs::path("/proc") / std::to_string(holder.process);
     holder.program = readWhole(home / "comm");
     holder.program.resize(std::min(holder.program.find('\n'), holder.program.size()));

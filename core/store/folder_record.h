@@ -2,10 +2,13 @@
 // were made from.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <initializer_list>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -31,8 +34,31 @@ struct FolderRecord {
     std::optional<std::uint64_t> table, stations, design;
 };
 
-/// The fingerprint of the joints, members and loads in a folder.
+/// What the results depend on: the joint types, E, I and L, and the loads in the order of their
+/// members. Descriptions, the spelling of a number and rows without a load make no difference.
+class InputFingerprint {
+  public:
+    void addJoint(std::string_view type);
+    void addMember(double E, double I, double L);
+    /// A load that is not 0, on a member from 1: a and P, or a, b, w1 and w2.
+    void addLoad(std::size_t member, std::span<const double> numbers);
+    [[nodiscard]] std::uint64_t value() const { return hash_; }
+
+  private:
+    std::uint64_t hash_ = 0;
+};
+
+/// Of the texts of the four input files, and of those in a folder.
+[[nodiscard]] std::uint64_t inputFingerprint(const std::array<std::string_view, 4>& inputTexts);
 [[nodiscard]] std::uint64_t inputFingerprint(const std::filesystem::path& folder);
+
+/// A number that changes when a file of the results' input, the stations or the record is written,
+/// from the files' places and times on the disk. Only to save reading them again within one run.
+[[nodiscard]] std::uint64_t filesState(const std::filesystem::path& folder);
+
+/// The rows of a folder are in a project file now. Silent: without the record they are protected
+/// more than necessary.
+void recordRowsAsPacked(const std::filesystem::path& folder);
 
 /// The record of a folder; empty if it is absent or cannot be read.
 [[nodiscard]] FolderRecord readRecord(const std::filesystem::path& folder);

@@ -3,6 +3,7 @@
 #include <fstream>
 
 #include "core/store/project_file.h"
+#include "core/store/working_files.h"
 
 namespace trabeon {
 namespace {

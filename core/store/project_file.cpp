@@ -239,7 +239,8 @@ Failure writeWorkingFiles(const Project& project, const std::filesystem::path& f
     record.unpackedDimensions = fingerprint(project.beamDimensions);
     record.table.reset();
     if (!project.balanceTable.empty())  // it comes with the project, and is taken as its own
-        record.table = inputOf(project);
+        record.table =
+            inputFingerprint({project.joints, project.members, project.points, project.udls});
     if (!record.stations)  // these belong to another beam, recorded or not
         record.stations = 0;
     if (!record.design)

@@ -2,8 +2,10 @@
 // dialogs, the menu entries that an analysis opens, and the registry of forms.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -29,6 +31,12 @@ class ChangedFlag {
     int value_ = 0;
 };
 
+/// An answer that holds as long as no file of it changes.
+struct KeptAnswer {
+    std::uint64_t files = 0;
+    std::string text;
+};
+
 struct Context {
     std::filesystem::path folder;  // of the working files
     ChangedFlag dataChanged{};
@@ -37,7 +45,8 @@ struct Context {
     Forms& forms;
     // What bring back the content of windows that were closed, the last one last. New, Open and
     // Exit forget them.
-    std::vector<std::function<void()>> closedWindows{};
+    std::vector<std::pair<std::string, std::function<void()>>> closedWindows{};
+    KeptAnswer stationsRemark{};
     // Pastes the clipboard's picture into the report; the report takes this place up at start.
     std::function<void()> pasteIntoReport{};
 };

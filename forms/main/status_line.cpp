@@ -25,14 +25,16 @@ void say(const Context& context, const std::string& event) {
 }
 
 void sayEmptied(Context& context, const std::string& what, std::function<void()> bringBack) {
-    context.closedWindows.push_back(std::move(bringBack));
-    say(context, what + " is empty again, because its window was closed. Ctrl+Z brings it back");
+    auto& closed = context.closedWindows;
+    std::erase_if(closed, [&](const auto& window) { return window.first == what; });
+    closed.emplace_back(what, std::move(bringBack));
+    say(context, what + " was emptied, because its window was closed. Ctrl+Z brings it back");
 }
 
 void bringBackClosed(Context& context) {
     if (context.closedWindows.empty())
         return;
-    const auto bringBack = std::move(context.closedWindows.back());
+    const auto bringBack = std::move(context.closedWindows.back().second);
     context.closedWindows.pop_back();
     bringBack();
 }

@@ -126,6 +126,8 @@ std::vector<GraphMark> Diagram::marksOf(const DiagramCurve& curve) const {
 }
 
 void Diagram::cmdReport_Click() {
+    if (const auto remark = stationsRemark(context_); !remark.empty() && chart.PointCount() > 0)
+        chart.SetWarning(remark);  // the rows may have changed since the plot
     addToReport(context_, [this] { chart.SetDrawAction(DrawActions::CopyToClipboard); });
 }
 

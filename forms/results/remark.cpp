@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/design/design.h"
+#include "core/store/folder_record.h"
 #include "forms/design/frmMisc.h"
 #include "forms/results/frmOptions.h"
 
@@ -16,7 +17,12 @@ constexpr int stripHeight = 480;  // two lines
 
 std::string stationsRemark(Context& context) {
     const double Divisions = optionsInTheBackground(context).Settings().Divisions;
-    return std::string(remarkOn(stationsState(context.folder, Divisions), Unrecorded::remarked));
+    auto& kept = context.stationsRemark;
+    const auto files = stationsFingerprint(filesState(context.folder), Divisions);
+    if (kept.files != files)
+        kept = {files, std::string(remarkOn(stationsState(context.folder, Divisions),
+                                            Unrecorded::remarked))};
+    return kept.text;
 }
 
 std::string designRemark(Context& context) {

@@ -203,9 +203,11 @@ TEST(PackAndUnpack, KeepTheTitleAndRefuseRowsThatExistNowhereElse) {
     for (const auto& answer :
          {run("run", "two-span-floor-beam", "--out"), run("unpack", "two-span-floor-beam")}) {
         EXPECT_EQ(answer.exit, 1);
-        expectAll(answer.err, {"The folder \"" + work + "\" contains \"Joint.txt\""});
+        expectAll(answer.err, {"The folder \"" + work + "\" contains rows (Joint.txt, "});
     }
     expectAll(folder.read("work/Joint.txt"), {"7,Fixed,typed"});
+    EXPECT_EQ(batch({"pack", work, (folder / "saved.TB").string()}).exit, 1);  // an old table
+    EXPECT_EQ(run("unpack", "two-span-floor-beam").exit, 0);  // now they are in a project
 }
 
 TEST(Commands, OfTwoInOneFolderOneWaitsAndNoneTearsTheOthersFiles) {
@@ -327,7 +329,9 @@ TEST_F(Design, RefusesStationsAndTellsOfATableOfAnEarlierState) {
     EXPECT_FALSE(fs::exists(folder / "DResult.txt"));
     answer = batch({"pack", folder.path().string(), (folder / "a.TB").string()});
     EXPECT_EQ(answer.exit, 1);
-    EXPECT_EQ(answer.err, '"' + (folder / "TB.txt").string() + why);
+    EXPECT_EQ(answer.err, '"' + (folder / "a.TB").string() +
+                              "\" was written. Its balance table: Of another beam or an earlier "
+                              "state: analyse again\n");
     EXPECT_TRUE(fs::exists(folder / "a.TB"));
     fs::remove(folder / "Record.txt");  // results of another program are taken as they are
     EXPECT_EQ(Run().exit, 0);

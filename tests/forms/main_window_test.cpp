@@ -394,7 +394,7 @@ TEST_F(MainWindow, AClosedTitleComesBack) {
     Choose("&Structure|&Title");
     QTest::keyClick(&window(), Qt::Key_W, Qt::ControlModifier);
     EXPECT_EQ(program.window().Event(),
-              "The title is empty again, because its window was closed. Ctrl+Z brings it back");
+              "The title was emptied, because its window was closed. Ctrl+Z brings it back");
     EXPECT_EQ(Title().project, "Untitled");
     QTest::keyClick(&window(), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(Title().project, "Mill");

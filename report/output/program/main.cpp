@@ -5,7 +5,9 @@
 #include <exception>
 
 #include "core/analysis/result_files.h"
+#include "core/analysis/stray_loads.h"
 #include "core/design/design.h"
+#include "core/design/shear.h"
 #include "core/store/output_file.h"
 #include "core/store/replacing_file.h"
 #include "core/store/temporary_file.h"
@@ -27,6 +29,10 @@ namespace {
 Failure analyseProject(const std::filesystem::path& folder, const AnalysisSettings& settings) {
     std::string said = "The beam could not be analysed.";
     AnalysisOutputs outputs;
+    outputs.rowsRead = [](const BeamRows& rows) {
+        for (const auto& load : strayLoads(rows))
+            std::fprintf(stderr, "%s\n", sentenceOf(load).c_str());
+    };
     outputs.message = [&](const Message& message) { said = message.text; };
     if (!analyseFolder(folder, settings, outputs))
         return Refusal{said};
@@ -40,6 +46,8 @@ Failure designProject(const std::filesystem::path& folder, double Divisions) {
     const auto design = designFolder(folder, Divisions, {});
     if (!design)
         return design.refusal();
+    if (design->ShearFailed)
+        std::fprintf(stderr, "%s\n", std::string(shearFailureSentence).c_str());
     return std::nullopt;
 }
 

@@ -230,16 +230,26 @@ TEST(Results, KnowTheInputThatTheyWereMadeFrom) {
     EXPECT_EQ(remarks(Unrecorded::remarked), (Texts{"", "", ""}));
     EXPECT_EQ(remarks(Unrecorded::remarked, 20), (Texts{"", analyse, analyse}));
     EXPECT_EQ(remarkOnDesign(folder.path(), 10, {30}, Unrecorded::accepted), design);
-    for (const auto name : {working_file::joint, working_file::member, working_file::point,
-                            working_file::udl, working_file::beamDimensions}) {
-        const auto rows = readWhole(folder / std::string(name));
-        folder.write(std::string(name), rows + " ");
-        const bool isInput = name != working_file::beamDimensions;
-        EXPECT_EQ(remarks(Unrecorded::accepted),
-                  isInput ? (Texts{analyse, analyse, analyse}) : (Texts{"", "", design}))
-            << name;
-        folder.write(std::string(name), rows);
-    }
+    const auto changed = [&](const std::string& name, const std::string& from,
+                             const std::string& to) {
+        const auto rows = folder.read(name);
+        auto edited = rows;
+        edited.replace(edited.find(from), from.size(), to);
+        folder.write(name, edited);
+        auto found = remarks(Unrecorded::accepted);
+        folder.write(name, rows);
+        return found;
+    };
+    const Texts again{analyse, analyse, analyse}, same{"", "", ""};
+    EXPECT_EQ(changed("Joint.txt", "Pin Jointed", "Fixed"), again);
+    EXPECT_EQ(changed("Member.txt", ",6,", ",6.5,"), again);
+    EXPECT_EQ(changed("Udl.txt", ",12,12,", ",12,13,"), again);
+    EXPECT_EQ(changed("Point.txt", "1,1,0,Zero Load", "1,1,5,typed"), again);
+    EXPECT_EQ(changed("BeamDim.txt", "300", "310"), (Texts{"", "", design}));
+    // What makes no difference to the results: descriptions, spelling, rows without a load.
+    EXPECT_EQ(changed("Joint.txt", "Wall A", "\"Wall, A\""), same);
+    EXPECT_EQ(changed("Member.txt", ",6,", ",6.00,"), same);
+    EXPECT_EQ(changed("Point.txt", " 1,1,0,Zero Load\r\n", ""), same);
     ASSERT_TRUE(
         unpackProject(std::string(EXAMPLES) + "/fixed-ended-transfer-beam.TB", folder.path()));
     EXPECT_EQ(remarks(Unrecorded::accepted), (Texts{"", analyse, analyse}));

@@ -17,7 +17,8 @@ TEST(OutputFile, ReplacesOnlyItsOwnKindAndNeverTheProject) {
     const TemporaryFolder folder;
     const auto project = folder / "a.TB";
     folder.write("a.TB", packedText({}));
-    folder.write("a.docx", "PK\x03\x04...");
+    folder.write("a.docx", "PK\x03\x04...word/document.xml...");
+    folder.write("a.zip", "PK\x03\x04...");
     folder.write("empty", "");
     folder.write("notes", "PK, 3 of 4");
     folder.write("damaged.TB", "\xEF\xBB\xBFWARNNING! DO NOT");
@@ -42,6 +43,7 @@ TEST(OutputFile, ReplacesOnlyItsOwnKindAndNeverTheProject) {
                                                     {"damaged.TB", false, true},
                                                     {"lower.TB", false, true},
                                                     {"notes", false, false},
+                                                    {"a.zip", false, false},
                                                     {"folder", false, false},
                                                     {"pipe", false, false}}) {
         const auto file = folder / name;

@@ -8,6 +8,7 @@
 #include <array>
 #include <csignal>
 #include <functional>
+#include <thread>
 
 #include "core/store/file_set.h"
 #include "core/store/folder_lock.h"
@@ -150,9 +151,10 @@ TEST(FileSet, OneThatWasKilledWhileItsFilesTookTheirPlacesIsFinished) {
     elsewhere.write("victim", "kept");
     folder.write("victim", "kept");
     folder.write("victim" + token, "evil");
+    std::filesystem::create_symlink(folder / "victim", folder / ("Member.txt" + token));
     folder.write("Unfinished.set", "BM.txt" + token + "\nTB.txt" + token + "\nvictim" + token +
                                        "\n../" + elsewhere.path().filename().string() + "/victim" +
-                                       token + "\nJoint.txt\n");
+                                       token + "\nJoint.txt\nMember.txt" + token + "\n");
     const FileSet next(folder.path());
     EXPECT_EQ(
         folder.contents(),
@@ -277,6 +279,20 @@ TEST(Signals, RemoveWhatWasBeingWrittenAndWaitWhileASetTakesItsPlace) {
     }
 }
 
+TEST(Signals, ThatReachAnotherThreadWaitForTheMainOne) {
+    const TemporaryFolder folder;
+    const auto status = statusOf([&] {
+        std::thread idle([] { pause(); });
+        idle.detach();
+        const SignalsWait wait;
+        kill(getpid(), SIGTERM);  // reaches the thread that does not wait
+        for (int i = 0; i < 200; ++i)
+            static_cast<void>(replaceFile(folder / "a.TB", std::to_string(i)));
+    });
+    EXPECT_EQ(WIFSIGNALED(status) ? WTERMSIG(status) : 0, SIGTERM);
+    EXPECT_EQ(folder.contents(), (std::map<std::string, std::string>{{"a.TB", "199"}}));
+}
+
 TEST(FolderLock, IsHeldByOneAndFreeOnceItsProcessHasDied) {
     using namespace std::chrono_literals;
     const TemporaryFolder folder;
@@ -315,7 +331,7 @@ TEST(FolderRecord, KnowsWhichRowsExistNowhereElse) {
     };
     EXPECT_EQ(refused(), "");
     folder.write("Udl.txt", "1,0,6,12,12,\"typed\"\r\n");
-    EXPECT_NE(refused().find("contains \"Udl.txt\""), std::string::npos);
+    EXPECT_NE(refused().find("contains rows (Udl.txt)"), std::string::npos);
     Project project;
     project.joints = "1,Fixed,\"None\"\r\n";
     project.beamDimensions = "1,1,300,500,450,30,460,200000,250,6\r\n";
