@@ -50,7 +50,10 @@ FolderHolder holderOf(int descriptor) {
     struct stat status {};
     if (::fstat(descriptor, &status) != 0)
         return {};
-    FolderHolder holder{processThatLocks(status), {}, false};
+    FolderHolder holder;
+    // The list is read in pieces: a lock that comes or goes meanwhile can hide another one.
+    for (int attempt = 0; attempt < 10 && holder.process == 0; ++attempt)
+        holder.process = processThatLocks(status);
     const auto home = fs::path("/proc") / std::to_string(holder.process);
     holder.program = readWhole(home / "comm");
     holder.program.resize(std::min(holder.program.find('\n'), holder.program.size()));

@@ -58,7 +58,7 @@ Refusal unreadable(const std::filesystem::path& file, int error) {
 Outcome<std::string> contentOf(const OpenFile& opened, const std::filesystem::path& file,
                                std::int64_t size) {
     std::string text;
-    for (auto room = static_cast<std::size_t>(std::min(size, mostBytes)) + 1;;) {
+    for (auto room = size == 0 ? 4096 : static_cast<std::size_t>(size) + 1;;) {
         const auto filled = text.size();
         if (filled > mostBytes)
             return unreadable(file, "it is larger than 2 GiB");
