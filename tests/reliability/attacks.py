@@ -4,8 +4,8 @@
     attacks.py BUILD [EVERY]
 
 For each command and each file that it writes or reads: a folder, a pipe, a device, a link to nothing,
-a write-protected file in the place of that file, or links to somebody else's file under the name that
-a temporary file might have. What must hold:
+a write-protected file in the place of that file, and a link to somebody else's file that a forged
+"Unfinished.set" asks to put there. What must hold:
 
   - the command ends, with 0 or with 1 and a sentence that names the file;
   - somebody else's file and the obstacle are as they were;
@@ -81,9 +81,9 @@ def attacked(command, begin, folder, name, obstacle):
     shutil.copytree(begin, folder)
     target, victim = folder / name, folder / "victim"
     victim.write_bytes(b"somebody's")
-    for plant in (os.symlink, os.link):
-        plant(victim, folder / f"{name}.{plant.__name__}.new")
-    os.symlink(victim, folder / f"{name}.new")
+    planted = f"{name}.{'0' * 16}.new"  # and a set that asks to put it into the file's place
+    os.symlink(victim, folder / planted)
+    (folder / "Unfinished.set").write_text(planted + "\n")
     try:
         if obstacle == PROTECTED:
             target.touch()
@@ -106,7 +106,7 @@ def attacked(command, begin, folder, name, obstacle):
         return "somebody else's file was overwritten"
     if not os.path.lexists(target) or target.lstat().st_mode != kind:
         return "the obstacle was replaced"
-    left = [path.name for path in folder.iterdir() if TEMPORARY.search(path.name)]
+    left = [path.name for path in folder.iterdir() if TEMPORARY.search(path.name) and path.name != planted]
     return f"left {left}" if left else ""
 
 
