@@ -1,9 +1,9 @@
 #include "report/PrintReport.h"
 
 #include "report/pages.h"
-#include "toolkit/page_printer.h"
-#include "toolkit/rich_text_box.h"
-#include "toolkit/wait_cursor.h"
+#include "toolkit/pages/page_printer.h"
+#include "toolkit/pages/rich_text_box.h"
+#include "toolkit/windows/wait_cursor.h"
 
 namespace trabeon {
 namespace {

@@ -3,11 +3,11 @@
 #include <algorithm>
 
 #include "core/store/replacing_file.h"
-#include "forms/main/messages.h"
-#include "forms/main/status_line.h"
+#include "forms/shared/messages.h"
+#include "forms/shared/status_line.h"
 #include "report/margins.h"
 #include "report/sent_pictures.h"
-#include "toolkit/outside.h"
+#include "toolkit/outside/outside.h"
 
 namespace trabeon {
 namespace {

@@ -4,10 +4,10 @@
 #include "core/design/shear.h"
 #include "core/store/member_length.h"
 #include "forms/design/frmBeamDesign.h"
-#include "forms/design/frmMisc.h"
-#include "forms/main/keys.h"
-#include "forms/results/frmOptions.h"
-#include "toolkit/wait_cursor.h"
+#include "forms/settings/frmMisc.h"
+#include "forms/settings/frmOptions.h"
+#include "forms/shared/keys.h"
+#include "toolkit/windows/wait_cursor.h"
 
 namespace trabeon {
 namespace {
@@ -117,7 +117,7 @@ void frmBeamDimensions::Form_Resize() {
 }
 
 double frmBeamDimensions::divisions() const {
-    return optionsInTheBackground(context_).Settings().Divisions;
+    return context_.forms.InTheBackground<frmOptions>().Settings().Divisions;
 }
 
 /// The design uses the first row of a section: others are grey.
@@ -213,7 +213,7 @@ void frmBeamDimensions::Command1_Click() {
 }
 
 void frmBeamDimensions::cmdDesign_Click() {
-    const auto properties = miscInTheBackground(context_).Properties();
+    const auto properties = context_.forms.InTheBackground<frmMisc>().Properties();
     const double Divisions = divisions();
     context_.forms.Unload(frmBeamDesign::Name);
     auto& results = context_.forms.Get<frmBeamDesign>();

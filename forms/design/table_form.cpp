@@ -2,7 +2,7 @@
 
 #include "core/store/working_files.h"
 #include "core/text/field_reader.h"
-#include "forms/main/messages.h"
+#include "forms/shared/messages.h"
 
 namespace trabeon {
 

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "core/outcome.h"
-#include "forms/main/context.h"
-#include "toolkit/form.h"
-#include "toolkit/list_view.h"
+#include "forms/shared/context.h"
+#include "toolkit/controls/list_view.h"
+#include "toolkit/windows/form.h"
 
 namespace trabeon {
 

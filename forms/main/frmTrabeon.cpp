@@ -5,28 +5,12 @@
 #include "core/store/recovery.h"
 #include "core/store/replacing_file.h"
 #include "core/store/working_files.h"
-#include "forms/design/frmBeamDesign.h"
-#include "forms/design/frmBeamDimensions.h"
-#include "forms/design/frmMisc.h"
-#include "forms/design/frmShearResistance.h"
-#include "forms/design/frmSteelArea.h"
-#include "forms/input/frmDiagram.h"
-#include "forms/input/frmJoints.h"
-#include "forms/input/frmMembers.h"
-#include "forms/input/frmPoint.h"
-#include "forms/input/frmUDL.h"
 #include "forms/main/frmTitle.h"
-#include "forms/main/messages.h"
-#include "forms/main/status_line.h"
+#include "forms/main/registration.h"
 #include "forms/results/frmAnalysis.h"
-#include "forms/results/frmBMData.h"
-#include "forms/results/frmContinuousS.h"
-#include "forms/results/frmContinuousTB.h"
-#include "forms/results/frmMoment1.h"
-#include "forms/results/frmOptions.h"
-#include "forms/results/frmSData.h"
-#include "forms/results/frmShear1.h"
-#include "toolkit/outside.h"
+#include "forms/shared/messages.h"
+#include "forms/shared/status_line.h"
+#include "toolkit/outside/outside.h"
 
 namespace trabeon {
 namespace {
@@ -44,33 +28,11 @@ frmTrabeon::frmTrabeon(const std::filesystem::path& folder)
     : window_(untitledCaption), forms_(window_), context_{folder, {}, {}, {}, {}, forms_} {
     context_.dataChanged.onChange = [this] { showSummary(context_); };
     context_.CommonDialog1.InitDir = (folder / "examples").string();
-    registerForms();
+    registerForms(context_);
     addMenus();
     window_.AddKey("Ctrl+Z", [this] { bringBackClosed(context_); });
     window_.QueryUnload = [this](bool& cancel) { QueryUnload(cancel); };
     window_.Unload = [this](bool& cancel) { Unload(cancel); };
-}
-
-void frmTrabeon::registerForms() {
-    forms_.Register<frmTitle>(context_);
-    forms_.Register<frmJoints>(context_);
-    forms_.Register<frmMembers>(context_);
-    forms_.Register<frmPoint>(context_);
-    forms_.Register<frmUDL>(context_);
-    forms_.Register<frmDiagram>(context_);
-    forms_.Register<frmAnalysis>(context_);
-    forms_.Register<frmOptions>(context_);
-    forms_.Register<frmMoment1>(context_);
-    forms_.Register<frmShear1>(context_);
-    forms_.Register<frmContinuousTB>(context_);
-    forms_.Register<frmContinuousS>(context_);
-    forms_.Register<frmBMData>(context_);
-    forms_.Register<frmSData>(context_);
-    forms_.Register<frmBeamDimensions>(context_);
-    forms_.Register<frmMisc>(context_);
-    forms_.Register<frmBeamDesign>(context_);
-    forms_.Register<frmSteelArea>(context_);
-    forms_.Register<frmShearResistance>(context_);
 }
 
 bool frmTrabeon::Start() {

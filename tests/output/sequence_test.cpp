@@ -3,8 +3,8 @@
 
 #include <ostream>
 
-#include "report/output/lotus_output.h"
-#include "report/output/word_output.h"
+#include "output/lotus_output.h"
+#include "output/word_output.h"
 #include "tests/output/recording.h"
 #include "tests/support/scripted_outside.h"
 #include "tests/support/temporary_folder.h"

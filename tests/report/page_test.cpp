@@ -2,7 +2,7 @@
 #include "report/pages.h"
 #include "tests/report/report_fixture.h"
 #include "tests/support/full_disk.h"
-#include "toolkit/page_canvas.h"
+#include "toolkit/pages/page_canvas.h"
 
 namespace trabeon::test {
 namespace {

@@ -10,7 +10,7 @@
 #include "report/frmReport.h"
 #include "report/registration.h"
 #include "tests/support/program_fixture.h"
-#include "toolkit/picture_file.h"
+#include "toolkit/outside/picture_file.h"
 
 namespace trabeon::test {
 
