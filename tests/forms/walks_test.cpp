@@ -19,6 +19,7 @@ class Windows : public WalkTest {
         AddBeams();
         AddPictures();
         AddResults();
+        AddProjects();
         Start();
     }
 
@@ -83,7 +84,9 @@ class Windows : public WalkTest {
         };
         states["table"] = [this](const std::string&) {
             const auto text = forms().Get<frmAnalysis>().txtTBResults.Text();
-            return text.substr(text.rfind('\n') + 1);  // its last line
+            const auto end = text.find_last_not_of("\r\n") + 1;
+            const auto line = text.substr(0, end);
+            return line.substr(line.rfind('\n') + 1);  // the last one
         };
         states["stations"] = [this](const std::string&) {
             const auto text = folder.read("BM.txt");
@@ -97,6 +100,68 @@ class Windows : public WalkTest {
             const auto& options = forms().Get<frmOptions>();
             return options.lblMOption.Caption() + ", " + options.lblSOption.Caption();
         };
+    }
+
+    void AddProjects() {
+        places["{bare}"] = folder.path().string().substr(1);
+        places["{bareexamples}"] = std::string(EXAMPLES).substr(1);
+        actions["close"] = [this](const Step&) { window().close(); };
+        // An example with two letters of another character set.
+        actions["latin"] = [this](const Step& step) {
+            auto text = TemporaryFolder::readFile(EXAMPLES "/two-span-floor-beam.TB");
+            text.replace(text.find("Library"), 7, "Tr\xE4ger");
+            text.replace(text.find("Wall A"), 1, "\xDC");
+            folder.write(step.subject, text);
+        };
+        states["question"] = [this](const std::string&) {
+            return outside.lastQuestion.filter +
+                   (outside.lastQuestion.asksBeforeOverwriting ? ", asks before overwriting" : "");
+        };
+        states["line"] = [this](const std::string& numberAndFile) {
+            std::istringstream text(folder.read(numberAndFile.substr(numberAndFile.find(' ') + 1)));
+            std::string line;
+            for (auto number = std::stoi(numberAndFile); number > 0; --number)
+                std::getline(text, line);
+            return line.substr(0, line.find('\r'));
+        };
+        states["twins"] = [this](const std::string& files) {
+            const auto blank = files.find(' ');
+            const auto text = folder.read(files.substr(0, blank));
+            return text == folder.read(files.substr(blank + 1)) ? "yes" : "no";
+        };
+        states["files"] = [this](const std::string&) {
+            std::string names;
+            for (const auto& [name, text] : folder.contents())
+                names += (names.empty() ? "" : " ") + name;
+            return names;
+        };
+        states["menus"] = [this](const std::string&) {
+            return Menus(menuBar().actions(), "").toStdString();
+        };
+    }
+
+    /// The menus, each entry with its key and the form that it shows.
+    QString Menus(const QList<QAction*>& entries, const QString& indent) {
+        QString text;
+        for (auto* action : entries) {
+            const auto key = action->shortcut().toString();
+            text += indent + (action->isSeparator() ? "-" : action->text()) +
+                    (key.isEmpty() ? "" : " [" + key + "]") +
+                    (action->isEnabled() ? "" : " (off)") + ShownBy(*action) + "\r\n";
+            if (action->menu() != nullptr && action->text() != "&Window")
+                text += Menus(action->menu()->actions(), indent + "  ");
+        }
+        return text;
+    }
+    /// What an entry of the middle menus brings to the front.
+    QString ShownBy(QAction& entry) {
+        static const QStringList others{
+            "&New", "&Open", "&Save", "Save &As", "E&xit", "&Contents and Index", "&Example"};
+        const auto before = Front().windowTitle();
+        if (entry.menu() == nullptr && !others.contains(entry.text()))
+            entry.trigger();
+        const auto now = Front().windowTitle();
+        return now == before ? "" : ": " + now;
     }
 
     static std::string linesWith(const std::string& text, const std::string& part, bool with) {

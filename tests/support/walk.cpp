@@ -9,8 +9,6 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <algorithm>
-#include <cmath>
-#include <fstream>
 
 namespace trabeon::test {
 namespace {
@@ -58,21 +56,6 @@ std::string joined(const std::vector<std::string>& lines) {
     return text;
 }
 
-Step stepOf(const std::string& place, const std::string& line) {
-    Step step{place, line.substr(0, line.find(' ')), "", "", {}};
-    if (step.word.size() == line.size())
-        return step;
-    auto rest = line.substr(step.word.size() + 1);
-    const auto equals = (' ' + rest + ' ').find(" = ");
-    if (equals == std::string::npos) {
-        step.subject = rest;
-    } else {
-        step.subject = rest.substr(0, equals == 0 ? 0 : equals - 1);
-        step.value = rest.size() > equals + 2 ? rest.substr(equals + 2) : "";
-    }
-    return step;
-}
-
 Answer answerOf(const std::string& word) {
     static const std::map<std::string, Answer> answers{{"", Answer::Ok},
                                                        {"yes", Answer::Yes},
@@ -83,64 +66,6 @@ Answer answerOf(const std::string& word) {
 }
 
 }  // namespace
-
-std::vector<Walk> readWalks(const std::filesystem::path& folder) {
-    std::vector<std::filesystem::path> files;
-    for (const auto& entry : std::filesystem::directory_iterator(folder))
-        if (entry.path().extension() == ".txt")
-            files.push_back(entry.path());
-    std::sort(files.begin(), files.end());
-    std::vector<Walk> walks;
-    for (const auto& file : files) {
-        std::ifstream in(file);
-        int number = 0;
-        for (std::string line; std::getline(in, line);) {
-            ++number;
-            if (line.starts_with('['))
-                walks.push_back({file.stem().string() + ' ' + line.substr(1, line.size() - 2), {}});
-            else if (line.starts_with("|"))
-                walks.back().steps.back().lines.push_back(
-                    line.substr(std::min<std::size_t>(line.size(), 2)));
-            else if (!line.empty() && !line.starts_with('#'))
-                walks.back().steps.push_back(
-                    stepOf(file.string() + ':' + std::to_string(number), line));
-        }
-    }
-    return walks;
-}
-
-void PrintTo(const Walk& walk, std::ostream* out) {
-    *out << walk.name;
-}
-
-std::string nameOf(const testing::TestParamInfo<Walk>& walk) {
-    auto name = walk.param.name;
-    std::replace_if(
-        name.begin(), name.end(), [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
-    return name;
-}
-
-std::string strokesOf(const PictureBox& picture) {
-    std::string text;
-    std::vector<double> rows;  // the heights of texts depend on the font
-    const auto whole = [](double twips) { return ' ' + std::to_string(std::lround(twips)); };
-    for (const auto& stroke : picture.Drawn()) {
-        if (stroke.kind == Stroke::Kind::Text) {
-            if (rows.empty() || stroke.y1 > rows.back())
-                rows.push_back(stroke.y1);
-            text +=
-                "row " + std::to_string(rows.size()) + whole(stroke.x1) + " \"" + stroke.text + '"';
-        } else if (stroke.kind == Stroke::Kind::Line) {
-            text +=
-                "line" + whole(stroke.x1) + whole(stroke.y1) + whole(stroke.x2) + whole(stroke.y2);
-        } else {
-            text += "circle" + whole(stroke.x1) + whole(stroke.y1) + whole(stroke.x2);
-        }
-        text += stroke.colour == Colour() ? "" : " colour " + std::to_string(stroke.colour);
-        text += "\r\n";
-    }
-    return text;
-}
 
 WalkTest::WalkTest() {
     AddActions();
@@ -216,15 +141,16 @@ QPoint WalkTest::PlaceOf(const Step& step) {
 /// Keys to what has the focus; "{Alt+A}" is one key with its name.
 void WalkTest::Keys(const std::string& keys) {
     for (std::size_t at = 0; at < keys.size(); ++at) {
-        ASSERT_NE(QApplication::focusWidget(), nullptr);
+        auto* focus = QApplication::focusWidget();
+        auto* target = focus == nullptr ? &window() : focus;
         if (keys[at] != '{') {
-            QTest::keyClick(QApplication::focusWidget(), keys[at]);
+            QTest::keyClick(target, keys[at]);
             continue;
         }
         const auto end = keys.find('}', at);
         const auto name = QString::fromStdString(keys.substr(at + 1, end - at - 1));
         const auto key = QKeySequence::fromString(name)[0];
-        QTest::keyClick(QApplication::focusWidget(), key.key(), key.keyboardModifiers());
+        QTest::keyClick(target, key.key(), key.keyboardModifiers());
         at = end;
     }
 }
