@@ -2,10 +2,14 @@
 #include <algorithm>
 #include <sstream>
 
+#include "core/analysis/result_files.h"
+#include "core/store/project_file.h"
+#include "forms/design/frmBeamDesign.h"
 #include "forms/input/frmDiagram.h"
 #include "forms/input/frmPoint.h"
 #include "forms/input/frmUDL.h"
 #include "forms/results/frmAnalysis.h"
+#include "forms/settings/frmMisc.h"
 #include "forms/settings/frmOptions.h"
 #include "tests/support/walk.h"
 
@@ -20,6 +24,7 @@ class Windows : public WalkTest {
         AddPictures();
         AddResults();
         AddProjects();
+        AddDesign();
         Start();
     }
 
@@ -137,6 +142,39 @@ class Windows : public WalkTest {
         };
         states["menus"] = [this](const std::string&) {
             return Menus(menuBar().actions(), "").toStdString();
+        };
+    }
+
+    void AddDesign() {
+        actions["unpack"] = [this](const Step& step) {
+            ASSERT_TRUE(unpackProject(EXAMPLES "/" + step.subject + ".TB", folder.path()));
+        };
+        // An example with its results, the dimensions window in front.
+        actions["example"] = [this](const Step& step) {
+            actions["unpack"](step);
+            ASSERT_TRUE(analyseFolder(folder.path(), {10, 3}, {[](const Message&) {}}));
+            forms().Show("frmBeamDimensions");
+        };
+        states["failed"] = [this](const std::string&) {
+            std::string rows;
+            for (int i = 0; i < List().topLevelItemCount(); ++i) {
+                const auto& item = *List().topLevelItem(i);
+                const bool coloured = item.foreground(13).style() != Qt::NoBrush;
+                EXPECT_EQ(coloured, !item.icon(0).isNull());
+                rows += coloured ? (rows.empty() ? "" : " ") + std::to_string(i + 1) : "";
+            }
+            return rows;
+        };
+        states["remark"] = [this](const std::string&) {
+            const auto& strip = forms().Get<frmBeamDesign>().remark.lblRemark;
+            return strip.Visible() ? strip.Caption() : "";
+        };
+        states["properties"] = [this](const std::string&) {
+            const auto misc = forms().Get<frmMisc>().Properties();
+            std::ostringstream text;
+            text << misc.cover << ' ' << misc.links << ' ' << misc.hagg
+                 << (misc.restrictDeflection ? " restricted" : "");
+            return text.str();
         };
     }
 

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <fstream> // TEMP
 #include <algorithm>
 
 namespace trabeon::test {
@@ -81,6 +82,9 @@ void WalkTest::Take(const std::vector<Step>& steps) {
             *text = Filled(*text);
         const bool looks = step.word == "?";
         const auto word = looks ? step.subject.substr(0, step.subject.find(' ')) : step.word;
+        if (looks && step.lines == std::vector<std::string>{"golden"}) { // TEMP
+            std::ofstream("/tmp/golden.txt", std::ios::app) << "@@" << step.place << "\n" << states[word](word.size() < step.subject.size() ? step.subject.substr(word.size() + 1) : ""); // TEMP
+            continue; } // TEMP
         if (looks && states.count(word) > 0)
             EXPECT_EQ(states[word](word.size() < step.subject.size()
                                        ? step.subject.substr(word.size() + 1)
@@ -100,7 +104,7 @@ void WalkTest::Take(const std::vector<Step>& steps) {
 std::string WalkTest::Filled(std::string text) const {
     for (const auto& [name, path] : places)
         text = replaced(text, name, path);
-    return replaced(replaced(text, "\\r", "\r"), "\\n", "\n");
+    return replaced(replaced(replaced(text, "\\r", "\r"), "\\n", "\n"), "\\t", "\t");
 }
 
 QWidget& WalkTest::Front() {
