@@ -1,4 +1,6 @@
 // The windows of input and settings, walked through by the files in "walks".
+#include <QListWidget>
+#include <QMdiSubWindow>
 #include <algorithm>
 #include <sstream>
 
@@ -9,6 +11,10 @@
 #include "forms/input/frmPoint.h"
 #include "forms/input/frmUDL.h"
 #include "forms/results/frmAnalysis.h"
+#include "forms/results/frmContinuousS.h"
+#include "forms/results/frmContinuousTB.h"
+#include "forms/results/frmMoment1.h"
+#include "forms/results/frmShear1.h"
 #include "forms/settings/frmMisc.h"
 #include "forms/settings/frmOptions.h"
 #include "tests/support/walk.h"
@@ -25,6 +31,7 @@ class Windows : public WalkTest {
         AddResults();
         AddProjects();
         AddDesign();
+        AddDiagrams();
         Start();
     }
 
@@ -176,6 +183,71 @@ class Windows : public WalkTest {
                  << (misc.restrictDeflection ? " restricted" : "");
             return text.str();
         };
+    }
+
+    void AddDiagrams() {
+        actions["analysed"] = [this](const Step& step) {
+            actions["unpack"](step);
+            forms().Get<frmAnalysis>().cmdAnalyse.Press();
+            forms().Unload("frmAnalysis");
+        };
+        actions["select"] = [this](const Step& step) {
+            auto& list = dynamic_cast<QListWidget&>(Find(step.subject));
+            QItemSelection chosen;
+            std::istringstream members(step.value);
+            for (int member; members >> member;) {
+                const auto item = list.model()->index(member - 1, 0);
+                chosen.select(item, item);
+            }
+            list.selectionModel()->select(chosen, QItemSelectionModel::ClearAndSelect);
+        };
+        // "cut FILE = MARK N" leaves N lines from the first mark on.
+        actions["cut"] = [this](const Step& step) {
+            const auto text = folder.read(step.subject), mark = step.value.substr(0, 6);
+            auto end = text.find(mark);
+            for (auto lines = std::stoi(step.value.substr(7)); lines > 0; --lines)
+                end = text.find('\n', end) + 1;
+            folder.write(step.subject, text.substr(0, end));
+        };
+        actions["move"] = [this](const Step& step) {
+            const auto top = step.value.substr(step.value.find(' '));
+            Window(step.subject)->move(std::stoi(step.value), std::stoi(top));
+        };
+        states["place"] = [this](const std::string& form) {
+            const auto place = Window(form)->pos();
+            return std::to_string(place.x()) + ' ' + std::to_string(place.y());
+        };
+        states["chart"] = [this](const std::string& form) {
+            const auto& chart = Chart(form);
+            std::ostringstream text;
+            text << states["note"](form) << "\r\n" << states["labels"](form) << "\r\n";
+            for (const auto& [x, label] : chart.Marks())
+                text << x << ": " << label << "; ";
+            text << states["count"](form) << "\r\n";
+            for (const auto& [x, y] : chart.Points())
+                text << x << ' ' << y << "\r\n";
+            return text.str();
+        };
+        states["note"] = [this](const std::string& form) { return Chart(form).Note(); };
+        states["labels"] = [this](const std::string& form) {
+            return Chart(form).GreatestLabel() + ", " + Chart(form).LeastLabel();
+        };
+        states["count"] = [this](const std::string& form) {
+            return std::to_string(Chart(form).Points().size()) + " of " +
+                   std::to_string(Chart(form).PointCount());
+        };
+        states["readout"] = [this](const std::string& form) {
+            auto* widget = Chart(form).Widget();
+            QTest::mouseMove(widget, widget->rect().center() + QPoint(20, 0));
+            return Chart(form).ReadOut();
+        };
+    }
+
+    const Graph& Chart(const std::string& form) {
+        return form == "frmContinuousTB"  ? forms().Get<frmContinuousTB>().GraphCMoment
+               : form == "frmContinuousS" ? forms().Get<frmContinuousS>().GraphCshear
+               : form == "frmMoment1"     ? forms().Get<frmMoment1>().GraphMoment1
+                                          : forms().Get<frmShear1>().GraphShear1;
     }
 
     /// The menus, each entry with its key and the form that it shows.

@@ -44,6 +44,8 @@ class WalkTest : public ProgramTest, public testing::WithParamInterface<Walk> {
                                               {"{examples}", EXAMPLES}};
 
     QWidget& Front();
+    /// The window of a form that is loaded; null of another.
+    QWidget* Window(const std::string& form);
     QWidget& Find(const std::string& name);
     QTreeWidget& List();
 
