@@ -134,7 +134,7 @@ Objection unfitForDesign(double Divisions, const MiscProperties& misc) {
 
 Status writeDesign(const std::filesystem::path& folder, const BeamDesign& design, double Divisions,
                    const MiscProperties& misc) {
-    FileSet files(folder);
+    auto files = FileSet::begin(folder);
     files.add(DesignRow::file).write(textOf(design.rows, Description::bare));
     auto record = readRecord(folder);
     record.design = designFingerprint(folder, Divisions, misc);
