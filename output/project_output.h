@@ -60,15 +60,12 @@ class OutputWriter {
     virtual void pasteContinuous() = 0;
 };
 
-/// How far a document came.
-struct OutputEnd {
-    bool whole = true;         // false: the writer ended the output, or it failed
-    std::string failure = {};  // a sentence if a file could not be written
-};
+/// How much of a document was written: all of it, or what came before the writer ended it.
+enum class Extent { whole, part };
 
-/// Tells the writer the document, kind by kind.
-[[nodiscard]] OutputEnd writeProject(const OutputSource& source, const OutputKinds& kinds,
-                                     OutputWriter& writer);
+/// Gives the document to the writer, kind by kind. Refuses if a file cannot be written.
+[[nodiscard]] Outcome<Extent> writeProject(const OutputSource& source, const OutputKinds& kinds,
+                                           OutputWriter& writer);
 
 /// The columns of the balance table of so many joints: the labels, and two ends a member.
 [[nodiscard]] int balanceTableColumns(std::size_t joints);

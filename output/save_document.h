@@ -9,7 +9,7 @@
 namespace trabeon {
 
 /// Writes the document as an Office Open XML file; if that fails the old file stays as it was.
-[[nodiscard]] Failure writeDocument(const Document& document, const std::filesystem::path& file);
+[[nodiscard]] Status writeDocument(const Document& document, const std::filesystem::path& file);
 
 /// Saves it under a name that is asked for, again if that fails, and opens it with the desktop's
 /// program for it; where there is none the user is told where it is. Nothing is left of it if the

@@ -7,6 +7,7 @@
 #include "forms/settings/frmMisc.h"
 #include "forms/settings/frmOptions.h"
 #include "forms/shared/keys.h"
+#include "forms/shared/member_choice.h"
 #include "toolkit/windows/wait_cursor.h"
 
 namespace trabeon {
@@ -20,10 +21,8 @@ std::size_t sectionsOf(double divisions) {
     return static_cast<std::size_t>(divisions) + 2;
 }
 
-/// A number as a field of its own, without the blank in front.
 std::string lengthText(double value) {
-    const auto text = std::isfinite(value) ? generatedText(value) : " 0";
-    return text.front() == ' ' ? text.substr(1) : text;
+    return std::isfinite(value) ? bareNumber(value) : "0";
 }
 
 }  // namespace
@@ -102,9 +101,7 @@ void frmBeamDimensions::Form_Load() {
     Move(0, 0, 8000, 5000);
     rows_.Fill();
     sortList();
-    const auto members = readRows<MemberRow>(context_.folder).size();
-    for (std::size_t k = 1; k <= members; ++k)
-        cboMember.AddItem("Member" + generatedText(k));
+    fillMembers(context_, cboMember);
     const double Divisions = divisions();
     if (unfitDivisions(Divisions))
         return;
@@ -150,8 +147,8 @@ void frmBeamDimensions::sortList() {
 
 void frmBeamDimensions::cmdAdd_Click() {
     const double Divisions = divisions();
-    if (const auto failure = unfitDivisions(Divisions)) {
-        warn(failure->sentence);
+    if (const auto objection = unfitDivisions(Divisions)) {
+        warn(objection->sentence);
         return;
     }
     if (optVary.Value() && cboSection.ListCount() == 0) {  // they were unfit at the load
@@ -187,8 +184,9 @@ void frmBeamDimensions::Adding(const SectionRange& SelectedSection, double MemLe
                                lengthText(MemLen)};
     auto lastAdded = row;
     lastAdded.Section = std::to_string(SelectedSection.last);
-    if (const auto failure = addDimensions(context_.folder, position, row, SelectedSection, order))
-        warn(failure->sentence);
+    if (const auto status = addDimensions(context_.folder, position, row, SelectedSection, order);
+        status.failed())
+        warn(status.refusal().sentence);
     ListView1.SetSorted(false);  // the last row of the file is looked for, not of the order shown
     rows_.Fill();
     rows_.SelectLast();
@@ -203,8 +201,9 @@ void frmBeamDimensions::cmdRemove_Click() {
 }
 
 void frmBeamDimensions::Command1_Click() {
-    if (const auto failure = replaceFile(context_.folder / BeamDimensionRow::file, {})) {
-        warn(failure->sentence);
+    if (const auto status = replaceFile(context_.folder / BeamDimensionRow::file, {});
+        status.failed()) {
+        warn(status.refusal().sentence);
         return;
     }
     MurderFile(context_.folder / BeamDimensionRow::scratch);
