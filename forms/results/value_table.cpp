@@ -10,7 +10,7 @@
 namespace trabeon {
 namespace {
 
-/// In plain decimals, but for a number that has none.
+/// Generated number text. A text that is not a finite number stays as it is.
 std::string distanceText(std::string_view text) {
     const double x = leadingNumber(text);
     return std::isfinite(x) ? generatedText(x) : std::string(text);
@@ -36,7 +36,8 @@ void ValueTable::Form_Load() {
         SetLeft(place->first);
         SetTop(place->second);
     }
-    const auto rows = stationRowsOf(context_.forms.InTheBackground<frmOptions>().Settings().Divisions);
+    const auto rows =
+        stationRowsOf(context_.forms.InTheBackground<frmOptions>().Settings().Divisions);
     ListView1.ListItems.Clear();
     fill(rows);
     remark.Say(stationsRemark(context_));
