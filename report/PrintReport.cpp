@@ -26,7 +26,7 @@ PrintEnd PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, int rightM
     const Paper& sheet = printer->Sheet();
     PageFormat format;
     format.page = {0, 0, sheet.ScaleWidth, sheet.ScaleHeight};
-    // The canvas begins where the printer can print: the margins count from the sheet's edge.
+    // The canvas starts at the printable area, but the margins count from the edge of the sheet.
     format.drawing = {leftMargin - sheet.OffsetX, topMargin - sheet.OffsetY,
                       sheet.Width - rightMargin - sheet.OffsetX,
                       sheet.Height - bottomMargin - sheet.OffsetY};

@@ -1,4 +1,4 @@
-// The report on paper.
+// Prints the report.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@ struct PrintEnd {
     std::string trouble = {};  // a sentence for the user
 };
 
-/// Prints the whole text. The margins are twips from the edge of the sheet.
+/// Prints the whole report. The margins are in twips from the edge of the sheet.
 [[nodiscard]] PrintEnd PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, int rightMargin,
                                    int bottomMargin);
 

@@ -77,7 +77,7 @@ void frmReport::mnufileexit_Click() {
     Hide();
 }
 
-/// The dialog serves the project as well: what it held of that comes back.
+/// The project uses the same dialog. Its file name is put back afterwards.
 void frmReport::SaveReport() {
     auto& dialog = context_.CommonDialog1;
     const auto projectPath = dialog.FileName;
