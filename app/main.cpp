@@ -1,4 +1,4 @@
-// trabeon: the program with its window.
+// trabeon: the program with windows.
 #include <cstdio>
 #include <exception>
 
