@@ -15,13 +15,13 @@ namespace {
 constexpr double twipsPerPoint = 20;
 constexpr double emuPerPoint = 12700;
 constexpr double gapBetweenPictures = 6;  // points
-constexpr double roomForTitles = 60;      // points of a page that a picture leaves to its title
+constexpr double roomForTitles = 60;      // points of page height kept for a picture's title
 
 QString whole(double value) {
     return QString::number(std::llround(value));
 }
 
-/// Widths of texts, each measured once.
+/// Measures the widths of texts in type of 1 point. Keeps each result.
 class Measure {
   public:
     double operator()(const std::string& text, const TextStyle& style) {
@@ -89,7 +89,8 @@ class Body {
             write(std::get<Paragraph>(document_.blocks[i]), isTitle(i));
     }
 
-    /// Text outside of tables is a title: it, and the empty line below it, stay with what follows.
+    /// Text outside of tables is a title. It and the empty line below it stay on the page of the
+    /// next block.
     [[nodiscard]] bool isTitle(std::size_t i) const {
         const auto* paragraph = std::get_if<Paragraph>(&document_.blocks[i]);
         if (paragraph == nullptr || !paragraph->pictures.empty())
@@ -141,7 +142,8 @@ class Body {
         double left, width, height;
     };
 
-    /// Side by side as wanted, without running into each other, and small enough for the page.
+    /// Places the pictures of a paragraph side by side, without overlap and small enough for the
+    /// page.
     [[nodiscard]] std::vector<Placed> placed(const Paragraph& paragraph) const {
         std::vector<Placed> places;
         double right = -gapBetweenPictures, tallest = 0;
@@ -241,7 +243,7 @@ class Body {
         const auto layout = layOut(table, pageWidth(), std::ref(measure_));
         for (std::size_t i = 0; i < layout.strips.size(); ++i) {
             if (i > 0)
-                write(Paragraph{}, false);  // two tables that touch would become one
+                write(Paragraph{}, false);  // a word processor would join adjacent tables
             strip(table, layout.strips[i], layout.points);
         }
     }
@@ -313,7 +315,7 @@ class Body {
         end();
     }
 
-    /// The paragraph's end, which alone makes an empty cell as high as it is.
+    /// Sets the type size of the paragraph mark. It alone sets the height of an empty cell.
     void markOf(double points) {
         begin("pPr");
         begin("rPr");

@@ -57,7 +57,7 @@ frmPrintOptions::frmPrintOptions(Context& context)
 }
 
 void frmPrintOptions::Form_Load() {
-    SetWidth(width + 120);  // and the border
+    SetWidth(width + 120);  // plus the border
     SetHeight(5200);
 }
 
@@ -71,7 +71,7 @@ ProjectTitle frmPrintOptions::title() {
     return context_.forms.Get<frmTitle>().Title();
 }
 
-/// A table that came with the project file has no record and is taken as it is.
+/// Only for an outdated balance table. A table from the project file has no record and no remark.
 std::string frmPrintOptions::tableRemark() const {
     const auto state = tableState(context_.folder);
     return state == ResultState::outdated ? std::string(analyseAgain) : "";
