@@ -113,7 +113,7 @@ def attacked(command, begin, folder, name, obstacle):
 def main():
     build, every = pathlib.Path(sys.argv[1]).resolve(), int([*sys.argv, 1][2])
     batch = build / "batch" / "trabeon-batch"
-    report = build / "report" / "output" / "trabeon-report"
+    report = build / "output" / "trabeon-report"
     commands = [
         Command("unpack", batch, "unpack", LARGE, "DIR"),
         Command("analyse", batch, "analyse", "DIR", "--divisions", "20"),

@@ -79,7 +79,7 @@ class Programs:
     def __init__(self, build):
         self.batch = build / "batch" / "trabeon-batch"
         self.window = build / "tests" / "reliability" / "window_job"
-        self.report = build / "report" / "output" / "trabeon-report"
+        self.report = build / "output" / "trabeon-report"
         self.faults = build / "tests" / "reliability" / "libfaults.so"
 
     def environment(self, folder, kind="", at=0, record=""):
