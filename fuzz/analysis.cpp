@@ -42,12 +42,12 @@ class Folder {
 };
 
 void unpackInto(const trabeon::Project& project, const fs::path& folder) {
-    trabeon::FileSet files(folder);
+    auto files = trabeon::FileSet::begin(folder);
     files.add(working_file::joint).write(project.joints);
     files.add(working_file::member).write(project.members);
     files.add(working_file::point).write(project.points);
     files.add(working_file::udl).write(project.udls);
-    require(!files.commit(), "the working files can be written");
+    require(files.commit().done(), "the working files can be written");
 }
 
 /// The settings depend only on the size of the input, so that an input always does the same.

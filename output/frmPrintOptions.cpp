@@ -108,8 +108,7 @@ void frmPrintOptions::cmdLotus_Click() {
 template <class Output, class Processor>
 void frmPrintOptions::output() {
     Processor objWord;
-    OutputEnd end;
-    {
+    const auto end = [&] {
         const WaitCursor wait;
         ChartDriver charts(context_);
         if (!context_.forms.IsLoaded(frmTitle::Name))
@@ -121,11 +120,11 @@ void frmPrintOptions::output() {
             charts,
             {tableRemark(), stationsRemark(context_), designRemark(context_)}};
         Output writer(source, objWord);
-        end = writeProject(source, Kinds(), writer);
-    }
-    if (!end.failure.empty())
-        warn(end.failure);
-    else if (end.whole)
+        return writeProject(source, Kinds(), writer);
+    }();
+    if (!end)
+        warn(end.refusal().sentence);
+    else if (*end == Extent::whole)
         saveAndOpen(objWord.document());
 }
 

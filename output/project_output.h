@@ -60,15 +60,12 @@ class OutputWriter {
     virtual void pasteContinuous() = 0;
 };
 
-/// The result of an output.
-struct OutputEnd {
-    bool whole = true;         // false: the writer ended the output, or it failed
-    std::string failure = {};  // a sentence if a file could not be written
-};
+/// How much of a document was written: all of it, or what came before the writer ended it.
+enum class Extent { whole, part };
 
-/// Writes the selected parts of the document in order.
-[[nodiscard]] OutputEnd writeProject(const OutputSource& source, const OutputKinds& kinds,
-                                     OutputWriter& writer);
+/// Writes the selected parts of the document in order. Refuses if a file cannot be written.
+[[nodiscard]] Outcome<Extent> writeProject(const OutputSource& source, const OutputKinds& kinds,
+                                           OutputWriter& writer);
 
 /// The number of columns of the balance table: the labels, and two ends per member.
 [[nodiscard]] int balanceTableColumns(std::size_t joints);

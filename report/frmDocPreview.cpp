@@ -159,9 +159,9 @@ bool frmDocPreview::copyPage() {
 
 void frmDocPreview::cmdPrint_Click() {
     const auto end = PrintReport(report(), marginTwips, marginTwips, marginTwips, marginTwips);
-    if (!end.trouble.empty())
-        warn(end.trouble);
-    else if (end.printed)
+    if (!end)
+        warn(end.refusal().sentence);
+    else if (*end == PrintEnd::printed)
         Unload();
 }
 

@@ -150,8 +150,8 @@ void frmBeamDimensions::sortList() {
 
 void frmBeamDimensions::cmdAdd_Click() {
     const double Divisions = divisions();
-    if (const auto failure = unfitDivisions(Divisions)) {
-        warn(failure->sentence);
+    if (const auto objection = unfitDivisions(Divisions)) {
+        warn(objection->sentence);
         return;
     }
     if (optVary.Value() && cboSection.ListCount() == 0) {  // invalid at Form_Load
@@ -187,8 +187,9 @@ void frmBeamDimensions::Adding(const SectionRange& SelectedSection, double MemLe
                                lengthText(MemLen)};
     auto lastAdded = row;
     lastAdded.Section = std::to_string(SelectedSection.last);
-    if (const auto failure = addDimensions(context_.folder, position, row, SelectedSection, order))
-        warn(failure->sentence);
+    if (const auto status = addDimensions(context_.folder, position, row, SelectedSection, order);
+        status.failed())
+        warn(status.refusal().sentence);
     ListView1.SetSorted(false);  // SelectLast needs the file order
     rows_.Fill();
     rows_.SelectLast();
@@ -203,8 +204,9 @@ void frmBeamDimensions::cmdRemove_Click() {
 }
 
 void frmBeamDimensions::Command1_Click() {
-    if (const auto failure = replaceFile(context_.folder / BeamDimensionRow::file, {})) {
-        warn(failure->sentence);
+    if (const auto status = replaceFile(context_.folder / BeamDimensionRow::file, {});
+        status.failed()) {
+        warn(status.refusal().sentence);
         return;
     }
     MurderFile(context_.folder / BeamDimensionRow::scratch);

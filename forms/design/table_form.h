@@ -23,7 +23,7 @@ class TableForm : public Form {
     void Form_Resize() override;
 
     /// Calls `write`, then shows the file in the list, one line per item.
-    void BuildTable(Failure (*write)(const std::filesystem::path& folder), std::string_view file);
+    void BuildTable(Status (*write)(const std::filesystem::path& folder), std::string_view file);
 
     static constexpr int margin = 120;
 

@@ -71,8 +71,8 @@ void frmAnalysis::cmdAnalyse_Click() {
     auto& options = context_.forms.Get<frmOptions>();
     const auto settings = options.Settings();
     options.Hide();
-    if (const auto failure = missing(context_.folder, inputFiles)) {
-        warn(failure->sentence);
+    if (const auto objection = missing(context_.folder, inputFiles)) {
+        warn(objection->sentence);
         return;
     }
     const WaitCursor wait;

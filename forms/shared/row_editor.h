@@ -144,9 +144,9 @@ class RowEditor {
 
     [[nodiscard]] bool hasRows() const { return list_.ListItems.Count() > 0; }
 
-    [[nodiscard]] bool written(const Failure& failure) {
-        if (failure) {
-            warn(failure->sentence);
+    [[nodiscard]] bool written(const Status& status) {
+        if (status.failed()) {
+            warn(status.refusal().sentence);
             return false;
         }
         context_.dataChanged = 1;

@@ -36,7 +36,7 @@ void setAll(OutputKinds& kinds, bool wanted) {
         kinds.*kind = wanted;
 }
 
-Failure readKinds(const std::string& text, OutputKinds& kinds) {
+Status readKinds(const std::string& text, OutputKinds& kinds) {
     setAll(kinds, false);
     for (std::size_t from = 0; from <= text.size();) {
         const auto comma = std::min(text.find(',', from), text.size());
@@ -49,18 +49,18 @@ Failure readKinds(const std::string& text, OutputKinds& kinds) {
         kinds.*known->second = true;
         from = comma + 1;
     }
-    return std::nullopt;
+    return {};
 }
 
-Failure readNumber(const std::string& name, const std::string& text, double& value) {
+Status readNumber(const std::string& name, const std::string& text, double& value) {
     const auto number = numberOfWholeText(text);
     if (!number)
         return Refusal{name + " takes a number, not \"" + excerpt(text) + "\"."};
     value = *number;
-    return std::nullopt;
+    return {};
 }
 
-Failure readOption(const std::string& name, const std::string& value, ReportCommand& command) {
+Status readOption(const std::string& name, const std::string& value, ReportCommand& command) {
     if (name == "--divisions")
         return readNumber(name, value, command.settings.Divisions);
     if (name == "--places")
@@ -70,7 +70,7 @@ Failure readOption(const std::string& name, const std::string& value, ReportComm
     if (name != "--out")
         return Refusal{"There is no option " + excerpt(name) + ". " + usage};
     command.out = value;
-    return std::nullopt;
+    return {};
 }
 
 }  // namespace
@@ -109,8 +109,8 @@ Outcome<ReportCommand> readReportCommand(const std::vector<std::string>& words) 
         if (sign == std::string::npos && i + 1 == words.size())
             return Refusal{"A value is missing after " + excerpt(word) + ". " + usage};
         const auto value = sign == std::string::npos ? words[++i] : word.substr(sign + 1);
-        if (auto failure = readOption(word.substr(0, sign), value, command))
-            return *failure;
+        if (const auto status = readOption(word.substr(0, sign), value, command); status.failed())
+            return status.refusal();
     }
     if (command.file.empty() || command.out.empty())
         return Refusal{usage};

@@ -26,7 +26,7 @@
 namespace trabeon {
 namespace {
 
-Failure analyseProject(const std::filesystem::path& folder, const AnalysisSettings& settings) {
+Status analyseProject(const std::filesystem::path& folder, const AnalysisSettings& settings) {
     std::string said = "The beam could not be analysed.";
     AnalysisOutputs outputs;
     outputs.rowsRead = [](const BeamRows& rows) {
@@ -36,19 +36,19 @@ Failure analyseProject(const std::filesystem::path& folder, const AnalysisSettin
     outputs.message = [&](const Message& message) { said = message.text; };
     if (!analyseFolder(folder, settings, outputs))
         return Refusal{said};
-    return std::nullopt;
+    return {};
 }
 
 /// Does nothing for a project without beam dimensions.
-Failure designProject(const std::filesystem::path& folder, double Divisions) {
+Status designProject(const std::filesystem::path& folder, double Divisions) {
     if (readWhole(folder / working_file::beamDimensions).empty())
-        return std::nullopt;
+        return {};
     const auto design = designFolder(folder, Divisions, {});
     if (!design)
         return design.refusal();
     if (design->ShearFailed)
         std::fprintf(stderr, "%s\n", std::string(shearFailureSentence).c_str());
-    return std::nullopt;
+    return {};
 }
 
 void prepare(frmTrabeon& program, const ProjectTitle& title, const AnalysisSettings& settings) {
@@ -59,16 +59,16 @@ void prepare(frmTrabeon& program, const ProjectTitle& title, const AnalysisSetti
     options.txtDivision.SetText(std::to_string(static_cast<int>(settings.Divisions)));
 }
 
-Failure makeReport(const ReportCommand& command, const std::filesystem::path& folder) {
-    if (auto failure = unfitDocumentFile(command.out, command.file))
-        return failure;
+Status makeReport(const ReportCommand& command, const std::filesystem::path& folder) {
+    if (const auto objection = unfitDocumentFile(command.out, command.file))
+        return objection;
     const auto opened = unpackProject(command.file, folder);
     if (!opened)
         return opened.refusal();
-    if (auto failure = analyseProject(folder, command.settings))
-        return failure;
-    if (auto failure = designProject(folder, command.settings.Divisions))
-        return failure;
+    if (const auto status = analyseProject(folder, command.settings); status.failed())
+        return status;
+    if (const auto status = designProject(folder, command.settings.Divisions); status.failed())
+        return status;
     frmTrabeon program(folder);
     prepare(program, opened->title, command.settings);
     LotusDocument objWord;
@@ -78,8 +78,8 @@ Failure makeReport(const ReportCommand& command, const std::filesystem::path& fo
                                   static_cast<int>(command.settings.Divisions), charts};
         LotusOutput writer(source, objWord);
         const auto end = writeProject(source, command.kinds, writer);
-        if (!end.failure.empty())
-            return Refusal{end.failure};
+        if (!end)
+            return end.refusal();
     }
     return writeDocument(objWord.document(), command.out);
 }
@@ -129,10 +129,11 @@ int run(const ReportCommand& command, int& argc, char** argv) {
     qInstallMessageHandler(keepQuiet);
     const Application application(argc, argv);
     const Unattended outside;
-    const auto failure = makeReport(command, work.path());
-    if (failure)
-        std::fprintf(stderr, "%s\n", failure->sentence.c_str());
-    return failure ? 1 : 0;
+    const auto status = makeReport(command, work.path());
+    if (status.done())
+        return 0;
+    std::fprintf(stderr, "%s\n", status.refusal().sentence.c_str());
+    return 1;
 }
 
 }  // namespace

@@ -24,8 +24,8 @@ struct Beam {
         return *this;
     }
     [[nodiscard]] DesignData data() const {
-        return {rowsOf<JointRow>(joints), members, rowsOf<BeamDimensionRow>(dimensions), stations,
-                Divisions};
+        return DesignData::read(rowsOf<JointRow>(joints), members,
+                                rowsOf<BeamDimensionRow>(dimensions), stations, Divisions);
     }
     [[nodiscard]] BeamDesign design(const MiscProperties& misc = {}) const {
         return designBeam(data(), misc);
