@@ -91,9 +91,9 @@ void frmPrintOptions::cmdPrint_Click() {
         return;
     const WaitCursor wait;
     if (!print(printedPages(source, Kinds(), optLand.Value()), *printer))
-        warn("The print of \"" + excerpt(project) + "\" did not reach " +
-             (printer->File().empty() ? "the printer. See to the printer"
-                                      : "\"" + printer->File() + "\". Choose another file") +
+        warn("\"" + excerpt(project) + "\" could not be printed" +
+             (printer->File().empty() ? ". Check the printer"
+                                      : " to \"" + printer->File() + "\". Choose another file") +
              ", then print again.");
 }
 

@@ -50,12 +50,12 @@ bool frmTrabeon::Start() {
     }
     const auto recovered = recoverRows(context_.folder);
     if (!recovered) {
-        warn("The rows of the last run, which ended without Exit, cannot be kept: " +
+        warn("The last run ended without Exit. Its rows cannot be saved: " +
              recovered.refusal().sentence);
         return false;
     }
     if (const auto status = CreateNFile(context_.folder); status.failed()) {
-        warn("The rows of the last run cannot be emptied: " + status.refusal().sentence);
+        warn("The working files of the last run cannot be emptied: " + status.refusal().sentence);
         return false;
     }
     startUntitled();

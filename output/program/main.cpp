@@ -121,7 +121,8 @@ void makeScreen(const QString& file) {
 int run(const ReportCommand& command, int& argc, char** argv) {
     const WorkFolder work;
     if (!work.folder().isValid()) {
-        std::fprintf(stderr, "No temporary folder can be made (%s). Make room, then try again.\n",
+        std::fprintf(stderr,
+                     "A temporary folder could not be created (%s). Free space, then try again.\n",
                      work.folder().errorString().toStdString().c_str());
         return 1;
     }
@@ -153,6 +154,6 @@ int main(int argc, char** argv) try {
     }
     return run(*command, argc, argv);
 } catch (const std::exception& error) {
-    std::fprintf(stderr, "The document cannot be made (%s).\n", error.what());
+    std::fprintf(stderr, "The document could not be made (%s).\n", error.what());
     return 1;
 }
