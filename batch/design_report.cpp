@@ -42,7 +42,7 @@ bool anyHolds(Rows rows, std::string_view words) {
                        [&](const DesignRow& row) { return note::holds(row.DefNote, words); });
 }
 
-/// Each failure once; "OK" if there is none.
+/// The failed checks, each once. "OK" if all checks passed.
 std::string verdict(Rows rows) {
     std::string text;
     for (auto words :

@@ -1,5 +1,4 @@
-// trabeon-batch: the analysis and the design without a window, for scripts and machines with no
-// display.
+// trabeon-batch: the analysis and the design for scripts and for machines without a display.
 #include <cstdio>
 #include <cstdlib>
 #include <exception>

@@ -238,7 +238,7 @@ Status writeWorkingFiles(const Project& project, const std::filesystem::path& fo
         fingerprint({project.joints, project.members, project.points, project.udls});
     record.unpackedDimensions = fingerprint(project.beamDimensions);
     record.table.reset();
-    if (!project.balanceTable.empty())  // it comes with the project, and is taken as its own
+    if (!project.balanceTable.empty())  // the project's table counts as current
         record.table =
             inputFingerprint({project.joints, project.members, project.points, project.udls});
     if (!record.stations)  // these belong to another beam, recorded or not

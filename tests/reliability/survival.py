@@ -154,7 +154,7 @@ class BatchJob(Job):
         if result.returncode != 1:
             raise Broken(f"ended with {result.returncode}")
         check_whole(left, allowed)
-        check_told(folder, result.stderr)
+        check_reported(folder, result.stderr)
 
 
 class ReportJob(Job):
@@ -213,10 +213,10 @@ class WindowJob(Job):
         if result.returncode not in (0, 1):
             raise Broken(f"ended with {result.returncode}")
         if result.returncode == 1 or b"flag 1" in result.stdout:
-            check_told(folder, result.stdout)
+            check_reported(folder, result.stdout)
 
 
-def check_told(folder, said):
+def check_reported(folder, said):
     sentences = b"could not be written", b"cannot write there", b"does not confirm"
     if not any(sentence in said for sentence in sentences):
         raise Broken(f"no sentence reports the full disk: {said!r}")
@@ -322,17 +322,17 @@ def chosen(steps, points):
 
 
 def judge(trial, points):
-    told, broken = [0, 0, 0], []
+    counts, broken = [0, 0, 0], []
     for at in chosen(trial.steps, points):
         for which, name in enumerate(Job.faults):
             if name not in trial.job.faults:
                 continue
             act = getattr(trial, name)
             try:
-                told[which] += act(at)
+                counts[which] += act(at)
             except (Broken, subprocess.TimeoutExpired) as what:
                 broken.append(f"{trial.job.name}, {name} at step {at}: {what}")
-    return trial.steps, told, broken
+    return trial.steps, counts, broken
 
 
 def main():
@@ -358,11 +358,11 @@ def main():
         if arguments.jobs and job.name not in arguments.jobs:
             continue
         with tempfile.TemporaryDirectory() as home:
-            steps, told, broken = judge(Trial(job, pathlib.Path(home)), arguments.points)
-        counts = "".join(f"{count:8}" for count in (steps, *told, len(broken)))
-        print(f"{job.name:10}{counts}", flush=True)
+            steps, counts, broken = judge(Trial(job, pathlib.Path(home)), arguments.points)
+        line = "".join(f"{count:8}" for count in (steps, *counts, len(broken)))
+        print(f"{job.name:10}{line}", flush=True)
         print("".join(f"  {line}\n" for line in broken), end="")
-        failed = failed or bool(broken) or not any(told)
+        failed = failed or bool(broken) or not any(counts)
     return int(failed)
 
 
