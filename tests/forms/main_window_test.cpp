@@ -122,7 +122,7 @@ TEST_F(StartUp, KeepsTheRowsOfARunWithoutExit) {
          {"Udl.txt", "BeamDim.txt"}) {  // nothing is emptied if one cannot be
         folder.protect(inTheWay);
         ExpectManual();
-        ExpectUnwritten(inTheWay, "The rows of the last run cannot be emptied: ");
+        ExpectUnwritten(inTheWay, "The working files of the last run cannot be emptied: ");
         EXPECT_FALSE(program.Start());
         EXPECT_NE(folder.read("Joint.txt"), "");
         folder.protect(inTheWay, false);
@@ -261,9 +261,10 @@ TEST_F(MainWindow, CancelledOrRefusedOpenLeavesTheProjectAsItWas) {
     const auto before = folder.contents();
     Open("");
     outside.ExpectOpen("Open Trabeon File", bad);
-    outside.ExpectMsgBox("\"" + bad +
-                         "\" is not a whole project file: line 4: the file ends where the designer "
-                         "was expected. Correct that line; nothing was changed.");
+    outside.ExpectMsgBox(
+        "\"" + bad +
+        "\" is not a complete project file: line 4: the file ends where the designer "
+        "was expected. Correct that line; nothing was changed.");
     Choose("&File|&Open");
     EXPECT_EQ(folder.contents(), before);
     EXPECT_EQ(caption(), name);
