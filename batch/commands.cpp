@@ -140,7 +140,7 @@ Objection outdated(const fs::path& file, ResultState state) {
 Objection unfitStations(const DesignData& data) {
     if (data.NumofMem() > 0 && data.stationsFit())
         return std::nullopt;
-    return Refusal{"The stations do not fit the beam: \"BM.txt\" must have " +
+    return Refusal{"The stations do not match the beam: \"BM.txt\" must have " +
                    std::to_string(data.sectionsPerMember()) + " rows for each of " +
                    std::to_string(data.NumofMem()) +
                    " members. Analyse the beam first, with the same --divisions."};
@@ -203,7 +203,7 @@ Outcome<Project> unpackInto(const std::string& file, const fs::path& folder, Fol
     fs::create_directories(folder, error);
     if (!fs::is_directory(folder, error))
         return Refusal{"The folder \"" + folder.string() +
-                       "\" cannot be created. Name another one."};
+                       "\" cannot be created. Choose another one."};
     if (const auto status = enter(folder, lock); status.failed())
         return status.refusal();
     if (const auto objection = holdsOtherRows(folder))

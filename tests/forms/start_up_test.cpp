@@ -40,7 +40,7 @@ TEST_F(StartUp, KeepsTheRowsOfARunWithoutExit) {
          {"Udl.txt", "BeamDim.txt"}) {  // nothing is emptied if one cannot be
         folder.protect(inTheWay);
         ExpectManual();
-        ExpectUnwritten(inTheWay, "The rows of the last run cannot be emptied: ");
+        ExpectUnwritten(inTheWay, "The working files of the last run cannot be emptied: ");
         EXPECT_FALSE(program.Start());
         EXPECT_NE(folder.read("Joint.txt"), "");
         folder.protect(inTheWay, false);
