@@ -126,8 +126,10 @@ class Windows : public WalkTest {
             folder.write(step.subject, text);
         };
         states["question"] = [this](const std::string&) {
-            return outside.lastQuestion.filter +
-                   (outside.lastQuestion.asksBeforeOverwriting ? ", asks before overwriting" : "");
+            const auto& asked = outside.lastQuestion;
+            return asked.filter + (asked.asksBeforeOverwriting ? ", asks to overwrite" : "") +
+                   (asked.asksBeforeCreating ? ", asks to create" : "") +
+                   (asked.folderMustExist ? ", in a folder that exists" : "");
         };
         states["menus"] = [this](const std::string&) {
             return Menus(menuBar().actions(), "").toStdString();

@@ -50,28 +50,6 @@ class PrintOptions : public ProgramTest {
     }
 };
 
-TEST_F(PrintOptions, ComesUpWithItsTicks) {
-    const auto& form = Open();
-    EXPECT_EQ(form.Caption(), "Printing Options");
-    EXPECT_EQ(form.Height(), 5205);  // 5200, in whole pixels
-    for (const auto& [box, caption] :
-         {std::pair{&form.chkJoint, "Joint Data (Text Format)"},
-          {&form.chkMember, "Member Data (Text Format)"},
-          {&form.chkLoad, "Loading Data (Text Format)"},
-          {&form.chkTB, "Trabeon Results"},
-          {&form.chkBMSV, "Bending Moment And Shear Force Values"},
-          {&form.chkBMSDBY, "Bending Moment And Shear Force Diagram By Members"},
-          {&form.chkCBMS, "Continuous Bending Moment And Shear Force Diagram"},
-          {&form.chkBeamDim, "Beam Dimensions and Properties"},
-          {&form.chkDesign, "Design Results"}}) {
-        EXPECT_EQ(TextOf(*box), caption);
-        EXPECT_EQ(box->Value(), box != &form.chkTB) << caption;
-    }
-    EXPECT_EQ(TextOf(form.optLand) + "/" + TextOf(form.optPot), "Landscape/Potrait");
-    EXPECT_TRUE(form.optLand.Value());
-    EXPECT_TRUE(form.chkJoint.HasFocus());
-}
-
 TEST_F(PrintOptions, PrintsThePagesAsAFile) {
     auto& form = Open();
     AnalyseExample();

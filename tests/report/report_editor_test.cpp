@@ -117,30 +117,6 @@ TEST_F(ReportEditor, CloseHidesAndKeepsAndNewLoses) {
     EXPECT_EQ(RTB().PictureCount(), 0);
 }
 
-TEST_F(ReportEditor, TheControlsFollowTheSizeAndTheWindowComesUpInSight) {
-    forms().Show("frmContinuousTB");
-    const QRect frame = Report().Widget()->geometry();
-    EXPECT_TRUE(Report().Widget()->parentWidget()->rect().contains(frame));
-    Report().SetScaleSize(9000, 6000);
-    Settle();
-    const auto& cut = Report().cmdCut;
-    const auto& wp = Report().cmdWP;
-    const int w = Report().ScaleWidth() - 650;
-    const auto expectAt = [](const Control& control, int left, int top) {
-        EXPECT_NEAR(control.Left(), left, 8);  // on a whole pixel
-        EXPECT_NEAR(control.Top(), top, 8);
-    };
-    expectAt(RTB(), 100, 600);
-    expectAt(cut, w + 250, 600);
-    expectAt(wp, w + 150, 1500);
-    EXPECT_NEAR(RTB().Width(), w, 8);
-    EXPECT_NEAR(RTB().Height(), Report().ScaleHeight() - 600, 8);
-    EXPECT_LE(cut.Left() + cut.Width(), Report().ScaleWidth());
-    EXPECT_LE(cut.Top() + cut.Height(), wp.Top());
-    Report().SetScaleSize(0, 0);
-    EXPECT_GE(Report().ScaleHeight(), wp.Top() + wp.Height());
-}
-
 TEST_F(ReportEditor, SavesPicturesSharpAtTheSizeTheyHaveOnPaper) {
     Add(400, 100);
     Add(1200, 100);  // wider than the paper
@@ -162,17 +138,6 @@ TEST_F(ReportEditor, SavesPicturesSharpAtTheSizeTheyHaveOnPaper) {
     EXPECT_EQ(folder.contents(), before) << "the user drew back";
     EXPECT_EQ(outside.lastQuestion.fileName, (folder / "other.rtf").string());
     EXPECT_EQ(context().CommonDialog1.FileName, (folder / "beam.TB").string()) << "the project's";
-}
-
-TEST_F(ReportEditor, ASaveThatFailsIsToldAndLeavesTheOldFile) {
-    Add(100, 50);
-    folder.write("old.rtf", "old");
-    folder.protect("old.rtf");
-    const auto path = (folder / "old.rtf").string();
-    outside.ExpectSave("Save Trabeon Report File", path);
-    ExpectUnwritten("old.rtf");
-    Report().mnuSave.Choose();
-    EXPECT_EQ(folder.read("old.rtf"), "old");
 }
 
 TEST_F(ReportEditor, TheWordProcessorGetsThePictureThatWasAddedLast) {

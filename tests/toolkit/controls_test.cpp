@@ -1,22 +1,16 @@
 // Which events each control fires, by the user and by code, and what its setters leave alone.
 #include <QAbstractItemView>
 #include <QComboBox>
-#include <QListWidget>
-#include <QProgressBar>
 #include <QWheelEvent>
 
 #include "tests/toolkit/controls_fixture.h"
 #include "toolkit/controls/button.h"
 #include "toolkit/controls/combo_box.h"
 #include "toolkit/controls/label.h"
-#include "toolkit/controls/list_box.h"
-#include "toolkit/controls/option_button.h"
-#include "toolkit/controls/progress_bar.h"
 #include "toolkit/controls/text_box.h"
 #include "toolkit/controls/text_view.h"
 #include "toolkit/controls/vertical_button.h"
 #include "toolkit/controls/web_browser.h"
-#include "toolkit/outside/common_dialog.h"
 
 namespace trabeon {
 namespace {
@@ -79,41 +73,6 @@ TEST_F(ControlsTest, ComboBoxClicksForEveryChoiceAlsoTheSameOne) {
     expect(-1, 4);
 }
 
-TEST_F(ControlsTest, ListBoxClicksForEachSelectionByCodeAndForEachUsersClick) {
-    ListBox list(Bench());
-    list.Move(0, 0, 2000, 2000);
-    int clicks = 0;
-    list.Click = Count(clicks);
-    const auto expect = [&](const std::string& selected, int clicked) {
-        std::string shown;
-        for (int i = 0; i < list.ListCount(); ++i)
-            shown += list.Selected(i) ? 'x' : '-';
-        EXPECT_EQ(shown, selected);
-        EXPECT_EQ(clicks, clicked);
-    };
-    list.AddItem("Member  1");
-    list.AddItem("Member  2");
-    for (const int chosen : {0, 1, 1})
-        list.SetSelected(chosen, true);
-    expect("xx", 3);
-    Settle();
-    auto* inner = static_cast<QListWidget*>(list.Widget());
-    const QPoint second = inner->visualItemRect(inner->item(1)).center();
-    QTest::mouseClick(inner->viewport(), Qt::LeftButton, {}, second);
-    expect("-x", 4);
-    QTest::mouseClick(inner->viewport(), Qt::LeftButton, {}, second);
-    expect("-x", 5);
-    QTest::mouseClick(inner->viewport(), Qt::LeftButton, {}, inner->viewport()->rect().center());
-    expect("-x", 5);  // that was blank space
-    QTest::mouseClick(inner->viewport(), Qt::LeftButton, Qt::ControlModifier, second);
-    expect("--", 6);
-    list.AddItem("Member  3");
-    list.SetSelection({true, false, true});
-    expect("x-x", 7);
-    list.Clear();
-    expect("", 7);
-}
-
 TEST_F(ControlsTest, TheWheelPassesByAClosedComboBox) {
     ComboBox combo(Bench());
     int clicks = 0;
@@ -169,25 +128,6 @@ TEST_F(ControlsTest, TheTextViewCopiesWhatIsSelected) {
     QTest::mouseMove(inside, {4 + 7 * cell, 8});
     QTest::mouseRelease(inside, Qt::LeftButton, {}, {4 + 7 * cell, 8});
     EXPECT_EQ(view.SelectedText(), "two");
-}
-
-TEST_F(ControlsTest, TheDialogReadsItsFlagsAndKeepsItsNameWhenCancelled) {
-    CommonDialog dialog;
-    dialog.DialogTitle = "Save Trabeon File";
-    dialog.Flags = 10246;
-    outside.ExpectSave("Save Trabeon File", "/beams/One.TB");
-    EXPECT_TRUE(dialog.ShowSave());
-    const auto asks = [this] {
-        const FileQuestion& asked = outside.lastQuestion;
-        return std::array{asked.asksBeforeOverwriting, asked.asksBeforeCreating,
-                          asked.folderMustExist};
-    };
-    EXPECT_EQ(asks(), (std::array{true, true, true}));
-    dialog.Flags = 2052;
-    outside.ExpectOpen("Save Trabeon File", "");
-    EXPECT_FALSE(dialog.ShowOpen());
-    EXPECT_EQ(dialog.FileName, "/beams/One.TB");
-    EXPECT_EQ(asks(), (std::array{false, false, true}));
 }
 
 }  // namespace

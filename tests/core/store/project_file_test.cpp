@@ -123,6 +123,9 @@ TEST_F(ProjectFile, RefusedOnesNameTheLineAndChangeNothing) {
          "line 3: the project title has 1000000 characters; 32767 are the most"},
         {With(",250,6\r\n", ",250\r\n"),
          "line 18: a row of beam dimensions was expected; a row has 10 fields, this line has 9"},
+        {With(",250,6\r\n", ",250,6,7\r\n"),
+         "line 18: a row of beam dimensions was expected; a row has 10 fields, this line has more "
+         "than 10"},
     };
     for (const auto& [text, sentence] : rows) {
         const auto refusal = Refusal(text);

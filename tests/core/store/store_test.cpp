@@ -1,3 +1,4 @@
+#include <grp.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
@@ -139,6 +140,14 @@ TEST(FileSet, ReplacesNoFileIfOneOfThemFails) {
     ASSERT_TRUE(status.failed());
     EXPECT_NE(status.refusal().sentence.find("TB.txt\" is write-protected"), std::string::npos);
     EXPECT_EQ(folder.read("BM.txt"), "old");
+    folder.protect("TB.txt", false);
+    auto late = FileSet::begin(folder.path());
+    late.add("BM.txt").write("new");
+    late.add("TB.txt").write("new");
+    std::filesystem::remove(folder / "BM.txt");
+    std::filesystem::create_directory(folder / "BM.txt");  // when all are written
+    EXPECT_TRUE(late.commit().failed());
+    EXPECT_EQ(folder.read("TB.txt"), "");
 }
 
 const std::string token = ".0123456789abcdef.new";
@@ -260,6 +269,26 @@ int statusOf(const std::function<void()>& run) {
     int status = 0;
     waitpid(child, &status, 0);
     return status;
+}
+
+TEST(ReplacingFile, AGroupThatCannotBeKeptGetsNoMoreRightsThanEverybody) {
+    if (geteuid() != 0)
+        GTEST_SKIP() << "needs another user";
+    const TemporaryFolder folder;
+    const auto file = folder / "a.TB";
+    folder.write("a.TB", "old");
+    ASSERT_EQ(chown(file.c_str(), 12345, 12345), 0);
+    ASSERT_EQ(chmod(file.c_str(), 0676), 0);
+    ASSERT_EQ(chmod(folder.path().c_str(), 0777), 0);
+    const auto status = statusOf([&] {
+        const bool other = setgroups(0, nullptr) == 0 && setgid(23456) == 0 && setuid(23456) == 0;
+        _exit(other && replaceFile(file, "new").done() ? 0 : 1);
+    });
+    EXPECT_EQ(status, 0);
+    struct stat written {};
+    ASSERT_EQ(stat(file.c_str(), &written), 0);
+    EXPECT_EQ(written.st_uid, 23456U);
+    EXPECT_EQ(written.st_mode & 0777U, 0666U);
 }
 
 TEST(Signals, RemoveWhatWasBeingWrittenAndWaitWhileASetTakesItsPlace) {
