@@ -55,7 +55,6 @@ class LoadForm : public Form {
         ListView1.SetAccessibleName("Loads");
         cmdRemove.Click = [this] { cmdRemove_Click(); };
         cmdReport.Click = [this] { cmdReport_Click(); };
-        offerReport(context, cmdReport);
     }
 
     /// Before the form shows: the members to choose from, and the rows.

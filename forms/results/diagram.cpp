@@ -58,7 +58,6 @@ Diagram::Diagram(Context& context, const char* caption, const DiagramKind& kind,
     cmdReport.SetWidth(1425);
     cmdPlot.Click = [this] { cmdPlot_Click(); };
     cmdReport.Click = [this] { cmdReport_Click(); };
-    offerReport(context, cmdReport);
 }
 
 std::vector<std::string> Diagram::memberItems(const char* blanks) const {
@@ -87,7 +86,8 @@ DiagramCurve Diagram::beamOf(const std::vector<std::size_t>& members) const {
 
 void Diagram::draw(const DiagramCurve& curve, std::size_t count,
                    const std::function<void(std::size_t)>& pointDone) {
-    const bool isA = (context_.forms.InTheBackground<frmOptions>().*kind_.option).Caption() == "Option A";
+    const bool isA =
+        (context_.forms.InTheBackground<frmOptions>().*kind_.option).Caption() == "Option A";
     const double sign = isA ? 1 : -1;
     chart.SetPointCount(pointCountOf(count));
     chart.SetPointIndex(1);  // empties the chart, in case the file has not one row to draw
@@ -107,7 +107,6 @@ void Diagram::draw(const DiagramCurve& curve, std::size_t count,
     }
     std::size_t done = 0;
     for (const auto& point : curve.points) {
-        chart.SetAutoAdvance(false);
         chart.SetPointCount(pointCountOf(count));
         chart.SetPointIndex(pointCountOf(++done));
         chart.SetPointValue(sign * point.value);

@@ -58,7 +58,6 @@ TEST_F(EditorsTogether, NothingOverlapsAndTheListTakesTheRoom) {
 
 TEST_F(EditorsTogether, ControlsFollowTheTabOrderThatWasTold) {
     folder.write("Member.txt", MemberRows(1));
-    context().pasteIntoReport = [] {};
     auto& load = Open<frmUDL>();
     for (Control* control : std::initializer_list<Control*>{
              &load.cboMember, &load.txtUdlA, &load.txtUDLB, &load.txtUDLw1, &load.txtUDLw2,

@@ -13,11 +13,11 @@
 #include "toolkit/controls/label.h"
 #include "toolkit/controls/list_box.h"
 #include "toolkit/controls/option_button.h"
+#include "toolkit/controls/picture_view.h"
 #include "toolkit/controls/progress_bar.h"
 #include "toolkit/controls/text_box.h"
 #include "toolkit/controls/text_table.h"
 #include "toolkit/controls/vertical_button.h"
-#include "toolkit/controls/web_browser.h"
 #include "toolkit/outside/common_dialog.h"
 
 namespace trabeon {
@@ -93,8 +93,6 @@ TEST_F(ControlsTest, ComboBoxClicksForEveryChoiceAlsoTheSameOne) {
     QTest::keyClick(inner->view(), Qt::Key_Return);  // the same entry again
     Settle();
     expect(0, 4);
-    combo.Clear();
-    expect(-1, 4);
 }
 
 TEST_F(ControlsTest, ListBoxClicksForEachSelectionByCodeAndForEachUsersClick) {
@@ -128,8 +126,6 @@ TEST_F(ControlsTest, ListBoxClicksForEachSelectionByCodeAndForEachUsersClick) {
     list.AddItem("Member  3");
     list.SetSelection({true, false, true});
     expect("x-x", 7);
-    list.Clear();
-    expect("", 7);
 }
 
 TEST_F(ControlsTest, TheWheelPassesByAClosedComboBox) {
@@ -197,7 +193,7 @@ TEST_F(ControlsTest, ALabelsAccessKeyLeadsToItsBuddyAndNamesIt) {
 }
 
 TEST_F(ControlsTest, AClickIntoThePictureViewTakesTheFocus) {
-    WebBrowser view(Bench());
+    PictureView view(Bench());
     int focused = 0;
     view.GotFocus = Count(focused);
     Click(view);
