@@ -118,7 +118,7 @@ std::string reactionCheck(const Analysis& analysis) {
     const auto figures = "Reactions add up to " + figure(sum) + ", loads to " + figure(loads);
     if (std::fabs(sum - loads) <= 1e-9 * largest)
         return figures + ": they agree.\n";
-    return figures + ": they differ. Look at the loads.\n";
+    return figures + ": they differ. Check the loads.\n";
 }
 
 std::string resultTables(const Analysis& analysis) {

@@ -40,7 +40,7 @@ std::string usageOf(const CommandForm& form) {
 std::string helpText(const std::vector<CommandForm>& commands) {
     std::string text =
         "Analyses continuous beams by Hardy Cross moment distribution and designs their\n"
-        "reinforced concrete sections to BS 8110, without a window.\n";
+        "reinforced concrete sections to BS 8110. Needs no display.\n";
     for (const auto& form : commands)
         text += "\n" + usageOf(form) + "\n    " + std::string(form.purpose) +
                 "\n    Example: " + std::string(form.example) + "\n";
@@ -50,10 +50,11 @@ std::string helpText(const std::vector<CommandForm>& commands) {
            "--cover MM       concrete cover (default 25)\n"
            "--link MM        assumed size of the links (default 10)\n"
            "--aggregate MM   largest size of the aggregate (default 0)\n"
-           "--no-restrict    spans over 10 m keep their basic span to depth ratio\n"
-           "\nExit code: 0 done; 1 refused, or done with a section that failed in shear or with results\n"
-           "of an earlier state (standard error says why);\n"
-           "2 wrong usage.\n";
+           "--no-restrict    do not reduce the span to depth ratio of spans over 10 m\n"
+           "\nExit code: 0 done\n"
+           "           1 refused; or done, but a section fails in shear or a table is outdated\n"
+           "             (standard error gives the reason)\n"
+           "           2 wrong command line\n";
 }
 
 std::optional<std::string> CommandLine::option(std::string_view name) const {
@@ -63,15 +64,15 @@ std::optional<std::string> CommandLine::option(std::string_view name) const {
     return std::nullopt;
 }
 
-Failure CommandLine::readNumber(std::string_view name, double& value) const {
+Status CommandLine::readNumber(std::string_view name, double& value) const {
     const auto text = option(name);
     if (!text)
-        return std::nullopt;
+        return {};
     const auto number = numberOfWholeText(*text);
     if (!number)
         return Refusal{std::string(name) + " takes a number, not \"" + excerpt(*text) + "\"."};
     value = *number;
-    return std::nullopt;
+    return {};
 }
 
 Outcome<CommandLine> readCommandLine(const std::vector<std::string>& words,

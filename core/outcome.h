@@ -1,4 +1,4 @@
-// What an operation answers that may well fail.
+// The results of operations and checks that can fail.
 #pragma once
 
 #include <optional>
@@ -8,20 +8,36 @@
 
 namespace trabeon {
 
-/// Why something was not done: one sentence for the user that names the thing and the cure.
+/// Why something was not done: one sentence for the user that names the problem and the solution.
 struct Refusal {
     std::string sentence;
 };
 
-/// Nothing when all went well.
-using Failure = std::optional<Refusal>;
+/// What a check found: the reason to refuse, or nothing.
+using Objection = std::optional<Refusal>;
 
-/// The value asked for, or why there is none.
+/// The result of an operation that gives no value: it was done, or it failed for a reason.
+class [[nodiscard]] Status {
+  public:
+    Status() = default;                                                // done
+    Status(Refusal refusal) : objection_(std::move(refusal)) {}        // NOLINT: implicit
+    Status(Objection objection) : objection_(std::move(objection)) {}  // NOLINT: implicit
+
+    [[nodiscard]] bool done() const { return !failed(); }
+    [[nodiscard]] bool failed() const { return objection_.has_value(); }
+    /// The reason. Call it only after a failure.
+    [[nodiscard]] const Refusal& refusal() const { return *objection_; }
+
+  private:
+    Objection objection_;
+};
+
+/// The result of an operation that returns a value: the value, or the reason why there is none.
 template <class Value>
 class [[nodiscard]] Outcome {
   public:
-    Outcome(Value value) : content_(std::move(value)) {}        // NOLINT: a value is an outcome
-    Outcome(Refusal refusal) : content_(std::move(refusal)) {}  // NOLINT: and so is a refusal
+    Outcome(Value value) : content_(std::move(value)) {}        // NOLINT: implicit
+    Outcome(Refusal refusal) : content_(std::move(refusal)) {}  // NOLINT: implicit
 
     explicit operator bool() const { return content_.index() == 0; }
     Value& operator*() { return std::get<0>(content_); }

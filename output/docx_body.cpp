@@ -2,26 +2,17 @@
 
 #include <QFontMetricsF>
 #include <QHash>
-#include <QXmlStreamWriter>
 #include <algorithm>
-#include <cmath>
 
 #include "core/text/readable.h"
+#include "output/docx_pictures.h"
+#include "output/docx_xml.h"
 #include "output/table_layout.h"
 
 namespace trabeon {
 namespace {
 
-constexpr double twipsPerPoint = 20;
-constexpr double emuPerPoint = 12700;
-constexpr double gapBetweenPictures = 6;  // points
-constexpr double roomForTitles = 60;      // points of a page that a picture leaves to its title
-
-QString whole(double value) {
-    return QString::number(std::llround(value));
-}
-
-/// Widths of texts, each measured once.
+/// Measures the widths of texts in type of 1 point. Keeps each result.
 class Measure {
   public:
     double operator()(const std::string& text, const TextStyle& style) {
@@ -40,41 +31,37 @@ class Measure {
     QHash<QString, double> plain_, bold_;
 };
 
+bool hasText(const Block& block) {
+    const auto* paragraph = std::get_if<Paragraph>(&block);
+    return paragraph != nullptr && !paragraph->runs.empty();
+}
+
+QString pointsAsTwips(double points) {
+    return whole(points * twipsPerPoint);
+}
+
 class Body {
   public:
-    explicit Body(const Document& document) : document_(document), xml_(&bytes_) {}
+    explicit Body(const Document& document) : document_(document), xml_(bytes_) {}
 
     QByteArray made() {
-        xml_.writeStartDocument("1.0", true);
-        begin("document");
-        for (const auto& [prefix, name] : {std::pair{"w", "wordprocessingml/2006/main"},
-                                           {"r", "officeDocument/2006/relationships"},
-                                           {"wp", "drawingml/2006/wordprocessingDrawing"},
-                                           {"a", "drawingml/2006/main"},
-                                           {"pic", "drawingml/2006/picture"}})
-            xml_.writeAttribute(QString("xmlns:") + prefix,
-                                QString("http://schemas.openxmlformats.org/") + name);
-        begin("body");
-        for (std::size_t i = 0; i < document_.blocks.size(); ++i)
-            block(i);
-        section();
-        xml_.writeEndDocument();
+        {
+            const QString schemas = "http://schemas.openxmlformats.org/";
+            const auto root = xml_.element(
+                "w:document", {{"xmlns:w", schemas + "wordprocessingml/2006/main"},
+                               {"xmlns:r", schemas + "officeDocument/2006/relationships"},
+                               {"xmlns:wp", schemas + "drawingml/2006/wordprocessingDrawing"},
+                               {"xmlns:a", schemas + "drawingml/2006/main"},
+                               {"xmlns:pic", schemas + "drawingml/2006/picture"}});
+            const auto body = xml_.element("w:body");
+            for (std::size_t i = 0; i < document_.blocks.size(); ++i)
+                block(i);
+            section();
+        }
         return bytes_;
     }
 
   private:
-    void begin(const char* name) { xml_.writeStartElement(QString("w:") + name); }
-    void end() { xml_.writeEndElement(); }
-    void value(const char* name, const QString& value) {
-        begin(name);
-        attribute("val", value);
-        end();
-    }
-    void flag(const char* name) { xml_.writeEmptyElement(QString("w:") + name); }
-    void attribute(const char* name, const QString& value) {
-        xml_.writeAttribute(QString("w:") + name, value);
-    }
-
     [[nodiscard]] double pageWidth() const {
         return document_.page.width - document_.page.left - document_.page.right;
     }
@@ -89,7 +76,8 @@ class Body {
             write(std::get<Paragraph>(document_.blocks[i]), isTitle(i));
     }
 
-    /// Text outside of tables is a title: it, and the empty line below it, stay with what follows.
+    /// Text outside of tables is a title. It and the empty line below it stay on the page of the
+    /// next block.
     [[nodiscard]] bool isTitle(std::size_t i) const {
         const auto* paragraph = std::get_if<Paragraph>(&document_.blocks[i]);
         if (paragraph == nullptr || !paragraph->pictures.empty())
@@ -97,257 +85,140 @@ class Body {
         return !paragraph->runs.empty() || (i > 0 && hasText(document_.blocks[i - 1]));
     }
 
-    static bool hasText(const Block& block) {
-        const auto* paragraph = std::get_if<Paragraph>(&block);
-        return paragraph != nullptr && !paragraph->runs.empty();
-    }
-
     void write(const Paragraph& paragraph, bool isTitle) {
-        begin("p");
-        begin("pPr");
-        if (isTitle)
-            flag("keepNext");
-        if (!paragraph.pictures.empty())
-            tabStops(paragraph);
-        end();
+        const auto written = xml_.element("w:p");
+        const auto places = placePictures(paragraph, pageWidth(), pageHeight());
+        {
+            const auto properties = xml_.element("w:pPr");
+            if (isTitle)
+                xml_.empty("w:keepNext");
+            if (!places.empty())
+                tabStops(places);
+        }
         for (const auto& run : paragraph.runs)
             write(run, run.style.points);
-        if (!paragraph.pictures.empty())
-            pictures(paragraph);
-        end();
+        for (const auto& place : places) {
+            const auto run = xml_.element("w:r");
+            if (place.left > 0)
+                xml_.empty("w:tab");
+            writePicture(xml_, place, ++pictures_);
+        }
+    }
+
+    void tabStops(const std::vector<PlacedPicture>& places) {
+        const auto tabs = xml_.element("w:tabs");
+        for (const auto& place : places)
+            xml_.empty("w:tab", {{"w:val", "left"}, {"w:pos", pointsAsTwips(place.left)}});
     }
 
     void write(const TextRun& run, double points) {
-        begin("r");
-        begin("rPr");
-        begin("rFonts");
-        for (const char* script : {"ascii", "hAnsi", "cs"})
-            attribute(script, QString::fromStdString(run.style.face));
-        end();
-        if (run.style.bold)
-            flag("b");
-        value("sz", whole(points * 2));
-        if (run.style.underline)
-            value("u", "single");
-        end();
-        begin("t");
-        xml_.writeAttribute("xml:space", "preserve");
-        xml_.writeCharacters(QString::fromStdString(readable(run.text)));
-        end();
-        end();
-    }
-
-    struct Placed {
-        double left, width, height;
-    };
-
-    /// Side by side as wanted, without running into each other, and small enough for the page.
-    [[nodiscard]] std::vector<Placed> placed(const Paragraph& paragraph) const {
-        std::vector<Placed> places;
-        double right = -gapBetweenPictures, tallest = 0;
-        for (const auto& picture : paragraph.pictures) {
-            const double left = std::max(picture.left, right + gapBetweenPictures);
-            places.push_back({left, picture.width, picture.height});
-            right = left + picture.width;
-            tallest = std::max(tallest, picture.height);
+        const auto written = xml_.element("w:r");
+        {
+            const auto properties = xml_.element("w:rPr");
+            const auto face = QString::fromStdString(run.style.face);
+            xml_.empty("w:rFonts", {{"w:ascii", face}, {"w:hAnsi", face}, {"w:cs", face}});
+            if (run.style.bold)
+                xml_.empty("w:b");
+            fontSize(points);
+            if (run.style.underline)
+                xml_.empty("w:u", {{"w:val", "single"}});
         }
-        const double scale =
-            std::min({1.0, pageWidth() / right, (pageHeight() - roomForTitles) / tallest});
-        for (auto& place : places)
-            place = {place.left * scale, place.width * scale, place.height * scale};
-        return places;
+        const auto text = xml_.element("w:t", {{"xml:space", "preserve"}});
+        xml_.characters(QString::fromStdString(readable(run.text)));
     }
 
-    void tabStops(const Paragraph& paragraph) {
-        begin("tabs");
-        for (const auto& place : placed(paragraph)) {
-            begin("tab");
-            attribute("val", "left");
-            attribute("pos", whole(place.left * twipsPerPoint));
-            end();
-        }
-        end();
-    }
-
-    void pictures(const Paragraph& paragraph) {
-        const auto places = placed(paragraph);
-        for (std::size_t i = 0; i < places.size(); ++i) {
-            begin("r");
-            if (places[i].left > 0)
-                flag("tab");
-            picture(places[i], QString::number(++picture_));
-            end();
-        }
-    }
-
-    void drawing(const char* name) { xml_.writeStartElement(name); }
-    void named(const char* element, const QString& number) {
-        drawing(element);
-        xml_.writeAttribute("id", number);
-        xml_.writeAttribute("name", "Picture " + number);
-        xml_.writeAttribute("descr", "Diagram");
-        end();
-    }
-    void sized(const char* element, const Placed& place) {
-        drawing(element);
-        xml_.writeAttribute("cx", whole(place.width * emuPerPoint));
-        xml_.writeAttribute("cy", whole(place.height * emuPerPoint));
-        end();
-    }
-
-    void picture(const Placed& place, const QString& number) {
-        begin("drawing");
-        drawing("wp:inline");
-        sized("wp:extent", place);
-        named("wp:docPr", number);
-        drawing("a:graphic");
-        drawing("a:graphicData");
-        xml_.writeAttribute("uri", "http://schemas.openxmlformats.org/drawingml/2006/picture");
-        drawing("pic:pic");
-        drawing("pic:nvPicPr");
-        named("pic:cNvPr", number);
-        xml_.writeEmptyElement("pic:cNvPicPr");
-        end();
-        drawing("pic:blipFill");
-        drawing("a:blip");
-        xml_.writeAttribute("r:embed", "picture" + number);
-        end();
-        drawing("a:stretch");
-        xml_.writeEmptyElement("a:fillRect");
-        end();
-        end();
-        shape(place);
-        for (const char* opened : {"pic:pic", "a:graphicData", "a:graphic", "wp:inline", "drawing"})
-            static_cast<void>(opened), end();
-    }
-
-    void shape(const Placed& place) {
-        drawing("pic:spPr");
-        drawing("a:xfrm");
-        drawing("a:off");
-        xml_.writeAttribute("x", "0");
-        xml_.writeAttribute("y", "0");
-        end();
-        sized("a:ext", place);
-        end();
-        drawing("a:prstGeom");
-        xml_.writeAttribute("prst", "rect");
-        xml_.writeEmptyElement("a:avLst");
-        end();
-        end();
-    }
+    void fontSize(double points) { xml_.empty("w:sz", {{"w:val", whole(points * 2)}}); }
 
     void write(const DocumentTable& table) {
         const auto layout = layOut(table, pageWidth(), std::ref(measure_));
         for (std::size_t i = 0; i < layout.strips.size(); ++i) {
             if (i > 0)
-                write(Paragraph{}, false);  // two tables that touch would become one
+                write(Paragraph{}, false);  // a word processor would join adjacent tables
             strip(table, layout.strips[i], layout.points);
         }
     }
 
     void strip(const DocumentTable& table, const TableStrip& strip, double points) {
-        begin("tbl");
-        tableProperties(strip);
+        const auto written = xml_.element("w:tbl");
+        tableProperties();
+        tableGrid(strip);
         for (std::size_t r = 0; r < table.rows.size(); ++r) {
-            begin("tr");
+            const auto row = xml_.element("w:tr");
             if (r == 0 && table.headed) {
-                begin("trPr");
-                flag("tblHeader");
-                end();
+                const auto properties = xml_.element("w:trPr");
+                xml_.empty("w:tblHeader");
             }
             for (std::size_t c = 0; c < strip.columns.size(); ++c)
                 cell(table.rows[r][strip.columns[c]], strip.widths[c], points);
-            end();
         }
-        end();
     }
 
-    void tableProperties(const TableStrip& strip) {
-        begin("tblPr");
-        begin("tblBorders");
-        for (const char* side : {"top", "left", "bottom", "right", "insideH", "insideV"}) {
-            begin(side);
-            attribute("val", "single");
-            attribute("sz", "4");
-            attribute("space", "0");
-            attribute("color", "808080");
-            end();
+    void tableProperties() {
+        const auto properties = xml_.element("w:tblPr");
+        {
+            const auto borders = xml_.element("w:tblBorders");
+            for (const char* side :
+                 {"w:top", "w:left", "w:bottom", "w:right", "w:insideH", "w:insideV"})
+                xml_.empty(
+                    side,
+                    {{"w:val", "single"}, {"w:sz", "4"}, {"w:space", "0"}, {"w:color", "808080"}});
         }
-        end();
-        begin("tblLayout");
-        attribute("type", "fixed");
-        end();
-        begin("tblCellMar");
-        for (const char* side : {"left", "right"})
+        xml_.empty("w:tblLayout", {{"w:type", "fixed"}});
+        const auto margins = xml_.element("w:tblCellMar");
+        for (const char* side : {"w:left", "w:right"})
             width(side, cellMargin);
-        end();
-        end();
-        begin("tblGrid");
-        for (const double each : strip.widths) {
-            begin("gridCol");
-            attribute("w", whole(each * twipsPerPoint));
-            end();
-        }
-        end();
+    }
+
+    void tableGrid(const TableStrip& strip) {
+        const auto grid = xml_.element("w:tblGrid");
+        for (const double each : strip.widths)
+            xml_.empty("w:gridCol", {{"w:w", pointsAsTwips(each)}});
     }
 
     void width(const char* element, double points) {
-        begin(element);
-        attribute("w", whole(points * twipsPerPoint));
-        attribute("type", "dxa");
-        end();
+        xml_.empty(element, {{"w:w", pointsAsTwips(points)}, {"w:type", "dxa"}});
     }
 
     void cell(const Cell& cell, double cellWidth, double points) {
-        begin("tc");
-        begin("tcPr");
-        width("tcW", cellWidth);
-        end();
-        begin("p");
+        const auto written = xml_.element("w:tc");
+        {
+            const auto properties = xml_.element("w:tcPr");
+            width("w:tcW", cellWidth);
+        }
+        const auto paragraph = xml_.element("w:p");
         if (cell.empty())
-            markOf(points);
+            emptyCell(points);
         for (const auto& run : cell)
             write(run, std::min(run.style.points, points));
-        end();
-        end();
     }
 
-    /// The paragraph's end, which alone makes an empty cell as high as it is.
-    void markOf(double points) {
-        begin("pPr");
-        begin("rPr");
-        value("sz", whole(points * 2));
-        end();
-        end();
+    /// Sets the type size of the paragraph mark. It alone sets the height of an empty cell.
+    void emptyCell(double points) {
+        const auto paragraph = xml_.element("w:pPr");
+        const auto mark = xml_.element("w:rPr");
+        fontSize(points);
     }
 
     void section() {
         const PageSetup& page = document_.page;
-        begin("sectPr");
-        begin("pgSz");
-        attribute("w", whole(page.width * twipsPerPoint));
-        attribute("h", whole(page.height * twipsPerPoint));
-        attribute("orient", "landscape");
-        end();
-        begin("pgMar");
-        for (const auto& [name, measure] : {std::pair{"top", page.top},
-                                            {"right", page.right},
-                                            {"bottom", page.bottom},
-                                            {"left", page.left},
-                                            {"header", 36.0},
-                                            {"footer", 36.0},
-                                            {"gutter", 0.0}})
-            attribute(name, whole(measure * twipsPerPoint));
-        end();
-        end();
+        const auto properties = xml_.element("w:sectPr");
+        xml_.empty("w:pgSz", {{"w:w", pointsAsTwips(page.width)},
+                              {"w:h", pointsAsTwips(page.height)},
+                              {"w:orient", "landscape"}});
+        xml_.empty("w:pgMar", {{"w:top", pointsAsTwips(page.top)},
+                               {"w:right", pointsAsTwips(page.right)},
+                               {"w:bottom", pointsAsTwips(page.bottom)},
+                               {"w:left", pointsAsTwips(page.left)},
+                               {"w:header", pointsAsTwips(36)},
+                               {"w:footer", pointsAsTwips(36)},
+                               {"w:gutter", "0"}});
     }
 
     const Document& document_;
     QByteArray bytes_;
-    QXmlStreamWriter xml_;
+    DocxXml xml_;
     Measure measure_;
-    int picture_ = 0;
+    int pictures_ = 0;
 };
 
 }  // namespace

@@ -30,15 +30,16 @@ void writeTable(const FileTable& file, OutputWriter& writer, const std::string& 
     writer.table(file);
 }
 
-Failure writeBalanceTable(const OutputSource& source, OutputWriter& writer) {
+Status writeBalanceTable(const OutputSource& source, OutputWriter& writer) {
     const int columns = balanceTableColumns(readRows<JointRow>(source.folder).size());
     const auto table = readWhole(source.folder / working_file::balanceTable);
-    if (auto failure =
-            replaceFile(source.folder / balanceTableScratch, balanceTableFields(table, columns)))
-        return failure;
+    if (const auto status =
+            replaceFile(source.folder / balanceTableScratch, balanceTableFields(table, columns));
+        status.failed())
+        return status;
     writeTitle("Trabeon", source.remarks.table, writer);
     writer.balanceTable(columns);
-    return std::nullopt;
+    return {};
 }
 
 void writeDiagrams(ChartForms& charts, OutputWriter& writer) {
@@ -78,19 +79,20 @@ void writeInput(const OutputKinds& kinds, OutputWriter& writer) {
 
 }  // namespace
 
-OutputEnd writeProject(const OutputSource& source, const OutputKinds& kinds, OutputWriter& writer) {
+Outcome<Extent> writeProject(const OutputSource& source, const OutputKinds& kinds,
+                             OutputWriter& writer) {
     writer.begin();
     writer.title("TRABEON (" + readable(source.title.project) + ") by " +
                  readable(source.title.designer));
     writer.title(source.title.beamName);
     writeInput(kinds, writer);
     if (kinds.table)
-        if (const auto failure = writeBalanceTable(source, writer))
-            return {false, failure->sentence};
+        if (const auto status = writeBalanceTable(source, writer); status.failed())
+            return status.refusal();
     if (kinds.values) {
         writeTitle("Bending Moment & Shear Force Values", source.remarks.stations, writer);
         if (!writer.values())
-            return {false};
+            return Extent::part;
     }
     if (kinds.dimensions)
         writeTable(dimensions, writer);
@@ -100,7 +102,7 @@ OutputEnd writeProject(const OutputSource& source, const OutputKinds& kinds, Out
         writeDiagrams(source.charts, writer);
     if (kinds.continuous)
         writeContinuous(source.charts, writer);
-    return {};
+    return Extent::whole;
 }
 
 int balanceTableColumns(std::size_t joints) {

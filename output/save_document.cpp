@@ -10,18 +10,18 @@ namespace trabeon {
 
 namespace {
 
-/// False: the user has been told why not.
+/// Returns false if the file could not be written, after a message.
 bool saved(const Document& document, const std::string& file) {
     const WaitCursor wait;
-    const auto failure = writeDocument(document, file);
-    if (failure)
-        warn(failure->sentence);
-    return !failure;
+    const auto status = writeDocument(document, file);
+    if (status.failed())
+        warn(status.refusal().sentence);
+    return status.done();
 }
 
 }  // namespace
 
-Failure writeDocument(const Document& document, const std::filesystem::path& file) {
+Status writeDocument(const Document& document, const std::filesystem::path& file) {
     const auto bytes = docxBytes(document);
     if (!bytes)
         return bytes.refusal();

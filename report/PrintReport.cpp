@@ -8,25 +8,25 @@
 namespace trabeon {
 namespace {
 
-std::string troubleOf(const std::string& file) {
+Refusal unprinted(const std::string& file) {
     if (file.empty())
-        return "The report could not be printed. See to the printer, then try again.";
-    return "The report could not be printed to \"" + file +
-           "\". Choose another file, then try again.";
+        return {"The report could not be printed. Check the printer, then try again."};
+    return {"The report could not be printed to \"" + file +
+            "\". Choose another file, then try again."};
 }
 
 }  // namespace
 
-PrintEnd PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, int rightMargin,
-                     int bottomMargin) {
+Outcome<PrintEnd> PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, int rightMargin,
+                              int bottomMargin) {
     const auto printer = Printer::Open("Trabeon Report");
     if (!printer)
-        return {};
+        return PrintEnd::cancelled;
     const WaitCursor wait;
     const Paper& sheet = printer->Sheet();
     PageFormat format;
     format.page = {0, 0, sheet.ScaleWidth, sheet.ScaleHeight};
-    // The canvas begins where the printer can print: the margins count from the sheet's edge.
+    // The canvas starts at the printable area, but the margins count from the edge of the sheet.
     format.drawing = {leftMargin - sheet.OffsetX, topMargin - sheet.OffsetY,
                       sheet.Width - rightMargin - sheet.OffsetX,
                       sheet.Height - bottomMargin - sheet.OffsetY};
@@ -38,12 +38,12 @@ PrintEnd PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, int rightM
     });
     RTB.ReleasePages();
     if (!printer->EndDoc() || !printing)
-        return {false, troubleOf(printer->File())};
+        return unprinted(printer->File());
     if (!pages.whole)
-        return {true, "The print ends with page " + std::to_string(pages.starts.size()) +
-                          ": what follows could not be laid out. Cut it out of the report, then "
-                          "print again."};
-    return {true};
+        return Refusal{"The print ends with page " + std::to_string(pages.starts.size()) +
+                       ", because the rest could not be laid out. Cut the rest out of the report, "
+                       "then print again."};
+    return PrintEnd::printed;
 }
 
 }  // namespace trabeon

@@ -1,19 +1,17 @@
-// The report on paper.
+// Prints the report.
 #pragma once
 
-#include <string>
+#include "core/outcome.h"
 
 namespace trabeon {
 
 class RichTextBox;
 
-struct PrintEnd {
-    bool printed = false;      // false without a trouble: the user drew back
-    std::string trouble = {};  // a sentence for the user
-};
+enum class PrintEnd { printed, cancelled };
 
-/// Prints the whole text. The margins are twips from the edge of the sheet.
-[[nodiscard]] PrintEnd PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, int rightMargin,
-                                   int bottomMargin);
+/// Prints the report. The margins are in twips from the edge of the sheet. Refuses if the print
+/// fails, or if only a part of the text could be laid out. This part is then printed.
+[[nodiscard]] Outcome<PrintEnd> PrintReport(RichTextBox& RTB, int leftMargin, int topMargin,
+                                            int rightMargin, int bottomMargin);
 
 }  // namespace trabeon

@@ -137,7 +137,7 @@ void writeMaxima(ReplacingFile& file, const Analysis& analysis) {
 std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
                                       const AnalysisSettings& settings,
                                       const AnalysisOutputs& outputs) {
-    FileSet files(folder);
+    auto files = FileSet::begin(folder);
     std::optional<BalanceTableWriter> table;
     const auto writeRow = [&](const TableRow& row) {
         if (!table)
@@ -163,8 +163,8 @@ std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
     writeLoads(files, folder, analysis->udls, udls);
     writeRecord(files, folder, {before, fingerprint({joints, members, points, udls})},
                 inputOf(joints, *analysis), settings.Divisions);
-    if (const auto failure = files.commit()) {
-        outputs.refuse(*failure);
+    if (const auto status = files.commit(); status.failed()) {
+        outputs.refuse(status.refusal());
         return std::nullopt;
     }
     return analysis;

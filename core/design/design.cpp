@@ -123,18 +123,18 @@ BeamDesign designBeam(const DesignData& data, const MiscProperties& misc) {
     return design;
 }
 
-Failure unfitForDesign(double Divisions, const MiscProperties& misc) {
-    if (auto failure = unfitDivisions(Divisions))
-        return failure;
+Objection unfitForDesign(double Divisions, const MiscProperties& misc) {
+    if (const auto objection = unfitDivisions(Divisions))
+        return objection;
     if (!areFinite({misc.cover, misc.links, misc.hagg}))
         return Refusal{
             "Cover, link size and aggregate size must be numbers of mm; one of them is too large."};
     return std::nullopt;
 }
 
-Failure writeDesign(const std::filesystem::path& folder, const BeamDesign& design, double Divisions,
-                    const MiscProperties& misc) {
-    FileSet files(folder);
+Status writeDesign(const std::filesystem::path& folder, const BeamDesign& design, double Divisions,
+                   const MiscProperties& misc) {
+    auto files = FileSet::begin(folder);
     files.add(DesignRow::file).write(textOf(design.rows, Description::bare));
     auto record = readRecord(folder);
     record.design = designFingerprint(folder, Divisions, misc);
@@ -143,25 +143,25 @@ Failure writeDesign(const std::filesystem::path& folder, const BeamDesign& desig
 }
 
 std::string_view remarkOnDesign(const std::filesystem::path& folder, double Divisions,
-                                const MiscProperties& misc, Unrecorded unrecorded) {
+                                const MiscProperties& misc) {
     const auto state = resultState(folder / DesignRow::file, readRecord(folder).design,
                                    designFingerprint(folder, Divisions, misc));
     if (state == ResultState::absent)
         return "";
-    const auto onStations = remarkOn(stationsState(folder, Divisions), unrecorded);
-    return onStations.empty() ? remarkOn(state, unrecorded, designAgain) : onStations;
+    const auto onStations = remarkOn(stationsState(folder, Divisions));
+    return onStations.empty() ? remarkOn(state, designAgain) : onStations;
 }
 
 Outcome<BeamDesign> designFolder(const std::filesystem::path& folder, double Divisions,
                                  const MiscProperties& misc) {
-    if (auto failure = unfitForDesign(Divisions, misc))
-        return *failure;
+    if (const auto objection = unfitForDesign(Divisions, misc))
+        return *objection;
     const auto data = readDesignData(folder, Divisions);
     if (!data)
         return data.refusal();
     auto design = designBeam(*data, misc);
-    if (auto failure = writeDesign(folder, design, Divisions, misc))
-        return *failure;
+    if (const auto status = writeDesign(folder, design, Divisions, misc); status.failed())
+        return status.refusal();
     return design;
 }
 

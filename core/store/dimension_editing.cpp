@@ -12,7 +12,7 @@ namespace {
 
 using Rows = std::vector<BeamDimensionRow>;
 
-/// Rows as they are read after they were written to a file.
+/// The rows as a file would give them back after writing.
 Rows asRead(const Rows& rows) {
     return rowsOf<BeamDimensionRow>(textOf(rows, Description::quoted));
 }
@@ -41,9 +41,8 @@ Rows inOrder(const Rows& rows, const BeamExtent& extent) {
 
 }  // namespace
 
-Failure addDimensions(const std::filesystem::path& folder, std::size_t position,
-                      BeamDimensionRow row, SectionRange sections,
-                      std::optional<BeamExtent> order) {
+Status addDimensions(const std::filesystem::path& folder, std::size_t position,
+                     BeamDimensionRow row, SectionRange sections, std::optional<BeamExtent> order) {
     auto found = rowsToChange<BeamDimensionRow>(folder);
     if (!found)
         return found.refusal();

@@ -200,7 +200,7 @@ void recordRowsAsPacked(const std::filesystem::path& folder) {
     static_cast<void>(replaceFile(folder / working_file::record, textOf(record)));
 }
 
-Failure holdsOtherRows(const std::filesystem::path& folder) {
+Objection holdsOtherRows(const std::filesystem::path& folder) {
     constexpr std::array names{working_file::joint,          working_file::member,
                                working_file::point,          working_file::udl,
                                working_file::beamDimensions, working_file::record};
@@ -219,7 +219,7 @@ Failure holdsOtherRows(const std::filesystem::path& folder) {
     if (changed.empty())
         return std::nullopt;
     return Refusal{"The folder \"" + folder.string() + "\" contains rows (" + changed +
-                   ") that do not come from a project file or were changed since. Name another "
+                   ") that are not from a project file or have changed since. Choose another "
                    "folder, or save these rows first (trabeon-batch pack); nothing was changed."};
 }
 

@@ -5,20 +5,20 @@
 
 namespace trabeon {
 
-Failure CreateNFile(const std::filesystem::path& folder) {
-    FileSet files(folder);
+Status CreateNFile(const std::filesystem::path& folder) {
+    auto files = FileSet::begin(folder);
     for (const auto name : projectFiles)
         files.add(name);
-    if (auto failure = files.commit())
-        return failure;
+    if (const auto status = files.commit(); status.failed())
+        return status;
     MurderFile(folder / working_file::title);
     MurderFile(folder / working_file::record);
     for (const auto name : projectFiles)
         if (const auto text = readFile(folder / name); !text || !text->empty())
             return Refusal{'"' + (folder / name).string() +
-                           "\" cannot be emptied. It still holds rows of another project; move it "
+                           "\" cannot be emptied. It contains rows of another project; move it "
                            "away, then try again."};
-    return std::nullopt;
+    return {};
 }
 
 }  // namespace trabeon

@@ -40,27 +40,30 @@ bool isDocument(const fs::path& file) {
 
 Refusal taken(const fs::path& file, std::string_view kind) {
     return {"\"" + file.string() + "\" already exists and is not a " + std::string(kind) +
-            ". Name another file; nothing was changed."};
+            ". Choose another file; nothing was changed."};
 }
 
 }  // namespace
 
-Failure unfitDocumentFile(const fs::path& file, const fs::path& project) {
+Objection unfitDocumentFile(const fs::path& file, const fs::path& project) {
     std::error_code missing;
     if (fs::equivalent(file, project, missing))
-        return Refusal{"\"" + file.string() +
-                       "\" is the project itself. Name another file for the document; nothing was "
-                       "changed."};
+        return Refusal{
+            "\"" + file.string() +
+            "\" is the project itself. Choose another file for the document; nothing was "
+            "changed."};
     if (isFree(file) || isDocument(file))
         return std::nullopt;
     return taken(file, "document (.docx)");
 }
 
-Failure unfitProjectFile(const fs::path& file) {
+Objection unfitProjectFile(const fs::path& file) {
     const bool isProject = isFree(file) || begins(file, projectStart) ||
                            begins(file, std::string(byteOrderMark) + std::string(projectStart)) ||
                            readProject(file);
-    return isProject ? Failure() : taken(file, "project file");
+    if (isProject)
+        return std::nullopt;
+    return taken(file, "project file");
 }
 
 fs::path resultFolder(const fs::path& project) {

@@ -164,7 +164,7 @@ class Unpacker {
     }
 
     FieldReader reader_;
-    Failure wrong_;
+    Objection wrong_;
 };
 
 /// The working files of a project, and the members that have their texts.
@@ -177,11 +177,11 @@ constexpr std::array<std::pair<std::string_view, std::string Project::*>, 6> pac
     {working_file::beamDimensions, &Project::beamDimensions},
 }};
 
-Failure unfitTitle(std::string_view text) {
+Objection unfitTitle(std::string_view text) {
     const auto quoted = "The title text \"" + excerpt(text) + "\" ";
     if (text.find_first_of("\"\r\n") != text.npos)
         return Refusal{quoted +
-                       "holds a double quote or a line end. Take it out, then save again."};
+                       "contains a double quote or a line end. Remove it, then save again."};
     if (const auto length = tooLong(text); !length.empty())
         return Refusal{quoted + "has " + length + ". Shorten it, then save again."};
     return std::nullopt;
@@ -210,7 +210,7 @@ Outcome<std::string> projectText(const std::filesystem::path& file) {
 Outcome<Project> checkedProject(std::string_view text, const std::filesystem::path& file) {
     auto project = unpackedProject(text);
     if (!project)
-        return Refusal{"\"" + file.string() + "\" is not a whole project file: " +
+        return Refusal{"\"" + file.string() + "\" is not a complete project file: " +
                        project.refusal().sentence + ". Correct that line; nothing was changed."};
     return project;
 }
@@ -228,8 +228,8 @@ Outcome<Project> readProject(const std::filesystem::path& file) {
     return checkedProject(*text, file);
 }
 
-Failure writeWorkingFiles(const Project& project, const std::filesystem::path& folder) {
-    FileSet files(folder);
+Status writeWorkingFiles(const Project& project, const std::filesystem::path& folder) {
+    auto files = FileSet::begin(folder);
     for (const auto& [name, text] : packedFiles)
         files.add(name).write(project.*text);
     files.add(working_file::title).write(titleLines(project.title));
@@ -238,7 +238,7 @@ Failure writeWorkingFiles(const Project& project, const std::filesystem::path& f
         fingerprint({project.joints, project.members, project.points, project.udls});
     record.unpackedDimensions = fingerprint(project.beamDimensions);
     record.table.reset();
-    if (!project.balanceTable.empty())  // it comes with the project, and is taken as its own
+    if (!project.balanceTable.empty())  // the project's table counts as current
         record.table =
             inputFingerprint({project.joints, project.members, project.points, project.udls});
     if (!record.stations)  // these belong to another beam, recorded or not
@@ -251,16 +251,16 @@ Failure writeWorkingFiles(const Project& project, const std::filesystem::path& f
 
 Outcome<OpenedProject> unpackProject(const std::filesystem::path& file,
                                      const std::filesystem::path& folder) {
-    if (auto failure = unfitForProject(file, folder))
-        return *failure;
+    if (const auto objection = unfitForProject(file, folder))
+        return *objection;
     const auto text = projectText(file);
     if (!text)
         return text.refusal();
     const auto project = checkedProject(*text, file);
     if (!project)
         return project.refusal();
-    if (auto failure = writeWorkingFiles(*project, folder))
-        return *failure;
+    if (const auto status = writeWorkingFiles(*project, folder); status.failed())
+        return status.refusal();
     return OpenedProject{project->title, fingerprint(*text)};
 }
 
@@ -298,23 +298,21 @@ void keepTitle(const std::filesystem::path& folder, const ProjectTitle& title) {
 
 Outcome<std::uint64_t> packProject(const std::filesystem::path& folder, const ProjectTitle& title,
                                    const std::filesystem::path& file) {
-    if (auto failure = unfitForProject(file, folder))
-        return *failure;
+    if (const auto objection = unfitForProject(file, folder))
+        return *objection;
     for (const auto& text : {title.project, title.designer, title.beamName})
-        if (auto failure = unfitTitle(text))
-            return *failure;
+        if (const auto objection = unfitTitle(text))
+            return *objection;
     auto project = projectIn(folder);
     if (!project)
         return project.refusal();
     project->title = title;
     const auto text = packedText(*project);
     if (const auto again = unpackedProject(text); !again)
-        return Refusal{
-            "The project was not saved, because it could not be opened again: of what would "
-            "be written, " +
-            again.refusal().sentence + ". Correct that row, then save again."};
-    if (auto failure = replaceFile(file, text, Survives::powerCut))
-        return *failure;
+        return Refusal{"The project was not saved, because the file could not be opened again: " +
+                       again.refusal().sentence + ". Correct this row, then save again."};
+    if (const auto status = replaceFile(file, text, Survives::powerCut); status.failed())
+        return status.refusal();
     return fingerprint(text);
 }
 

@@ -1,4 +1,4 @@
-// The line of joints of the beam, from left to right.
+// The editor for the joints of the beam, from left to right.
 #pragma once
 
 #include "forms/shared/row_editor.h"

@@ -16,7 +16,7 @@ namespace {
 
 constexpr Colour grey = 0xC0C0C0;
 
-/// Moves a bar at the screen's pace: at once to 0, 50 and 100, in between when a while has passed.
+/// Moves a progress bar at most every 33 ms, and always at 0, 50 and 100.
 class PacedProgress {
   public:
     explicit PacedProgress(ProgressBar& bar) : bar_(bar) {}
@@ -71,8 +71,8 @@ void frmAnalysis::cmdAnalyse_Click() {
     auto& options = context_.forms.Get<frmOptions>();
     const auto settings = options.Settings();
     options.Hide();
-    if (const auto failure = missing(context_.folder, inputFiles)) {
-        warn(failure->sentence);
+    if (const auto objection = missing(context_.folder, inputFiles)) {
+        warn(objection->sentence);
         return;
     }
     const WaitCursor wait;

@@ -16,7 +16,7 @@ class frmAnalysis : public Form {
 
     explicit frmAnalysis(Context& context);
 
-    /// Shows "TB.txt" as it stands in the working folder.
+    /// Shows "TB.txt" of the working folder.
     void ShowTable();
 
     Button cmdAnalyse{*this, "&Analyse"};

@@ -1,4 +1,4 @@
-// The settings that shape the results. Its controls are the only store of them.
+// The settings of the analysis and of the diagrams. Only its controls keep them.
 #pragma once
 
 #include "core/analysis/analysis.h"
@@ -18,7 +18,7 @@ class frmOptions : public Form {
 
     explicit frmOptions(Context& context);
 
-    /// Equal parts of each span as typed; places that are no number are not a number here either.
+    /// The values of the boxes. Decimal places that are not a whole number give NaN.
     [[nodiscard]] AnalysisSettings Settings() const;
 
     Frame fmOptions{*this, ""};
@@ -52,8 +52,8 @@ class frmOptions : public Form {
     Context& context_;
 };
 
-/// Withdraws all results after a change of an option: the two diagram menus go off, and the forms
-/// that show results are unloaded. The result files stay.
+/// Hides all results after a change of an option. Disables the two diagram menus and unloads the
+/// forms that show results. The result files stay.
 void DisablePlot(Context& context);
 
 }  // namespace trabeon

@@ -1,4 +1,4 @@
-// What every "Add To Report" button does.
+// The work of every "Add To Report" button.
 #pragma once
 
 #include <functional>
@@ -7,7 +7,7 @@ namespace trabeon {
 
 struct Context;
 
-/// Puts a picture on the clipboard and pastes it into the report, at its caret.
+/// Calls `copyPicture`, which puts a picture on the clipboard, and pastes it into the report.
 void addToReport(const Context& context, const std::function<void()>& copyPicture);
 
 }  // namespace trabeon

@@ -36,7 +36,7 @@ void setAll(OutputKinds& kinds, bool wanted) {
         kinds.*kind = wanted;
 }
 
-Failure readKinds(const std::string& text, OutputKinds& kinds) {
+Status readKinds(const std::string& text, OutputKinds& kinds) {
     setAll(kinds, false);
     for (std::size_t from = 0; from <= text.size();) {
         const auto comma = std::min(text.find(',', from), text.size());
@@ -49,18 +49,18 @@ Failure readKinds(const std::string& text, OutputKinds& kinds) {
         kinds.*known->second = true;
         from = comma + 1;
     }
-    return std::nullopt;
+    return {};
 }
 
-Failure readNumber(const std::string& name, const std::string& text, double& value) {
+Status readNumber(const std::string& name, const std::string& text, double& value) {
     const auto number = numberOfWholeText(text);
     if (!number)
         return Refusal{name + " takes a number, not \"" + excerpt(text) + "\"."};
     value = *number;
-    return std::nullopt;
+    return {};
 }
 
-Failure readOption(const std::string& name, const std::string& value, ReportCommand& command) {
+Status readOption(const std::string& name, const std::string& value, ReportCommand& command) {
     if (name == "--divisions")
         return readNumber(name, value, command.settings.Divisions);
     if (name == "--places")
@@ -70,7 +70,7 @@ Failure readOption(const std::string& name, const std::string& value, ReportComm
     if (name != "--out")
         return Refusal{"There is no option " + excerpt(name) + ". " + usage};
     command.out = value;
-    return std::nullopt;
+    return {};
 }
 
 }  // namespace
@@ -80,13 +80,15 @@ std::string reportHelp() {
                "Analyses and designs a project and writes its document. Needs no display.\n\n") +
            usage +
            "\n    Example: trabeon-report examples/two-span-floor-beam.TB --out beam.docx\n\n" +
-           "--out FILE       the document; replaces only a document\n"
+           "--out FILE       the document; replaces no file except a document\n"
            "--divisions N    equal parts of each span, 1 to 10000 (default 10)\n"
            "--places N       decimal places of the position of a maximum, 0 to 12 (default 3)\n"
            "--kinds K,K,...  what the document contains (default: everything), of\n"
            "                 " +
            allKinds() +
-           "\n\nExit code: 0 done; 1 refused (standard error says why); 2 wrong usage.\n";
+           "\n\nExit code: 0 done\n"
+           "           1 refused (standard error gives the reason)\n"
+           "           2 wrong command line\n";
 }
 
 Outcome<ReportCommand> readReportCommand(const std::vector<std::string>& words) {
@@ -100,8 +102,8 @@ Outcome<ReportCommand> readReportCommand(const std::vector<std::string>& words) 
         }
         if (!word.starts_with("--")) {
             if (!command.file.empty())
-                return Refusal{"One project at a time: \"" + excerpt(word) +
-                               "\" is one too many. " + usage};
+                return Refusal{"Give only one project, without \"" + excerpt(word) + "\". " +
+                               usage};
             command.file = word;
             continue;
         }
@@ -109,8 +111,8 @@ Outcome<ReportCommand> readReportCommand(const std::vector<std::string>& words) 
         if (sign == std::string::npos && i + 1 == words.size())
             return Refusal{"A value is missing after " + excerpt(word) + ". " + usage};
         const auto value = sign == std::string::npos ? words[++i] : word.substr(sign + 1);
-        if (auto failure = readOption(word.substr(0, sign), value, command))
-            return *failure;
+        if (const auto status = readOption(word.substr(0, sign), value, command); status.failed())
+            return status.refusal();
     }
     if (command.file.empty() || command.out.empty())
         return Refusal{usage};

@@ -77,7 +77,7 @@ class Documents : public testing::Test {
         const OutputSource source{folder.path(), title, 1, charts};
         Processor objWord;
         Output writer(source, objWord);
-        EXPECT_EQ(writeProject(source, kinds, writer).failure, "");
+        EXPECT_TRUE(writeProject(source, kinds, writer));
         return objWord.document();
     }
     static QByteArray Part(const std::string& docx, const QString& name) {

@@ -65,7 +65,7 @@ class ReportTest : public ProgramTest {
         Report().mnuSave.Choose();
     }
     /// Prints into out.pdf, which is given back, or another file.
-    PrintEnd Print(RichTextBox& box, const std::string& file = "out.pdf") {
+    Outcome<PrintEnd> Print(RichTextBox& box, const std::string& file = "out.pdf") {
         outside.ExpectPrinter("Trabeon Report", file.empty() ? "" : (folder / file).string());
         return PrintReport(box, 1440, 1440, 1440, 1440);
     }
