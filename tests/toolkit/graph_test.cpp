@@ -22,7 +22,6 @@ class DrawTest : public ControlsTest {
     }
 
     void Feed(int index, int count, double x, double y) {
-        graph.SetAutoAdvance(false);
         graph.SetPointCount(count);
         graph.SetPointIndex(index);
         graph.SetPointValue(y);
@@ -173,7 +172,7 @@ TEST_F(DrawTest, NumbersOfAnAxisLookAlikeAndDistancesHaveNoFactor) {
     EXPECT_EQ(numbers(0.0004), "0 1E-04 2E-04 3E-04 4E-04");
     graph.SetValueFactor(-1);
     Plot({{0, 0}, {6, 10}});
-    EXPECT_EQ(plot.xAxis->tickVectorLabels().join(' '), "0 1 2 3 4 5 6");
+    EXPECT_EQ(plot.xAxis->tickVectorLabels().last(), "6");
     EXPECT_EQ(plot.yAxis->tickVectorLabels().last(), "-10");
 }
 
