@@ -52,7 +52,7 @@ TEST_F(PageTest, APageTakesThePicturesThatFit) {
     EXPECT_TRUE(Print(RTB()));
     EXPECT_EQ(PrintedPages(), 3);
     const auto pdf = folder.read("out.pdf");
-    EXPECT_EQ(Count(pdf, "DCTDecode"), 0) << "nothing of a picture is lost";
+    EXPECT_EQ(countOf(pdf, "DCTDecode"), 0) << "nothing of a picture is lost";
     EXPECT_NE(pdf.find("/Width 2000\n/Height 1240"), std::string::npos);
 }
 
