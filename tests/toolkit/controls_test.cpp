@@ -8,9 +8,7 @@
 #include "tests/toolkit/controls_fixture.h"
 #include "toolkit/controls/button.h"
 #include "toolkit/controls/combo_box.h"
-#include "toolkit/controls/label.h"
 #include "toolkit/controls/picture_view.h"
-#include "toolkit/controls/text_box.h"
 #include "toolkit/controls/text_table.h"
 #include "toolkit/controls/vertical_button.h"
 
@@ -84,19 +82,6 @@ TEST_F(ControlsTest, TheWheelPassesByAClosedComboBox) {
                       Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(combo.Widget(), &wheel);
     EXPECT_EQ(combo.ListIndex() + clicks, -1);
-}
-
-TEST_F(ControlsTest, ALabelsAccessKeyLeadsToItsBuddyAndNamesIt) {
-    Label label(Bench(), "&Member"), plain(Bench(), "members & &sects");
-    ComboBox combo(Bench());
-    TextBox other(Bench());
-    label.SetBuddy(combo);
-    other.SetFocus();
-    QTest::keyClick(window.Widget(), Qt::Key_M, Qt::AltModifier);
-    EXPECT_TRUE(combo.HasFocus());
-    EXPECT_EQ(combo.Widget()->accessibleName(), "Member");
-    EXPECT_EQ(label.Caption(), "&Member");
-    EXPECT_EQ(plain.Widget()->property("text").toString(), "members & sects");
 }
 
 TEST_F(ControlsTest, AClickIntoThePictureViewTakesTheFocus) {
