@@ -95,7 +95,7 @@ Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
 }  // namespace
 
 Objection unfit(const AnalysisSettings& settings) {
-    if (const auto objection = unfitDivisions(settings.Divisions))
+    if (auto objection = unfitDivisions(settings.Divisions))
         return objection;
     if (!(settings.places >= 0 && settings.places <= 12))
         return Refusal{"The decimal places of the maximum must be a number from 0 to 12."};

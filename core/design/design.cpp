@@ -124,7 +124,7 @@ BeamDesign designBeam(const DesignData& data, const MiscProperties& misc) {
 }
 
 Objection unfitForDesign(double Divisions, const MiscProperties& misc) {
-    if (const auto objection = unfitDivisions(Divisions))
+    if (auto objection = unfitDivisions(Divisions))
         return objection;
     if (!areFinite({misc.cover, misc.links, misc.hagg}))
         return Refusal{

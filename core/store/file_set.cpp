@@ -56,13 +56,13 @@ ReplacingFile& FileSet::add(std::string_view name) {
 Status FileSet::commit() {
     std::string names;
     for (auto& file : files_) {
-        if (const auto status = file.finish(); status.failed())
+        if (auto status = file.finish(); status.failed())
             return status;
         (names += file.temporary().path().filename().string()) += '\n';
     }
     const SignalsWait wait;
     const auto list = folder_ / working_file::unfinishedSet;
-    if (const auto status = replaceFile(list, names); status.failed())
+    if (auto status = replaceFile(list, names); status.failed())
         return status;
     for (auto& file : files_)
         file.temporary().keepOnSignal();

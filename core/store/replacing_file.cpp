@@ -104,7 +104,7 @@ Status ReplacingFile::finish() {
 }
 
 Status ReplacingFile::commit() {
-    if (const auto status = finish(); status.failed())
+    if (auto status = finish(); status.failed())
         return status;
     note(fresh_.takePlace());
     if (status_.failed() || survives_ == Survives::processEnd)

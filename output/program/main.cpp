@@ -60,14 +60,14 @@ void prepare(frmTrabeon& program, const ProjectTitle& title, const AnalysisSetti
 }
 
 Status makeReport(const ReportCommand& command, const std::filesystem::path& folder) {
-    if (const auto objection = unfitDocumentFile(command.out, command.file))
+    if (auto objection = unfitDocumentFile(command.out, command.file))
         return objection;
     const auto opened = unpackProject(command.file, folder);
     if (!opened)
         return opened.refusal();
-    if (const auto status = analyseProject(folder, command.settings); status.failed())
+    if (auto status = analyseProject(folder, command.settings); status.failed())
         return status;
-    if (const auto status = designProject(folder, command.settings.Divisions); status.failed())
+    if (auto status = designProject(folder, command.settings.Divisions); status.failed())
         return status;
     frmTrabeon program(folder);
     prepare(program, opened->title, command.settings);
