@@ -11,7 +11,7 @@ export QT_QPA_PLATFORM=offscreen
 fail() { echo "FAILED: $*" >&2; exit 1; }
 
 grow() {  # arguments: the output file, the least memory in KiB, the command
-    local made=$1 room=$2 told=0 status=0 whole
+    local made=$1 room=$2 reported=0 status=0 whole
     shift 2
     cp "$example" "$work/Example.TB"  # window_job opens it and saves changes to it
     "$@" > /dev/null 2>&1 || fail "$1 does not work"
@@ -23,15 +23,15 @@ grow() {  # arguments: the output file, the least memory in KiB, the command
         (ulimit -v "$room" && exec "$@") > "$work/said" 2>&1 || status=$?
         [ $status -ne 0 ] || break
         if [ $status -eq 1 ] && tail -n 1 "$work/said" | grep -q "^There is not enough memory to go on\. "; then
-            told=$((told + 1))
+            reported=$((reported + 1))
         elif [ $status -ne 127 ]; then  # the exit code of the loader
             fail "$1 with $room KiB ends with $status: $(cat "$work/said")"
         fi
         room=$((room + room / 40))
     done
     [ "$(stat -c %s "$made")" -eq "$whole" ] || fail "$1 with $room KiB leaves something out"
-    [ $told -gt 0 ] || fail "$1 was never short of memory"
-    echo "${1##*/}: short of memory at $told sizes, done with $room KiB"
+    [ $reported -gt 0 ] || fail "$1 was never short of memory"
+    echo "${1##*/}: short of memory at $reported sizes, done with $room KiB"
 }
 
 "$build/batch/trabeon-batch" unpack "$example" "$work/beam"
