@@ -24,15 +24,9 @@ std::string labelOf(const CurveJoint& joint) {
     return std::to_string(joint.left) + ", " + std::to_string(joint.right);
 }
 
-/// Generated number text without its leading blank.
-std::string plainText(double value) {
-    const auto text = generatedText(value);
-    return text.front() == ' ' ? text.substr(1) : text;
-}
-
 std::string readOutOf(const CurvePoint& point, const char* symbol) {
     return "member " + std::to_string(point.member) + ", row " + std::to_string(point.row) +
-           ": x = " + plainText(point.distance) + ", " + symbol + " = " + plainText(point.value);
+           ": x = " + bareNumber(point.distance) + ", " + symbol + " = " + bareNumber(point.value);
 }
 
 }  // namespace
