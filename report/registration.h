@@ -7,6 +7,6 @@ struct Context;
 
 /// Registers the forms of the report and sets `Context::pasteIntoReport`. Call it before the first
 /// form is loaded: the "Add To Report" buttons of earlier forms would stay disabled.
-void takeUpReport(Context& context);
+void registerReport(Context& context);
 
 }  // namespace trabeon

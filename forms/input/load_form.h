@@ -56,7 +56,7 @@ class LoadForm : public Form {
         ListView1.SetAccessibleName("Loads");
         cmdRemove.Click = [this] { cmdRemove_Click(); };
         cmdReport.Click = [this] { cmdReport_Click(); };
-        offerReport(context, cmdReport);
+        prepareReportButton(context, cmdReport);
     }
 
     /// Fills the two lists with the members and the load rows.

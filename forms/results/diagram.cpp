@@ -52,7 +52,7 @@ Diagram::Diagram(Context& context, const char* caption, const DiagramKind& kind,
     cmdReport.SetWidth(1425);
     cmdPlot.Click = [this] { cmdPlot_Click(); };
     cmdReport.Click = [this] { cmdReport_Click(); };
-    offerReport(context, cmdReport);
+    prepareReportButton(context, cmdReport);
 }
 
 std::vector<std::string> Diagram::memberItems(const char* blanks) const {

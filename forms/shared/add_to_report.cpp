@@ -10,7 +10,7 @@ void addToReport(const Context& context, const std::function<void()>& copyPictur
     context.pasteIntoReport();
 }
 
-void offerReport(const Context& context, Button& cmdReport) {
+void prepareReportButton(const Context& context, Button& cmdReport) {
     if (context.pasteIntoReport)
         return;
     cmdReport.SetEnabled(false);

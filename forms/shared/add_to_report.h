@@ -13,6 +13,6 @@ void addToReport(const Context& context, const std::function<void()>& copyPictur
 
 /// Prepares the button of a new form. The button is disabled, with a reason, if
 /// `Context::pasteIntoReport` is empty.
-void offerReport(const Context& context, Button& cmdReport);
+void prepareReportButton(const Context& context, Button& cmdReport);
 
 }  // namespace trabeon
