@@ -56,7 +56,6 @@ class LoadForm : public Form {
         ListView1.SetAccessibleName("Loads");
         cmdRemove.Click = [this] { cmdRemove_Click(); };
         cmdReport.Click = [this] { cmdReport_Click(); };
-        prepareReportButton(context, cmdReport);
     }
 
     /// Fills the two lists with the members and the load rows.

@@ -52,7 +52,6 @@ Diagram::Diagram(Context& context, const char* caption, const DiagramKind& kind,
     cmdReport.SetWidth(1425);
     cmdPlot.Click = [this] { cmdPlot_Click(); };
     cmdReport.Click = [this] { cmdReport_Click(); };
-    prepareReportButton(context, cmdReport);
 }
 
 std::vector<std::string> Diagram::memberItems(const char* blanks) const {
@@ -102,7 +101,6 @@ void Diagram::draw(const DiagramCurve& curve, std::size_t count,
     }
     std::size_t done = 0;
     for (const auto& point : curve.points) {
-        chart.SetAutoAdvance(false);
         chart.SetPointCount(pointCountOf(count));
         chart.SetPointIndex(pointCountOf(++done));
         chart.SetPointValue(sign * point.value);

@@ -6,8 +6,8 @@
 #include "toolkit/controls/button.h"
 #include "toolkit/controls/frame.h"
 #include "toolkit/controls/label.h"
+#include "toolkit/controls/picture_view.h"
 #include "toolkit/controls/text_box.h"
-#include "toolkit/controls/web_browser.h"
 #include "toolkit/windows/form.h"
 
 namespace trabeon {
@@ -30,11 +30,11 @@ class frmOptions : public Form {
     Label lblPlaces2{fmOptions, "Decimal Places"};
     Label lblBMD{fmOptions, "&Bending Moment Diagram"};
     Label lblMOption{fmOptions, "Option B"};
-    WebBrowser WebMoment{fmOptions};
+    PictureView WebMoment{fmOptions};
     Button cmdChangeM{fmOptions, "Change"};
     Label lblSFD{fmOptions, "&Shear Force Diagram"};
     Label lblSOption{fmOptions, "Option B"};
-    WebBrowser WebShear{fmOptions};
+    PictureView WebShear{fmOptions};
     Button cmdChangeS{fmOptions, "Change"};
     Button cmdOptionsOK{*this, "&Ok"};
 
@@ -46,8 +46,8 @@ class frmOptions : public Form {
     void cmdChangeM_Click();
     void cmdChangeS_Click();
     void cmdOptionsOK_Click();
-    void toggle(Label& option, WebBrowser& picture, const char* pictureA, const char* pictureB);
-    void show(WebBrowser& picture, const char* file);
+    void toggle(Label& option, PictureView& picture, const char* pictureA, const char* pictureB);
+    void show(PictureView& picture, const char* file);
 
     Context& context_;
 };
