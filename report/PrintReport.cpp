@@ -1,7 +1,7 @@
 #include "report/PrintReport.h"
 
 #include "report/pages.h"
-#include "toolkit/pages/page_printer.h"
+#include "toolkit/pages/printer.h"
 #include "toolkit/pages/rich_text_box.h"
 #include "toolkit/windows/wait_cursor.h"
 
@@ -19,7 +19,7 @@ Refusal printRefusal(const std::string& file) {
 
 Outcome<PrintEnd> PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, int rightMargin,
                               int bottomMargin) {
-    const auto printer = PagePrinter::Open("Trabeon Report");
+    const auto printer = Printer::Open("Trabeon Report");
     if (!printer)
         return PrintEnd::cancelled;
     const WaitCursor wait;
@@ -32,7 +32,7 @@ Outcome<PrintEnd> PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, i
                       sheet.Height - bottomMargin - sheet.OffsetY};
     bool printing = true;
     const auto pages = splitIntoPages(RTB.TextLength(), [&](int first) {
-        printing = first == 0 || printer->NewPage();
+        printing = printer->NewPage();
         format.first = first;
         return printing ? RTB.FormatRange(printer.get(), format) : first;
     });

@@ -129,24 +129,6 @@ class Windows : public WalkTest {
             return outside.lastQuestion.filter +
                    (outside.lastQuestion.asksBeforeOverwriting ? ", asks before overwriting" : "");
         };
-        states["line"] = [this](const std::string& numberAndFile) {
-            std::istringstream text(folder.read(numberAndFile.substr(numberAndFile.find(' ') + 1)));
-            std::string line;
-            for (auto number = std::stoi(numberAndFile); number > 0; --number)
-                std::getline(text, line);
-            return line.substr(0, line.find('\r'));
-        };
-        states["twins"] = [this](const std::string& files) {
-            const auto blank = files.find(' ');
-            const auto text = folder.read(files.substr(0, blank));
-            return text == folder.read(files.substr(blank + 1)) ? "yes" : "no";
-        };
-        states["files"] = [this](const std::string&) {
-            std::string names;
-            for (const auto& [name, text] : folder.contents())
-                names += (names.empty() ? "" : " ") + name;
-            return names;
-        };
         states["menus"] = [this](const std::string&) {
             return Menus(menuBar().actions(), "").toStdString();
         };

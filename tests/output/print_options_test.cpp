@@ -89,21 +89,28 @@ TEST_F(PrintOptions, PrintsThePagesAsAFile) {
     EXPECT_EQ(Count(printed, "/MediaBox [0 0 595.000000 842.000000]"), 1);
 }
 
-TEST_F(PrintOptions, ALongTitleIsPrintedWholeWithinTheSheet) {
+TEST_F(PrintOptions, LinesAreBelowEachOtherAndALongTitleIsWithinTheSheet) {
     if (QStandardPaths::findExecutable("pdftotext").isEmpty())
         GTEST_SKIP() << "needs poppler-utils";
     auto& form = Open();
     const std::string project(60, 'W'), designer(30, 'D');
     forms().Get<frmTitle>().SetTitle({project, designer, "Beam"});
+    folder.write("Joint.txt", "1,Fixed,north\r\n2,Fixed,south\r\n");
     const auto pdf = (folder / "print.pdf").string();
     outside.ExpectPrinter(project, pdf);
     Click(form.cmdPrint);
     const auto words = run("pdftotext", {"-bbox", QString::fromStdString(pdf), "-"}).out;
     EXPECT_TRUE(words.contains(QString::fromStdString(project)));
     EXPECT_TRUE(words.contains(QString::fromStdString(designer)));
-    const QRegularExpression right("xMax=.([0-9.]+)");
-    for (const auto& match : right.globalMatch(words))
-        EXPECT_LE(match.captured(1).toDouble(), 595 - 20 / 25.4 * 72 + 1);
+    constexpr double millimetre = 72 / 25.4;
+    const QRegularExpression word("yMin=.([0-9.]+). xMax=.([0-9.]+).*>(.*)</word>");
+    std::map<QString, double> tops;
+    for (const auto& match : word.globalMatch(words)) {
+        EXPECT_LE(match.captured(2).toDouble(), 595 - 20 * millimetre + 1);
+        tops[match.captured(3)] = match.captured(1).toDouble();
+    }
+    EXPECT_NEAR(tops["north"], (20 + 2 * 3.2) * millimetre, 2);
+    EXPECT_NEAR(tops["south"] - tops["north"], 3.2 * millimetre, 0.5);
 }
 
 TEST_F(PrintOptions, ADrawnBackPrintDoesNothingAndAFailedOneSaysSo) {

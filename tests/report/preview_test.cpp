@@ -116,6 +116,7 @@ TEST_F(PreviewTest, APageWithoutExtentIsToldAndTheFormStays) {
     EXPECT_EQ(outside.lastStyle, 0);
     EXPECT_EQ(outside.lastTitle, "");
     EXPECT_TRUE(forms().IsLoaded("frmDocPreview"));
+    EXPECT_FALSE(Preview().pic5.Visible());
 }
 
 TEST_F(PreviewTest, PrintsTheWholeReportAndCloses) {

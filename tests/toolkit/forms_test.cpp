@@ -233,22 +233,5 @@ TEST_F(FormsTest, WindowsFillTheirPlaceAndGoBackToTheirSize) {
     EXPECT_EQ(window.Width(), narrow);
 }
 
-TEST_F(FormsTest, MenuEntriesRunTheirCommandByKeyAndChoiceWhileEnabled) {
-    int runs = 0;
-    Menu file = window.AddMenu("&File");
-    MenuEntry entry = file.Add("&New", "Ctrl+N", Count(runs));
-    Settle();                            // the bar comes up with its first menu
-    for (const int expected : {2, 2}) {  // the second time it is off
-        QTest::keyClick(window.Widget(), Qt::Key_N, Qt::ControlModifier);
-        entry.Choose();
-        EXPECT_EQ(runs, expected);
-        entry.SetEnabled(false);
-    }
-    MenuEntry loading = file.AddMenu("&Loading").Entry();
-    loading.SetEnabled(false);
-    EXPECT_EQ(loading.Caption(), "&Loading");
-    EXPECT_FALSE(loading.Enabled());
-}
-
 }  // namespace
 }  // namespace trabeon

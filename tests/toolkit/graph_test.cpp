@@ -110,44 +110,22 @@ TEST_F(DrawTest, TheClipboardPictureIsSharpAndUpToDateAlsoWithoutHeight) {
     }
 }
 
-TEST_F(DrawTest, TheCurveGrowsWhileAHandlerRunsAtTheScreensPace) {
-    Settle();
-    const PaintCounter counter(graph);
-    int fed = 0;
-    for (; counter.paints < 4 && fed < 10'000'000; ++fed)
-        Feed(fed % 24000 + 1, 24000, fed * 0.01, std::sin(fed * 0.01));
-    EXPECT_EQ(counter.paints, 4);
-    EXPECT_GT(fed, 4 * 50) << "few points are not worth a redraw";
-}
-
 TEST_F(DrawTest, TheReadOutSnapsToAPointAndLastsUntilTheMouseLeaves) {
     Plot({{0, 0}, {3, 10}, {3, -4}, {4, 2}, {6, 0}});
     graph.SetPointText([](int index) { return "row " + std::to_string(index); });
     Settle();
     const QImage whole = graph.Picture(), face = Face(graph);
     const QSignalSpy replots(&plot, &QCustomPlot::afterReplot);
-    const auto over = [&](double x, double y) { return At(x, y); };
-    for (const auto& [at, row] : {std::pair{over(2, 9), "row 2"},
-                                  {over(2, -1), "row 3"},
-                                  {over(3.6, 5), "row 4"},
-                                  {over(1, 0), "row 1"}}) {
+    for (const auto& [at, row] : {std::pair{At(2, 9), "row 2"},
+                                  {At(2, -1), "row 3"},
+                                  {At(3.6, 5), "row 4"},
+                                  {At(1, 0), "row 1"}}) {
         QTest::mouseMove(graph.Widget(), at);
         EXPECT_EQ(graph.ReadOut(), row);
     }
     EXPECT_EQ(replots.count(), 0) << "a move draws the readout alone";
     EXPECT_NE(Face(graph), face);
     EXPECT_EQ(graph.Picture(), whole) << "the readout stays out of the picture";
-    EXPECT_EQ(graph.ReadOut(), "row 1");
-    QTest::mouseMove(graph.Widget(), Middle());
-    const auto shown = graph.ReadOut();
-    Wheel(5);
-    QTest::mousePress(graph.Widget(), Qt::LeftButton, {}, Middle());
-    QTest::mouseMove(graph.Widget(), Middle() + QPoint(30, 10));
-    QTest::mouseRelease(graph.Widget(), Qt::LeftButton, {}, Middle());
-    QTest::mouseDClick(graph.Widget(), Qt::LeftButton, {}, Middle());
-    QTest::mouseMove(graph.Widget(), Middle());
-    Settle();
-    EXPECT_EQ(graph.ReadOut(), shown);
     QEvent leave(QEvent::Leave);
     QApplication::sendEvent(graph.Widget(), &leave);
     Settle();
@@ -184,7 +162,7 @@ TEST_F(DrawTest, WheelAndDragShowAPartOfTheBeamAndADoubleClickTheWhole) {
     EXPECT_EQ(Face(graph), face);
 }
 
-TEST_F(DrawTest, NumbersOfAnAxisLookAlikeAndADotOnTheEdgeIsWhole) {
+TEST_F(DrawTest, NumbersOfAnAxisLookAlikeAndDistancesHaveNoFactor) {
     const auto numbers = [this](double greatest) {
         Plot({{0, 0}, {6, greatest}});
         return plot.yAxis->tickVectorLabels().join(' ').toStdString();
@@ -192,13 +170,10 @@ TEST_F(DrawTest, NumbersOfAnAxisLookAlikeAndADotOnTheEdgeIsWhole) {
     EXPECT_EQ(numbers(800'000), "0 250000 500000 750000");
     EXPECT_EQ(numbers(1'500'000), "0 5.0E+05 1.0E+06 1.5E+06");
     EXPECT_EQ(numbers(0.0004), "0 1E-04 2E-04 3E-04 4E-04");
+    graph.SetValueFactor(-1);
     Plot({{0, 0}, {6, 10}});
-    const auto dots = [this](int right) {
-        const QImage image =
-            graph.Widget()->grab(QRect(At(6, 10) - QPoint(4, 4), QSize(4 + right, 9))).toImage();
-        return CurvePixels(image);
-    };
-    EXPECT_GE(dots(4) - dots(0), 6) << "right of the axis";
+    EXPECT_EQ(plot.xAxis->tickVectorLabels().join(' '), "0 1 2 3 4 5 6");
+    EXPECT_EQ(plot.yAxis->tickVectorLabels().last(), "-10");
 }
 
 TEST_F(DrawTest, TextStandsWhereThePenIsAndTabsLeadToTheNextStop) {

@@ -18,7 +18,7 @@
 
 #include "toolkit/desktop/page_window.h"
 #include "toolkit/look/shown_text.h"
-#include "toolkit/pages/page_printer.h"
+#include "toolkit/pages/printer.h"
 
 namespace trabeon {
 
