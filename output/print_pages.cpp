@@ -9,7 +9,7 @@ namespace trabeon {
 namespace {
 
 constexpr auto gap = "     ";
-constexpr int mostLines = 56;         // per page of rows; the count starts at 2
+constexpr int maxLines = 56;          // per page of rows; the count starts at 2
 constexpr int lastTableLine = 55;     // per page of the balance table
 constexpr std::size_t labelled = 10;  // characters of a row label, repeated in each strip
 constexpr std::size_t landscapeStrip = 84;
@@ -77,7 +77,7 @@ class Print {
 
   private:
     void NewLine(int& LineCount) {
-        if (++LineCount <= mostLines)
+        if (++LineCount <= maxLines)
             return;
         pen_.newPage();
         LineCount = 2;

@@ -31,7 +31,7 @@ void takePlace(const fs::path& target, std::string_view temporary) {
         std::rename(fresh.c_str(), file.c_str());
 }
 
-void removeLeftBehind(const fs::path& folder) {
+void removeLeftovers(const fs::path& folder) {
     std::vector<fs::path> left;
     std::error_code error;
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
@@ -84,7 +84,7 @@ void finishSet(const fs::path& folder) {
     }
     if (!names.empty())
         MurderFile(list);
-    removeLeftBehind(folder);
+    removeLeftovers(folder);
 }
 
 }  // namespace trabeon

@@ -38,7 +38,7 @@ inline QRect inkOf(const QImage& picture) {
 class ReportTest : public ProgramTest {
   protected:
     ReportTest() {
-        takeUpReport(context());
+        registerReport(context());
         Start();
     }
 

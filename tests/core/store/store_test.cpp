@@ -330,7 +330,7 @@ TEST(FolderLock, IsHeldByOneAndFreeOnceItsProcessHasDied) {
 TEST(FolderRecord, KnowsWhichRowsExistNowhereElse) {
     const TemporaryFolder folder;
     const auto refused = [&] {
-        const auto objection = holdsOtherRows(folder.path());
+        const auto objection = checkRowsAreSaved(folder.path());
         return objection ? objection->sentence : "";
     };
     EXPECT_EQ(refused(), "");
