@@ -14,7 +14,7 @@ constexpr TwipsRect sheetText{0, 0, 9020, 13960};
 class PageTest : public ReportTest {
   protected:
     std::vector<int> Starts(const TwipsRect& area) {
-        return goThroughPages(RTB().TextLength(),
+        return splitIntoPages(RTB().TextLength(),
                               [&](int first) {
                                   return RTB().FormatRange(nullptr, {area, area, {}, first});
                               })

@@ -12,7 +12,7 @@ namespace {
 class ReportWindow : public WalkTest {
   protected:
     ReportWindow() {
-        takeUpReport(context());
+        registerReport(context());
         AddActions();
         AddStates();
         Start();

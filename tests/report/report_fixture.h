@@ -54,7 +54,7 @@ inline std::vector<int> numbersAfter(const std::string& rtf, const std::string& 
 class ReportTest : public ProgramTest {
   protected:
     ReportTest() {
-        takeUpReport(context());
+        registerReport(context());
         Start();
     }
 

@@ -72,7 +72,7 @@ class Folder : public testing::TestWithParam<Walk>, public WithFolder, public Wa
     void AddProjectActions() {
         actions["new"] = [this](const Step&) { Keep(CreateNFile(folder.path())); };
         actions["recover"] = [this](const Step&) { Keep(recoverRows(folder.path())); };
-        actions["others"] = [this](const Step&) { Keep(Status(holdsOtherRows(folder.path()))); };
+        actions["others"] = [this](const Step&) { Keep(Status(checkRowsAreSaved(folder.path()))); };
         actions["title"] = [this](const Step& step) {
             const auto [project, designer, beamName] = threeOf(step.subject);
             title_ = {project, designer, beamName};
