@@ -4,11 +4,11 @@
 
 #include "core/store/temporary_file.h"
 #include "forms/main/frmTrabeon.h"
-#include "report/output/frmPrintOptions.h"
+#include "output/frmPrintOptions.h"
 #include "report/registration.h"
 #include "report/sent_pictures.h"
-#include "toolkit/application.h"
-#include "toolkit/desktop.h"
+#include "toolkit/desktop/desktop.h"
+#include "toolkit/windows/application.h"
 
 int main(int argc, char** argv) try {
     using namespace trabeon;

@@ -63,15 +63,15 @@ std::optional<std::string> CommandLine::option(std::string_view name) const {
     return std::nullopt;
 }
 
-Failure CommandLine::readNumber(std::string_view name, double& value) const {
+Status CommandLine::readNumber(std::string_view name, double& value) const {
     const auto text = option(name);
     if (!text)
-        return std::nullopt;
+        return {};
     const auto number = numberOfWholeText(*text);
     if (!number)
         return Refusal{std::string(name) + " takes a number, not \"" + excerpt(*text) + "\"."};
     value = *number;
-    return std::nullopt;
+    return {};
 }
 
 Outcome<CommandLine> readCommandLine(const std::vector<std::string>& words,

@@ -25,7 +25,7 @@ struct CommandLine {
 
     /// Sets `value` to the number of an option, if the option is there. Refuses a text that is not
     /// a number.
-    [[nodiscard]] Failure readNumber(std::string_view name, double& value) const;
+    [[nodiscard]] Status readNumber(std::string_view name, double& value) const;
 };
 
 /// A command as users call it, and the function that carries it out.

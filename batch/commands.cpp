@@ -53,22 +53,22 @@ Exit wrongUsage(const Refusal& refusal) {
 constexpr std::chrono::seconds patience{3};
 
 /// Locks a folder for this command, and finishes the files that a killed command left there.
-Failure enter(const fs::path& folder, FolderLock& lock) {
+Status enter(const fs::path& folder, FolderLock& lock) {
     std::error_code error;
     if (!fs::is_directory(folder, error))
         return Refusal{"\"" + folder.string() + "\" is not a folder."};
-    if (auto failure = lock.take(folder, patience))
-        return failure;
+    if (const auto status = lock.take(folder, patience); status.failed())
+        return status;
     finishSet(folder);
-    return std::nullopt;
+    return {};
 }
 
 Outcome<AnalysisSettings> settingsOf(const CommandLine& line) {
     AnalysisSettings settings;
-    if (auto failure = line.readNumber("--divisions", settings.Divisions))
-        return *failure;
-    if (auto failure = line.readNumber("--places", settings.places))
-        return *failure;
+    if (const auto status = line.readNumber("--divisions", settings.Divisions); status.failed())
+        return status.refusal();
+    if (const auto status = line.readNumber("--places", settings.places); status.failed())
+        return status.refusal();
     return settings;
 }
 
@@ -77,8 +77,8 @@ Outcome<MiscProperties> propertiesOf(const CommandLine& line) {
     const std::pair<const char*, double*> sizes[] = {
         {"--cover", &misc.cover}, {"--link", &misc.links}, {"--aggregate", &misc.hagg}};
     for (const auto& [name, value] : sizes) {
-        if (auto failure = line.readNumber(name, *value))
-            return *failure;
+        if (const auto status = line.readNumber(name, *value); status.failed())
+            return status.refusal();
         if (*value < 0)
             return Refusal{std::string(name) + " takes a size of 0 mm or more."};
     }
@@ -124,20 +124,20 @@ Exit analyseCommand(const CommandLine& line) {
         return wrongUsage(settings.refusal());
     const auto& folder = line.operands[0];
     FolderLock lock;
-    if (auto failure = enter(folder, lock))
-        return refused(*failure);
+    if (const auto status = enter(folder, lock); status.failed())
+        return refused(status.refusal());
     return analysed(folder, *settings, [](double) {}) ? Exit::done : Exit::refused;
 }
 
 /// Results that are known to be of another beam, or of earlier rows or divisions.
-Failure outdated(const fs::path& file, ResultState state) {
+Objection outdated(const fs::path& file, ResultState state) {
     if (state != ResultState::outdated)
         return std::nullopt;
     return Refusal{'"' + file.string() + "\": " + std::string(analyseAgain)};
 }
 
 /// The design reads any station file. A user who has not analysed the beam must know it.
-Failure unfitStations(const DesignData& data) {
+Objection unfitStations(const DesignData& data) {
     if (data.NumofMem() > 0 && data.stationsFit())
         return std::nullopt;
     return Refusal{"The stations do not fit the beam: \"BM.txt\" must have " +
@@ -153,48 +153,49 @@ void warn(const DesignData& data) {
 
 Exit designCommand(const CommandLine& line) {
     double Divisions = AnalysisSettings{}.Divisions;
-    if (auto failure = line.readNumber("--divisions", Divisions))
-        return wrongUsage(*failure);
+    if (const auto status = line.readNumber("--divisions", Divisions); status.failed())
+        return wrongUsage(status.refusal());
     const auto misc = propertiesOf(line);
     if (!misc)
         return wrongUsage(misc.refusal());
     const fs::path folder = line.operands[0];
-    if (auto failure = unfitForDesign(Divisions, *misc))
-        return refused(*failure);
+    if (const auto objection = unfitForDesign(Divisions, *misc))
+        return refused(*objection);
     FolderLock lock;
-    if (auto failure = enter(folder, lock))
-        return refused(*failure);
+    if (const auto status = enter(folder, lock); status.failed())
+        return refused(status.refusal());
     const auto data = readDesignData(folder, Divisions);
     if (!data)
         return refused(data.refusal());
-    if (auto failure = unfitStations(*data))
-        return refused(*failure);
+    if (const auto objection = unfitStations(*data))
+        return refused(*objection);
     if (const auto input = readFiles(folder, inputFiles); !input)
         return refused(input.refusal());
-    if (auto failure = outdated(folder / working_file::stations, stationsState(folder, Divisions)))
-        return refused(*failure);
+    if (const auto objection =
+            outdated(folder / working_file::stations, stationsState(folder, Divisions)))
+        return refused(*objection);
     warn(*data);
     const auto design = designBeam(*data, *misc);
-    if (auto failure = writeDesign(folder, design, Divisions, *misc))
-        return refused(*failure);
+    if (const auto status = writeDesign(folder, design, Divisions, *misc); status.failed())
+        return refused(status.refusal());
     return design.ShearFailed ? refused({std::string(shearFailureSentence)}) : Exit::done;
 }
 
 Exit tablesCommand(const CommandLine& line) {
     const auto& folder = line.operands[0];
     FolderLock lock;
-    if (auto failure = enter(folder, lock))
-        return refused(*failure);
-    if (auto failure = writeSteelAreas(folder))
-        return refused(*failure);
-    const auto failure = writeLinkResistances(folder);
-    return failure ? refused(*failure) : Exit::done;
+    if (const auto status = enter(folder, lock); status.failed())
+        return refused(status.refusal());
+    if (const auto status = writeSteelAreas(folder); status.failed())
+        return refused(status.refusal());
+    const auto status = writeLinkResistances(folder);
+    return status.failed() ? refused(status.refusal()) : Exit::done;
 }
 
 /// Reads and checks the project before it makes and takes the folder.
 Outcome<Project> unpackInto(const std::string& file, const fs::path& folder, FolderLock& lock) {
-    if (auto failure = unfitForProject(file, folder))
-        return *failure;
+    if (const auto objection = unfitForProject(file, folder))
+        return *objection;
     auto project = readProject(file);
     if (!project)
         return project;
@@ -203,12 +204,12 @@ Outcome<Project> unpackInto(const std::string& file, const fs::path& folder, Fol
     if (!fs::is_directory(folder, error))
         return Refusal{"The folder \"" + folder.string() +
                        "\" cannot be created. Name another one."};
-    if (auto failure = enter(folder, lock))
-        return *failure;
-    if (auto failure = holdsOtherRows(folder))
-        return *failure;
-    if (auto failure = writeWorkingFiles(*project, folder))
-        return *failure;
+    if (const auto status = enter(folder, lock); status.failed())
+        return status.refusal();
+    if (const auto objection = holdsOtherRows(folder))
+        return *objection;
+    if (const auto status = writeWorkingFiles(*project, folder); status.failed())
+        return status.refusal();
     return project;
 }
 
@@ -221,12 +222,12 @@ Exit unpackCommand(const CommandLine& line) {
 Exit packCommand(const CommandLine& line) {
     const fs::path folder = line.operands[0];
     FolderLock lock;
-    if (auto failure = enter(folder, lock))
-        return refused(*failure);
+    if (const auto status = enter(folder, lock); status.failed())
+        return refused(status.refusal());
     if (std::error_code unknown; !fs::exists(folder / working_file::joint, unknown))
         return refused({"\"" + folder.string() + "\" contains no beam: it has no Joint.txt."});
-    if (auto failure = unfitProjectFile(line.operands[1]))
-        return refused(*failure);
+    if (const auto objection = unfitProjectFile(line.operands[1]))
+        return refused(*objection);
     const auto kept = titleIn(folder);
     const ProjectTitle title{line.option("--title").value_or(kept.project),
                              line.option("--designer").value_or(kept.designer),
@@ -265,8 +266,8 @@ Exit showDesign(const fs::path& folder, const AnalysisSettings& settings) {
         return refused(data.refusal());
     warn(*data);
     const auto design = designBeam(*data, {});
-    if (auto failure = writeDesign(folder, design, settings.Divisions, {}))
-        return refused(*failure);
+    if (const auto status = writeDesign(folder, design, settings.Divisions, {}); status.failed())
+        return refused(status.refusal());
     const bool few = data->NumofMem() <= mostMembersShown;
     const auto text = few ? designTable(design, data->NumofMem()) : designSummary(design);
     std::printf("\n%s", text.c_str());
@@ -277,8 +278,8 @@ Exit runCommand(const CommandLine& line) {
     const auto settings = settingsOf(line);
     if (!settings)
         return wrongUsage(settings.refusal());
-    if (auto failure = unfit(*settings))
-        return refused(*failure);
+    if (const auto objection = unfit(*settings))
+        return refused(*objection);
     const auto& file = line.operands[0];
     const fs::path folder = line.option("--out").value_or(resultFolder(file).string());
     FolderLock lock;

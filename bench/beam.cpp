@@ -134,8 +134,8 @@ int main(int argc, char** argv) {
         trabeon::MurderFile(std::filesystem::path(argv[2]) / name);
     FileSet files(argv[2]);
     writeBeam(files, spans);
-    if (const auto failure = files.commit()) {
-        std::fprintf(stderr, "%s\n", failure->sentence.c_str());
+    if (const auto status = files.commit(); status.failed()) {
+        std::fprintf(stderr, "%s\n", status.refusal().sentence.c_str());
         return 1;
     }
 }

@@ -15,12 +15,12 @@
 #include "forms/main/frmTrabeon.h"
 #include "forms/results/frmAnalysis.h"
 #include "forms/results/frmContinuousTB.h"
+#include "output/frmPrintOptions.h"
+#include "output/program/unattended.h"
 #include "report/frmDocPreview.h"
 #include "report/frmReport.h"
-#include "report/output/frmPrintOptions.h"
-#include "report/output/program/unattended.h"
 #include "report/registration.h"
-#include "toolkit/application.h"
+#include "toolkit/windows/application.h"
 
 namespace trabeon {
 namespace {

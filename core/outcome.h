@@ -1,4 +1,4 @@
-// What an operation answers that may well fail.
+// The results of operations and checks that can fail.
 #pragma once
 
 #include <optional>
@@ -13,8 +13,24 @@ struct Refusal {
     std::string sentence;
 };
 
-/// Nothing when all went well.
-using Failure = std::optional<Refusal>;
+/// What a check found: the reason to refuse, or nothing.
+using Objection = std::optional<Refusal>;
+
+/// The result of an operation that gives no value: it was done, or it failed for a reason.
+class [[nodiscard]] Status {
+  public:
+    Status() = default;                                                // done
+    Status(Refusal refusal) : objection_(std::move(refusal)) {}        // NOLINT: a refusal is one
+    Status(Objection objection) : objection_(std::move(objection)) {}  // NOLINT: and so is this
+
+    [[nodiscard]] bool done() const { return !failed(); }
+    [[nodiscard]] bool failed() const { return objection_.has_value(); }
+    /// Why it failed. Only if it did.
+    [[nodiscard]] const Refusal& refusal() const { return *objection_; }
+
+  private:
+    Objection objection_;
+};
 
 /// The value asked for, or why there is none.
 template <class Value>

@@ -47,7 +47,7 @@ void unpackInto(const trabeon::Project& project, const fs::path& folder) {
     files.add(working_file::member).write(project.members);
     files.add(working_file::point).write(project.points);
     files.add(working_file::udl).write(project.udls);
-    require(!files.commit(), "the working files can be written");
+    require(files.commit().done(), "the working files can be written");
 }
 
 /// The settings follow from the input's size, so that an input always does the same.

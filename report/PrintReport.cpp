@@ -1,27 +1,27 @@
 #include "report/PrintReport.h"
 
 #include "report/pages.h"
-#include "toolkit/page_printer.h"
-#include "toolkit/rich_text_box.h"
-#include "toolkit/wait_cursor.h"
+#include "toolkit/pages/page_printer.h"
+#include "toolkit/pages/rich_text_box.h"
+#include "toolkit/windows/wait_cursor.h"
 
 namespace trabeon {
 namespace {
 
-std::string troubleOf(const std::string& file) {
+Refusal unprinted(const std::string& file) {
     if (file.empty())
-        return "The report could not be printed. See to the printer, then try again.";
-    return "The report could not be printed to \"" + file +
-           "\". Choose another file, then try again.";
+        return {"The report could not be printed. See to the printer, then try again."};
+    return {"The report could not be printed to \"" + file +
+            "\". Choose another file, then try again."};
 }
 
 }  // namespace
 
-PrintEnd PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, int rightMargin,
-                     int bottomMargin) {
+Outcome<PrintEnd> PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, int rightMargin,
+                              int bottomMargin) {
     const auto printer = PagePrinter::Open("Trabeon Report");
     if (!printer)
-        return {};
+        return PrintEnd::cancelled;
     const WaitCursor wait;
     const Paper& sheet = printer->Sheet();
     PageFormat format;
@@ -38,12 +38,12 @@ PrintEnd PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, int rightM
     });
     RTB.ReleasePages();
     if (!printer->EndDoc() || !printing)
-        return {false, troubleOf(printer->File())};
+        return unprinted(printer->File());
     if (!pages.whole)
-        return {true, "The print ends with page " + std::to_string(pages.starts.size()) +
-                          ": what follows could not be laid out. Cut it out of the report, then "
-                          "print again."};
-    return {true};
+        return Refusal{"The print ends with page " + std::to_string(pages.starts.size()) +
+                       ": what follows could not be laid out. Cut it out of the report, then "
+                       "print again."};
+    return PrintEnd::printed;
 }
 
 }  // namespace trabeon

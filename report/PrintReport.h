@@ -1,19 +1,17 @@
 // The report on paper.
 #pragma once
 
-#include <string>
+#include "core/outcome.h"
 
 namespace trabeon {
 
 class RichTextBox;
 
-struct PrintEnd {
-    bool printed = false;      // false without a trouble: the user drew back
-    std::string trouble = {};  // a sentence for the user
-};
+enum class PrintEnd { printed, cancelled };
 
-/// Prints the whole text. The margins are twips from the edge of the sheet.
-[[nodiscard]] PrintEnd PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, int rightMargin,
-                                   int bottomMargin);
+/// Prints the whole text. The margins are twips from the edge of the sheet. Refuses if the printer
+/// does not take it, or if the text can be laid out only in part; that part is printed then.
+[[nodiscard]] Outcome<PrintEnd> PrintReport(RichTextBox& RTB, int leftMargin, int topMargin,
+                                            int rightMargin, int bottomMargin);
 
 }  // namespace trabeon

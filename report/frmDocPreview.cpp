@@ -1,12 +1,12 @@
 #include "report/frmDocPreview.h"
 
-#include "forms/main/messages.h"
+#include "forms/shared/messages.h"
 #include "report/PrintReport.h"
 #include "report/frmReport.h"
 #include "report/margins.h"
-#include "toolkit/application.h"
-#include "toolkit/outside.h"
-#include "toolkit/wait_cursor.h"
+#include "toolkit/outside/outside.h"
+#include "toolkit/windows/application.h"
+#include "toolkit/windows/wait_cursor.h"
 
 namespace trabeon {
 namespace {
@@ -159,9 +159,9 @@ bool frmDocPreview::copyPage() {
 
 void frmDocPreview::cmdPrint_Click() {
     const auto end = PrintReport(report(), marginTwips, marginTwips, marginTwips, marginTwips);
-    if (!end.trouble.empty())
-        warn(end.trouble);
-    else if (end.printed)
+    if (!end)
+        warn(end.refusal().sentence);
+    else if (*end == PrintEnd::printed)
         Unload();
 }
 

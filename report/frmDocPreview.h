@@ -5,15 +5,15 @@
 #include <array>
 #include <vector>
 
-#include "forms/main/context.h"
-#include "toolkit/button.h"
-#include "toolkit/combo_box.h"
-#include "toolkit/form.h"
-#include "toolkit/label.h"
-#include "toolkit/picture_box.h"
-#include "toolkit/rich_text_box.h"
-#include "toolkit/scroll_bar.h"
-#include "toolkit/text_box.h"
+#include "forms/shared/context.h"
+#include "toolkit/controls/button.h"
+#include "toolkit/controls/combo_box.h"
+#include "toolkit/controls/label.h"
+#include "toolkit/controls/picture_box.h"
+#include "toolkit/controls/scroll_bar.h"
+#include "toolkit/controls/text_box.h"
+#include "toolkit/pages/rich_text_box.h"
+#include "toolkit/windows/form.h"
 
 namespace trabeon {
 

@@ -5,8 +5,8 @@
 #include "report/frmDocPreview.h"
 #include "report/margins.h"
 #include "report/pages.h"
-#include "toolkit/look.h"
-#include "toolkit/outside.h"
+#include "toolkit/look/look.h"
+#include "toolkit/outside/outside.h"
 
 namespace trabeon {
 namespace {

@@ -3,11 +3,11 @@
 #include <algorithm>
 
 #include "core/store/replacing_file.h"
-#include "forms/main/messages.h"
-#include "forms/main/status_line.h"
+#include "forms/shared/messages.h"
+#include "forms/shared/status_line.h"
 #include "report/margins.h"
 #include "report/sent_pictures.h"
-#include "toolkit/outside.h"
+#include "toolkit/outside/outside.h"
 
 namespace trabeon {
 namespace {
@@ -92,8 +92,8 @@ void frmReport::SaveReport() {
     if (!chosen)
         return;
     const auto text = RTB.TextRTF(Outside::Current().DefaultPaper(), marginTwips);
-    if (const auto failure = replaceFile(path, text))
-        warn(failure->sentence);
+    if (const auto status = replaceFile(path, text); status.failed())
+        warn(status.refusal().sentence);
     else
         path_ = path;
 }
@@ -106,8 +106,8 @@ void frmReport::cmdWP_Click() {
         return;
     }
     const auto path = freePicturePath(context_.folder);
-    if (const auto failure = replaceFile(path, text))
-        warn(failure->sentence);
+    if (const auto status = replaceFile(path, text); status.failed())
+        warn(status.refusal().sentence);
     else if (Outside::Current().OpenDocument(path.string()))
         lendPicture(path);
     else

@@ -1,10 +1,10 @@
 // The report: a scrapbook of the pictures that forms add, in a box that is locked in between.
 #pragma once
 
-#include "forms/main/context.h"
-#include "toolkit/form.h"
-#include "toolkit/rich_text_box.h"
-#include "toolkit/vertical_button.h"
+#include "forms/shared/context.h"
+#include "toolkit/controls/vertical_button.h"
+#include "toolkit/pages/rich_text_box.h"
+#include "toolkit/windows/form.h"
 
 namespace trabeon {
 

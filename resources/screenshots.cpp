@@ -12,7 +12,6 @@
 
 #include "forms/design/frmBeamDesign.h"
 #include "forms/design/frmBeamDimensions.h"
-#include "forms/design/frmMisc.h"
 #include "forms/input/frmJoints.h"
 #include "forms/input/frmMembers.h"
 #include "forms/input/frmPoint.h"
@@ -21,11 +20,12 @@
 #include "forms/results/frmAnalysis.h"
 #include "forms/results/frmContinuousTB.h"
 #include "forms/results/frmMoment1.h"
+#include "forms/settings/frmMisc.h"
+#include "output/frmPrintOptions.h"
+#include "output/program/unattended.h"
 #include "report/frmDocPreview.h"
-#include "report/output/frmPrintOptions.h"
-#include "report/output/program/unattended.h"
 #include "report/registration.h"
-#include "toolkit/application.h"
+#include "toolkit/windows/application.h"
 
 namespace trabeon {
 namespace {

@@ -12,26 +12,27 @@ namespace trabeon {
 namespace {
 
 bool passesRules(const BeamRows& rows, const MessageSink& show) {
-    bool JointError = false;
-    bool MemberError = false;
-    CheckJoint(rows.joints, JointError, show);
-    CheckMember(rows.joints.size(), rows.members.size(), MemberError, show);
-    return !JointError && !MemberError;
+    const auto JointErrors = CheckJoint(rows.joints);
+    const auto MemberErrors = CheckMember(rows.joints.size(), rows.members.size());
+    for (const auto* errors : {&JointErrors, &MemberErrors})
+        for (const auto& message : *errors)
+            Mbox(message, show);
+    return JointErrors.empty() && MemberErrors.empty();
 }
 
-Failure tooLarge(std::size_t member) {
+Objection tooLarge(std::size_t member) {
     return Refusal{"Member " + std::to_string(member) +
                    ": its moments or shears are too large to be calculated. Use other units."};
 }
 
-Failure unfit(const std::vector<double>& FEM) {
+Objection unfit(const std::vector<double>& FEM) {
     for (std::size_t k = 1; k < FEM.size(); ++k)
         if (!std::isfinite(FEM[k]))
             return tooLarge((k + 1) / 2);
     return std::nullopt;
 }
 
-Failure unfit(const std::vector<Station>& stations, std::size_t perSpan) {
+Objection unfit(const std::vector<Station>& stations, std::size_t perSpan) {
     for (std::size_t k = 0; k < stations.size(); ++k)
         if (!std::isfinite(stations[k].forces.moment) || !std::isfinite(stations[k].forces.shear))
             return tooLarge(k / perSpan + 1);
@@ -71,8 +72,8 @@ Outcome<RelaxedBeam> relaxed(BeamRows rows, const TableSink& tableRow,
         return udls.refusal();
 
     const auto FEM = fixedEndMoments(*beam, *udls, *points);
-    if (auto failure = unfit(FEM))
-        return *failure;
+    if (const auto objection = unfit(FEM))
+        return *objection;
     auto Final = relax(*beam, FEM, tableRow, [&] { outputs.progress(50); });
     if (!Final)
         return Final.refusal();
@@ -82,19 +83,19 @@ Outcome<RelaxedBeam> relaxed(BeamRows rows, const TableSink& tableRow,
 /// The whole calculation of a beam whose structure passed the rules.
 Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
                             const TableSink& tableRow, const AnalysisOutputs& outputs) {
-    if (auto failure = unfit(settings))
-        return *failure;
+    if (const auto objection = unfit(settings))
+        return *objection;
     auto beam = relaxed(std::move(rows), tableRow, outputs);
     if (!beam)
         return beam.refusal();
     const auto loaded = beam->loaded();
     const auto Divisions = static_cast<std::size_t>(settings.Divisions);
     auto stations = FindMxSx(loaded, Divisions);
-    if (auto failure = unfit(stations, Divisions + 1))
-        return *failure;
+    if (const auto objection = unfit(stations, Divisions + 1))
+        return *objection;
     auto maxima = searchMaxima(loaded, stations, settings, outputs);
-    if (auto failure = unfit(maxima, 1))
-        return *failure;
+    if (const auto objection = unfit(maxima, 1))
+        return *objection;
     return Analysis{std::move(*beam), std::move(stations), std::move(maxima)};
 }
 
@@ -108,15 +109,15 @@ std::optional<Result> orRefuse(Outcome<Result> result, const AnalysisOutputs& ou
 
 }  // namespace
 
-Failure unfit(const AnalysisSettings& settings) {
-    if (auto failure = unfitDivisions(settings.Divisions))
-        return failure;
+Objection unfit(const AnalysisSettings& settings) {
+    if (const auto objection = unfitDivisions(settings.Divisions))
+        return objection;
     if (!(settings.places >= 0 && settings.places <= 12))
         return Refusal{"The decimal places of the maximum must be a number from 0 to 12."};
     return std::nullopt;
 }
 
-Failure unfitDivisions(double Divisions) {
+Objection unfitDivisions(double Divisions) {
     if (!(Divisions >= 1 && Divisions <= 10'000 && Divisions == std::floor(Divisions)))
         return Refusal{"The number of sections of a span must be a whole number from 1 to 10,000."};
     return std::nullopt;

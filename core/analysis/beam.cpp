@@ -16,7 +16,7 @@ bool isMeasure(double value) {
 
 /// The rules pass over a type that is not spelled exactly ("fixed", "PIN"). Such a beam must also
 /// pass them with the types that the analysis takes.
-Failure unfitSpelling(const std::vector<JointRow>& joints, const std::vector<Joint>& types) {
+Objection unfitSpelling(const std::vector<JointRow>& joints, const std::vector<Joint>& types) {
     std::size_t misspelled = 1;
     while (misspelled <= joints.size() && joints[misspelled - 1].type == nameOf(types[misspelled]))
         ++misspelled;
@@ -25,20 +25,15 @@ Failure unfitSpelling(const std::vector<JointRow>& joints, const std::vector<Joi
     auto spelled = joints;
     for (std::size_t j = 1; j <= joints.size(); ++j)
         spelled[j - 1].type = nameOf(types[j]);
-    bool error = false;
-    std::string first;
-    CheckJoint(spelled, error, [&](const Message& message) {
-        if (first.empty())
-            first = message.text;
-    });
-    if (!error)
+    const auto broken = CheckJoint(spelled);
+    if (broken.empty())
         return std::nullopt;
     return Refusal{"Joint " + std::to_string(misspelled) + ", whose type \"" +
                    excerpt(joints[misspelled - 1].type) + "\" was taken for " +
-                   std::string(nameOf(types[misspelled])) + ": " + first};
+                   std::string(nameOf(types[misspelled])) + ": " + broken.front()};
 }
 
-Failure unfitMember(const MemberRow& row, std::size_t number, const Beam& beam) {
+Objection unfitMember(const MemberRow& row, std::size_t number, const Beam& beam) {
     const auto bad = [&](std::string_view what, const std::string& text) {
         return Refusal{"Member " + std::to_string(number) + ": " + std::string(what) + " is \"" +
                        excerpt(text) +
@@ -71,8 +66,8 @@ Outcome<Beam> beamOf(const std::vector<JointRow>& joints, const std::vector<Memb
                            excerpt(joints[j - 1].type) +
                            "\". It must be Cantilever, Pin Jointed, Continuous or Fixed."};
     }
-    if (auto failure = unfitSpelling(joints, beam.SupportType))
-        return *failure;
+    if (const auto objection = unfitSpelling(joints, beam.SupportType))
+        return *objection;
 
     for (auto array : {&Beam::MemberE, &Beam::MemberI, &Beam::Length, &Beam::Stiffness})
         (beam.*array).resize(members.size() + 1, 0);
@@ -82,8 +77,8 @@ Outcome<Beam> beamOf(const std::vector<JointRow>& joints, const std::vector<Memb
         beam.MemberI[i] = leadingNumber(row.I);
         beam.Length[i] = leadingNumber(row.L);
         beam.Stiffness[i] = beam.MemberE[i] * beam.MemberI[i] / beam.Length[i];
-        if (auto failure = unfitMember(row, i, beam))
-            return *failure;
+        if (const auto objection = unfitMember(row, i, beam))
+            return *objection;
     }
     return beam;
 }

@@ -19,7 +19,7 @@ Refusal named(std::string_view load, std::size_t row, std::size_t member, const 
 
 PointLoad::PointLoad(const PointRow& row) : a(leadingNumber(row.a)), P(leadingNumber(row.P)) {}
 
-Failure PointLoad::unfit() const {
+Objection PointLoad::unfit() const {
     if (std::isfinite(a) && std::isfinite(P))
         return std::nullopt;
     return Refusal{"a or P is too large a number. Enter a smaller one."};
@@ -31,7 +31,7 @@ UdlLoad::UdlLoad(const UdlRow& row)
       w1(leadingNumber(row.w1)),
       w2(leadingNumber(row.w2)) {}
 
-Failure UdlLoad::unfit() const {
+Objection UdlLoad::unfit() const {
     if (!std::isfinite(a) || !std::isfinite(b) || !std::isfinite(w1) || !std::isfinite(w2))
         return Refusal{"a, b, w1 or w2 is too large a number. Enter a smaller one."};
     if (b == 0)

@@ -163,8 +163,8 @@ std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
     writeLoads(files, folder, analysis->udls, udls);
     writeRecord(files, folder, {before, fingerprint({joints, members, points, udls})},
                 inputOf(joints, *analysis), settings.Divisions);
-    if (const auto failure = files.commit()) {
-        outputs.refuse(*failure);
+    if (const auto status = files.commit(); status.failed()) {
+        outputs.refuse(status.refusal());
         return std::nullopt;
     }
     return analysis;

@@ -92,7 +92,7 @@ std::string sentenceOf(const StrayLoad& load) {
            ". It was analysed as entered; correct the row if that is not intended.";
 }
 
-Failure refusalOf(const std::vector<StrayLoad>& stray) {
+Objection objectionTo(const std::vector<StrayLoad>& stray) {
     if (stray.empty())
         return std::nullopt;
     return Refusal{placeAndFault(stray.front()) +

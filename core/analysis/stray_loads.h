@@ -31,6 +31,6 @@ struct StrayLoad {
 
 /// Refuses what follows from a load that is not on its member: reactions, extremes, deflections.
 /// Names the first row.
-[[nodiscard]] Failure refusalOf(const std::vector<StrayLoad>& stray);
+[[nodiscard]] Objection objectionTo(const std::vector<StrayLoad>& stray);
 
 }  // namespace trabeon

@@ -123,17 +123,17 @@ BeamDesign designBeam(const DesignData& data, const MiscProperties& misc) {
     return design;
 }
 
-Failure unfitForDesign(double Divisions, const MiscProperties& misc) {
-    if (auto failure = unfitDivisions(Divisions))
-        return failure;
+Objection unfitForDesign(double Divisions, const MiscProperties& misc) {
+    if (const auto objection = unfitDivisions(Divisions))
+        return objection;
     if (!areFinite({misc.cover, misc.links, misc.hagg}))
         return Refusal{
             "Cover, link size and aggregate size must be numbers of mm; one of them is too large."};
     return std::nullopt;
 }
 
-Failure writeDesign(const std::filesystem::path& folder, const BeamDesign& design, double Divisions,
-                    const MiscProperties& misc) {
+Status writeDesign(const std::filesystem::path& folder, const BeamDesign& design, double Divisions,
+                   const MiscProperties& misc) {
     FileSet files(folder);
     files.add(DesignRow::file).write(textOf(design.rows, Description::bare));
     auto record = readRecord(folder);
@@ -154,14 +154,14 @@ std::string_view remarkOnDesign(const std::filesystem::path& folder, double Divi
 
 Outcome<BeamDesign> designFolder(const std::filesystem::path& folder, double Divisions,
                                  const MiscProperties& misc) {
-    if (auto failure = unfitForDesign(Divisions, misc))
-        return *failure;
+    if (const auto objection = unfitForDesign(Divisions, misc))
+        return *objection;
     const auto data = readDesignData(folder, Divisions);
     if (!data)
         return data.refusal();
     auto design = designBeam(*data, misc);
-    if (auto failure = writeDesign(folder, design, Divisions, misc))
-        return *failure;
+    if (const auto status = writeDesign(folder, design, Divisions, misc); status.failed())
+        return status.refusal();
     return design;
 }
 

@@ -42,11 +42,11 @@ struct BeamDesign {
 [[nodiscard]] BeamDesign designBeam(const DesignData& data, const MiscProperties& misc);
 
 /// Refuses Divisions that an analysis refuses, and properties that are not finite numbers.
-[[nodiscard]] Failure unfitForDesign(double Divisions, const MiscProperties& misc);
+[[nodiscard]] Objection unfitForDesign(double Divisions, const MiscProperties& misc);
 
 /// Replaces "DResult.txt" in a working folder, and records what the design was made from.
-[[nodiscard]] Failure writeDesign(const std::filesystem::path& folder, const BeamDesign& design,
-                                  double Divisions, const MiscProperties& misc);
+[[nodiscard]] Status writeDesign(const std::filesystem::path& folder, const BeamDesign& design,
+                                 double Divisions, const MiscProperties& misc);
 
 /// What to show next to "DResult.txt". Nothing if the file is absent, or was designed from the
 /// stations, dimensions and properties that are there now. Otherwise that the user must analyse or

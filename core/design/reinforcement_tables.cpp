@@ -32,11 +32,11 @@ std::string linkResistances() {
     return text;
 }
 
-Failure writeSteelAreas(const std::filesystem::path& folder) {
+Status writeSteelAreas(const std::filesystem::path& folder) {
     return replaceFile(folder / working_file::steelAreas, steelAreas());
 }
 
-Failure writeLinkResistances(const std::filesystem::path& folder) {
+Status writeLinkResistances(const std::filesystem::path& folder) {
     return replaceFile(folder / working_file::linkResistances, linkResistances());
 }
 

@@ -17,7 +17,7 @@ namespace trabeon {
 [[nodiscard]] std::string linkResistances();
 
 /// Each replaces its file in a working folder.
-[[nodiscard]] Failure writeSteelAreas(const std::filesystem::path& folder);
-[[nodiscard]] Failure writeLinkResistances(const std::filesystem::path& folder);
+[[nodiscard]] Status writeSteelAreas(const std::filesystem::path& folder);
+[[nodiscard]] Status writeLinkResistances(const std::filesystem::path& folder);
 
 }  // namespace trabeon

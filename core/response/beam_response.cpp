@@ -55,9 +55,9 @@ std::vector<JointResponse> jointResponses(const LoadedBeam& loaded) {
     return joints;
 }
 
-Failure unfitForResponse(const LoadedBeam& loaded) {
-    if (auto failure = refusalOf(strayLoads(loaded)))
-        return failure;
+Objection unfitForResponse(const LoadedBeam& loaded) {
+    if (const auto objection = objectionTo(strayLoads(loaded)))
+        return objection;
     for (std::size_t member = 1; member <= loaded.beam.members(); ++member)
         if (!MemberResponse(loaded, member).isFinite())
             return tooLarge(member);
@@ -65,8 +65,8 @@ Failure unfitForResponse(const LoadedBeam& loaded) {
 }
 
 Outcome<BeamResponse> responseOf(const LoadedBeam& loaded) {
-    if (auto failure = refusalOf(strayLoads(loaded)))
-        return *failure;
+    if (const auto objection = objectionTo(strayLoads(loaded)))
+        return *objection;
     BeamResponse response;
     response.members.reserve(loaded.beam.members());
     for (std::size_t member = 1; member <= loaded.beam.members(); ++member) {

@@ -24,7 +24,7 @@ struct JointResponse {
 /// Refuses a beam that has no response: a load that leaves its member or has a negative width, or
 /// a curve with values beyond the range of a double. The refusal names the row (its place in the
 /// normal form) or the member.
-[[nodiscard]] Failure unfitForResponse(const LoadedBeam& loaded);
+[[nodiscard]] Objection unfitForResponse(const LoadedBeam& loaded);
 
 /// All curves and joints of a beam.
 struct BeamResponse {

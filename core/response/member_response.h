@@ -38,8 +38,8 @@ struct ResponsePiece {
 /// The curves of one member.
 class MemberResponse {
   public:
-    /// Of a member, from 1, whose loads are all on it (see refusalOf() in stray_loads.h). The cost
-    /// is that of sorting the member's loads.
+    /// Of a member, from 1, whose loads are all on it (see objectionTo() in stray_loads.h). The
+    /// cost is that of sorting the member's loads.
     MemberResponse(const LoadedBeam& loaded, std::size_t member);
 
     [[nodiscard]] double length() const { return L_; }

@@ -21,16 +21,14 @@ struct Message {
 /// Shows messages, in the order in which they come.
 using MessageSink = std::function<void(const Message&)>;
 
-/// Shows a message about the structure, then sets Shown to true: a message shown is an error.
-void Mbox(std::string Msg, bool& Shown, const MessageSink& show);
+/// Shows a message about the structure.
+void Mbox(std::string Msg, const MessageSink& show);
 
 /// Checks the sequence of joint types, which are compared as exact texts; any other text passes.
-/// Shows a message for each broken rule, and then sets JointError to true.
-void CheckJoint(const std::vector<JointRow>& joints, bool& JointError, const MessageSink& show);
+/// Returns a message for each broken rule, in the order of the joints.
+[[nodiscard]] std::vector<std::string> CheckJoint(const std::vector<JointRow>& joints);
 
-/// Checks that there is one member less than joints. Otherwise shows a message, and sets
-/// MemberError to true.
-void CheckMember(std::size_t joints, std::size_t members, bool& MemberError,
-                 const MessageSink& show);
+/// Checks that there is one member less than joints. Otherwise returns a message.
+[[nodiscard]] std::vector<std::string> CheckMember(std::size_t joints, std::size_t members);
 
 }  // namespace trabeon

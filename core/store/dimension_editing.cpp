@@ -41,9 +41,8 @@ Rows inOrder(const Rows& rows, const BeamExtent& extent) {
 
 }  // namespace
 
-Failure addDimensions(const std::filesystem::path& folder, std::size_t position,
-                      BeamDimensionRow row, SectionRange sections,
-                      std::optional<BeamExtent> order) {
+Status addDimensions(const std::filesystem::path& folder, std::size_t position,
+                     BeamDimensionRow row, SectionRange sections, std::optional<BeamExtent> order) {
     auto found = rowsToChange<BeamDimensionRow>(folder);
     if (!found)
         return found.refusal();

@@ -26,8 +26,8 @@ struct BeamExtent {
 ///
 /// With `order` the file is then sorted by member and section; rows of one section keep their
 /// order. A row whose member or section is not a whole number within the extent is lost.
-[[nodiscard]] Failure addDimensions(const std::filesystem::path& folder, std::size_t position,
-                                    BeamDimensionRow row, SectionRange sections,
-                                    std::optional<BeamExtent> order);
+[[nodiscard]] Status addDimensions(const std::filesystem::path& folder, std::size_t position,
+                                   BeamDimensionRow row, SectionRange sections,
+                                   std::optional<BeamExtent> order);
 
 }  // namespace trabeon

@@ -52,24 +52,24 @@ ReplacingFile& FileSet::add(std::string_view name) {
     return files_.emplace_back(folder_ / name);
 }
 
-Failure FileSet::commit() {
+Status FileSet::commit() {
     std::string names;
     for (auto& file : files_) {
-        if (auto failure = file.finish())
-            return failure;
+        if (const auto status = file.finish(); status.failed())
+            return status;
         (names += file.temporary().path().filename().string()) += '\n';
     }
     const SignalsWait wait;
     const auto list = folder_ / working_file::unfinishedSet;
-    if (auto failure = replaceFile(list, names))
-        return failure;
+    if (const auto status = replaceFile(list, names); status.failed())
+        return status;
     for (auto& file : files_)
         file.temporary().keepOnSignal();
-    Failure failure;
-    for (auto file = files_.begin(); file != files_.end() && !failure; ++file)
-        failure = file->commit();
+    Status status;
+    for (auto file = files_.begin(); file != files_.end() && status.done(); ++file)
+        status = file->commit();
     MurderFile(list);
-    return failure;
+    return status;
 }
 
 void finishSet(const fs::path& folder) {

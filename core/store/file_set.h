@@ -22,7 +22,7 @@ class FileSet {
     ReplacingFile& add(std::string_view name);
 
     /// Replaces the files, in the order in which they were added.
-    [[nodiscard]] Failure commit();
+    [[nodiscard]] Status commit();
 
   private:
     std::filesystem::path folder_;

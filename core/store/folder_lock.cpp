@@ -97,9 +97,9 @@ FolderLock::~FolderLock() {
         ::close(descriptor_);
 }
 
-Failure FolderLock::take(const fs::path& folder, std::chrono::milliseconds patience) {
+Status FolderLock::take(const fs::path& folder, std::chrono::milliseconds patience) {
     if (descriptor_ >= 0)
-        return std::nullopt;
+        return {};
     int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     int error = descriptor < 0 ? errno : lockWithin(descriptor, patience);
     if (error == EBADF) {
@@ -110,7 +110,7 @@ Failure FolderLock::take(const fs::path& folder, std::chrono::milliseconds patie
     }
     if (error == 0) {
         descriptor_ = descriptor;
-        return std::nullopt;
+        return {};
     }
     const bool held = error == EWOULDBLOCK;
     if (held)

@@ -28,8 +28,8 @@ class FolderLock {
 
     /// Takes the lock if this object does not have it yet, and waits for it up to `patience`. The
     /// refusal says who holds the folder, or why it cannot be locked.
-    [[nodiscard]] Failure take(const std::filesystem::path& folder,
-                               std::chrono::milliseconds patience);
+    [[nodiscard]] Status take(const std::filesystem::path& folder,
+                              std::chrono::milliseconds patience);
 
     /// Who held the folder when take() gave up.
     [[nodiscard]] const FolderHolder& holder() const { return holder_; }

@@ -5,12 +5,12 @@
 
 namespace trabeon {
 
-Failure CreateNFile(const std::filesystem::path& folder) {
+Status CreateNFile(const std::filesystem::path& folder) {
     FileSet files(folder);
     for (const auto name : projectFiles)
         files.add(name);
-    if (auto failure = files.commit())
-        return failure;
+    if (const auto status = files.commit(); status.failed())
+        return status;
     MurderFile(folder / working_file::title);
     MurderFile(folder / working_file::record);
     for (const auto name : projectFiles)
@@ -18,7 +18,7 @@ Failure CreateNFile(const std::filesystem::path& folder) {
             return Refusal{'"' + (folder / name).string() +
                            "\" cannot be emptied. It still holds rows of another project; move it "
                            "away, then try again."};
-    return std::nullopt;
+    return {};
 }
 
 }  // namespace trabeon

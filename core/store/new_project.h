@@ -9,6 +9,6 @@ namespace trabeon {
 
 /// Creates the seven project files of the folder, empty: all of them or none. Removes the title and
 /// the record. Refuses if a file cannot be emptied.
-[[nodiscard]] Failure CreateNFile(const std::filesystem::path& folder);
+[[nodiscard]] Status CreateNFile(const std::filesystem::path& folder);
 
 }  // namespace trabeon

@@ -45,7 +45,7 @@ Refusal taken(const fs::path& file, std::string_view kind) {
 
 }  // namespace
 
-Failure unfitDocumentFile(const fs::path& file, const fs::path& project) {
+Objection unfitDocumentFile(const fs::path& file, const fs::path& project) {
     std::error_code missing;
     if (fs::equivalent(file, project, missing))
         return Refusal{"\"" + file.string() +
@@ -56,11 +56,13 @@ Failure unfitDocumentFile(const fs::path& file, const fs::path& project) {
     return taken(file, "document (.docx)");
 }
 
-Failure unfitProjectFile(const fs::path& file) {
+Objection unfitProjectFile(const fs::path& file) {
     const bool isProject = isFree(file) || begins(file, projectStart) ||
                            begins(file, std::string(byteOrderMark) + std::string(projectStart)) ||
                            readProject(file);
-    return isProject ? Failure() : taken(file, "project file");
+    if (isProject)
+        return std::nullopt;
+    return taken(file, "project file");
 }
 
 fs::path resultFolder(const fs::path& project) {

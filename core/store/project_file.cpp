@@ -164,7 +164,7 @@ class Unpacker {
     }
 
     FieldReader reader_;
-    Failure wrong_;
+    Objection wrong_;
 };
 
 /// The working files of a project, and the members that have their texts.
@@ -177,7 +177,7 @@ constexpr std::array<std::pair<std::string_view, std::string Project::*>, 6> pac
     {working_file::beamDimensions, &Project::beamDimensions},
 }};
 
-Failure unfitTitle(std::string_view text) {
+Objection unfitTitle(std::string_view text) {
     const auto quoted = "The title text \"" + excerpt(text) + "\" ";
     if (text.find_first_of("\"\r\n") != text.npos)
         return Refusal{quoted +
@@ -228,7 +228,7 @@ Outcome<Project> readProject(const std::filesystem::path& file) {
     return checkedProject(*text, file);
 }
 
-Failure writeWorkingFiles(const Project& project, const std::filesystem::path& folder) {
+Status writeWorkingFiles(const Project& project, const std::filesystem::path& folder) {
     FileSet files(folder);
     for (const auto& [name, text] : packedFiles)
         files.add(name).write(project.*text);
@@ -251,16 +251,16 @@ Failure writeWorkingFiles(const Project& project, const std::filesystem::path& f
 
 Outcome<OpenedProject> unpackProject(const std::filesystem::path& file,
                                      const std::filesystem::path& folder) {
-    if (auto failure = unfitForProject(file, folder))
-        return *failure;
+    if (const auto objection = unfitForProject(file, folder))
+        return *objection;
     const auto text = projectText(file);
     if (!text)
         return text.refusal();
     const auto project = checkedProject(*text, file);
     if (!project)
         return project.refusal();
-    if (auto failure = writeWorkingFiles(*project, folder))
-        return *failure;
+    if (const auto status = writeWorkingFiles(*project, folder); status.failed())
+        return status.refusal();
     return OpenedProject{project->title, fingerprint(*text)};
 }
 
@@ -298,11 +298,11 @@ void keepTitle(const std::filesystem::path& folder, const ProjectTitle& title) {
 
 Outcome<std::uint64_t> packProject(const std::filesystem::path& folder, const ProjectTitle& title,
                                    const std::filesystem::path& file) {
-    if (auto failure = unfitForProject(file, folder))
-        return *failure;
+    if (const auto objection = unfitForProject(file, folder))
+        return *objection;
     for (const auto& text : {title.project, title.designer, title.beamName})
-        if (auto failure = unfitTitle(text))
-            return *failure;
+        if (const auto objection = unfitTitle(text))
+            return *objection;
     auto project = projectIn(folder);
     if (!project)
         return project.refusal();
@@ -313,8 +313,8 @@ Outcome<std::uint64_t> packProject(const std::filesystem::path& folder, const Pr
             "The project was not saved, because it could not be opened again: of what would "
             "be written, " +
             again.refusal().sentence + ". Correct that row, then save again."};
-    if (auto failure = replaceFile(file, text, Survives::powerCut))
-        return *failure;
+    if (const auto status = replaceFile(file, text, Survives::powerCut); status.failed())
+        return status.refusal();
     return fingerprint(text);
 }
 

@@ -47,8 +47,7 @@ struct Project {
 
 /// Writes the texts of a project to the six working files of a folder, all of them or none.
 /// "BM.txt" does not change.
-[[nodiscard]] Failure writeWorkingFiles(const Project& project,
-                                        const std::filesystem::path& folder);
+[[nodiscard]] Status writeWorkingFiles(const Project& project, const std::filesystem::path& folder);
 
 /// The project in a folder. A missing file is empty; a missing title is that of a new project.
 /// Refuses files that cannot be read.

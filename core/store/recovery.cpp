@@ -53,16 +53,16 @@ bool wasRecoveredBefore(std::string_view text, const fs::path& folder) {
 }
 
 /// Renames what an earlier start has recovered to the first free name.
-Failure setAside(const fs::path& recovered) {
+Status setAside(const fs::path& recovered) {
     std::error_code error;
     if (!fs::exists(fs::symlink_status(recovered, error)))
-        return std::nullopt;
+        return {};
     auto kept = recovered;
     for (int number = 2; fs::exists(fs::symlink_status(kept, error)); ++number)
         kept.replace_filename("Recovered " + std::to_string(number) + ".TB");
     fs::rename(recovered, kept, error);
     if (!error)
-        return std::nullopt;
+        return {};
     return Refusal{"\"" + recovered.string() + "\" of an earlier run could not be renamed (" +
                    error.message() + "). Move it away, then start again."};
 }
@@ -80,10 +80,10 @@ Outcome<bool> recoverRows(const fs::path& folder) {
     const auto target = folder / recoveredProject;
     if (isWithin(text, packedText({})) || wasRecoveredBefore(text, folder))
         return false;
-    if (auto failure = setAside(target))
-        return *failure;
-    if (auto failure = replaceFile(target, text, Survives::powerCut))
-        return *failure;
+    if (const auto status = setAside(target); status.failed())
+        return status.refusal();
+    if (const auto status = replaceFile(target, text, Survives::powerCut); status.failed())
+        return status.refusal();
     return true;
 }
 

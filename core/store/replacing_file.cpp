@@ -38,7 +38,7 @@ bool isWriteProtected(const fs::path& file, const struct stat& status) {
 }
 
 /// Why a file must not be replaced; a file that is not there may be written.
-Failure unfitTarget(const fs::path& file) {
+Objection unfitTarget(const fs::path& file) {
     struct stat status {};
     if (::stat(file.c_str(), &status) != 0)
         return std::nullopt;
@@ -60,12 +60,12 @@ ReplacingFile::ReplacingFile(const fs::path& target, Survives survives)
       buffer_(std::make_unique_for_overwrite<char[]>(capacity)) {
     const auto file = resolved(target);
     if (!file) {
-        wrong_ = file.refusal();
+        status_ = file.refusal();
         return;
     }
     target_ = *file;
-    wrong_ = unfitTarget(target_);
-    if (!wrong_)
+    status_ = unfitTarget(target_);
+    if (status_.done())
         note(fresh_.create(target_));
 }
 
@@ -86,42 +86,42 @@ void ReplacingFile::flush() {
 }
 
 void ReplacingFile::put(std::string_view text) {
-    if (!wrong_)
+    if (status_.done())
         note(fresh_.write(text));
 }
 
-Failure ReplacingFile::finish() {
+Status ReplacingFile::finish() {
     if (finished_)
-        return std::nullopt;
+        return {};
     flush();
-    if (!wrong_)
-        wrong_ = unfitTarget(target_);  // a rename would fail, and too late for a set of files
-    if (!wrong_ && survives_ == Survives::powerCut)
+    if (status_.done())
+        status_ = unfitTarget(target_);  // a rename would fail, and too late for a set of files
+    if (status_.done() && survives_ == Survives::powerCut)
         note(fresh_.flushToDisk());
     note(fresh_.close());
-    finished_ = !wrong_;
-    return wrong_;
+    finished_ = status_.done();
+    return status_;
 }
 
-Failure ReplacingFile::commit() {
-    if (auto failure = finish())
-        return failure;
+Status ReplacingFile::commit() {
+    if (const auto status = finish(); status.failed())
+        return status;
     note(fresh_.takePlace());
-    if (wrong_ || survives_ == Survives::processEnd)
-        return wrong_;
+    if (status_.failed() || survives_ == Survives::processEnd)
+        return status_;
     if (const int error = flushFolder(target_.parent_path()))
-        wrong_ = Refusal{quoted(target_) + " was written, but its disk does not confirm that it " +
-                         "would survive a power cut (" + std::generic_category().message(error) +
-                         "). Save it on another disk too."};
-    return wrong_;
+        status_ = Refusal{quoted(target_) + " was written, but its disk does not confirm that it " +
+                          "would survive a power cut (" + std::generic_category().message(error) +
+                          "). Save it on another disk too."};
+    return status_;
 }
 
 void ReplacingFile::note(int error) {
-    if (error != 0 && !wrong_)
-        wrong_ = unwritten(target_, error);
+    if (error != 0 && status_.done())
+        status_ = unwritten(target_, error);
 }
 
-Failure replaceFile(const fs::path& target, std::string_view text, Survives survives) {
+Status replaceFile(const fs::path& target, std::string_view text, Survives survives) {
     ReplacingFile file(target, survives);
     file.write(text);
     return file.commit();

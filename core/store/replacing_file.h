@@ -41,10 +41,10 @@ class ReplacingFile {
 
     /// Writes the rest of the buffer to the temporary file. A full disk is noticed here at the
     /// latest.
-    [[nodiscard]] Failure finish();
+    [[nodiscard]] Status finish();
 
     /// Replaces the old file. Calls finish() first if that was not done.
-    [[nodiscard]] Failure commit();
+    [[nodiscard]] Status commit();
 
     /// The temporary file, for a set of files that are replaced together.
     [[nodiscard]] TemporaryFile& temporary() { return fresh_; }
@@ -54,7 +54,7 @@ class ReplacingFile {
 
     void flush();
     void put(std::string_view text);
-    /// Keeps the first failure.
+    /// Keeps the first error.
     void note(int error);
 
     std::filesystem::path target_;
@@ -62,12 +62,12 @@ class ReplacingFile {
     Survives survives_;
     std::unique_ptr<char[]> buffer_;
     std::size_t used_ = 0;
-    Failure wrong_;
+    Status status_;
     bool finished_ = false;
 };
 
 /// Replaces the content of a file by this text.
-[[nodiscard]] Failure replaceFile(const std::filesystem::path& target, std::string_view text,
-                                  Survives survives = Survives::processEnd);
+[[nodiscard]] Status replaceFile(const std::filesystem::path& target, std::string_view text,
+                                 Survives survives = Survives::processEnd);
 
 }  // namespace trabeon

@@ -17,8 +17,8 @@ namespace trabeon {
 /// file too: another program took it away, and its rows would be lost.
 template <EditedRow Row>
 [[nodiscard]] Outcome<std::vector<Row>> rowsToChange(const std::filesystem::path& folder) {
-    if (auto failure = missing(folder, std::array{Row::file}))
-        return *failure;
+    if (const auto objection = missing(folder, std::array{Row::file}))
+        return *objection;
     const auto text = readFile(folder / Row::file);
     if (!text)
         return text.refusal();
@@ -27,19 +27,20 @@ template <EditedRow Row>
 
 /// Writes the rows to the scratch file and copies it over the working file.
 template <EditedRow Row>
-[[nodiscard]] Failure rewriteRows(const std::filesystem::path& folder,
-                                  const std::vector<Row>& rows) {
+[[nodiscard]] Status rewriteRows(const std::filesystem::path& folder,
+                                 const std::vector<Row>& rows) {
     const auto scratch = folder / Row::scratch;
-    if (auto failure = replaceFile(scratch, textOf(rows, Description::quoted)))
-        return failure;
+    if (const auto status = replaceFile(scratch, textOf(rows, Description::quoted));
+        status.failed())
+        return status;
     return DuplicateFile(scratch, folder / Row::file);
 }
 
 /// Puts a row after the first `position` rows of its file; the others stay as they were read.
 /// A position beyond the end counts as the end.
 template <EditedRow Row>
-[[nodiscard]] Failure addRow(const std::filesystem::path& folder, std::size_t position,
-                             const Row& row) {
+[[nodiscard]] Status addRow(const std::filesystem::path& folder, std::size_t position,
+                            const Row& row) {
     auto rows = rowsToChange<Row>(folder);
     if (!rows)
         return rows.refusal();
@@ -54,13 +55,13 @@ enum class Numbering { asRead, fromOne };
 /// Removes row `position`, counting from 1, from its file. A position without a row changes
 /// nothing.
 template <EditedRow Row>
-[[nodiscard]] Failure removeRow(const std::filesystem::path& folder, std::size_t position,
-                                Numbering numbering) {
+[[nodiscard]] Status removeRow(const std::filesystem::path& folder, std::size_t position,
+                               Numbering numbering) {
     auto rows = rowsToChange<Row>(folder);
     if (!rows)
         return rows.refusal();
     if (position == 0 || position > rows->size())
-        return std::nullopt;
+        return {};
     rows->erase(rows->begin() + static_cast<std::ptrdiff_t>(position - 1));
     if (numbering == Numbering::fromOne)
         for (std::size_t i = 0; i < rows->size(); ++i)

@@ -104,7 +104,7 @@ std::string readWhole(const std::filesystem::path& file) {
     return text ? std::move(*text) : std::string();
 }
 
-Failure missing(const std::filesystem::path& folder, std::span<const std::string_view> names) {
+Objection missing(const std::filesystem::path& folder, std::span<const std::string_view> names) {
     std::error_code error;
     for (const auto name : names)
         if (!std::filesystem::exists(folder / name, error))
@@ -114,12 +114,14 @@ Failure missing(const std::filesystem::path& folder, std::span<const std::string
     return std::nullopt;
 }
 
-Failure DuplicateFile(const std::filesystem::path& Source, const std::filesystem::path& Target) {
+Status DuplicateFile(const std::filesystem::path& Source, const std::filesystem::path& Target) {
     std::error_code error;
     if (!std::filesystem::exists(Source, error))
         return unreadable(Source, ENOENT);
     const auto text = readFile(Source);
-    return text ? replaceFile(Target, *text) : Failure(text.refusal());
+    if (!text)
+        return text.refusal();
+    return replaceFile(Target, *text);
 }
 
 void MurderFile(const std::filesystem::path& file) {

@@ -113,12 +113,12 @@ template <std::size_t Count>
 
 /// Refuses if one of these files is missing, and names the first. A run creates them all, so
 /// another program has removed it. The project then does not simply have no such rows.
-[[nodiscard]] Failure missing(const std::filesystem::path& folder,
-                              std::span<const std::string_view> names);
+[[nodiscard]] Objection missing(const std::filesystem::path& folder,
+                                std::span<const std::string_view> names);
 
 /// Copies Source over Target, whole or not at all, and returns why the copy failed. Shows nothing.
-[[nodiscard]] Failure DuplicateFile(const std::filesystem::path& Source,
-                                    const std::filesystem::path& Target);
+[[nodiscard]] Status DuplicateFile(const std::filesystem::path& Source,
+                                   const std::filesystem::path& Target);
 
 /// Deletes a file. Shows nothing, also if there is none.
 void MurderFile(const std::filesystem::path& file);

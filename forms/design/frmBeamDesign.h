@@ -1,10 +1,10 @@
 // The results of the design run, a row for each section; what failed stands out.
 #pragma once
 
-#include "forms/main/context.h"
-#include "forms/results/remark.h"
-#include "toolkit/form.h"
-#include "toolkit/list_view.h"
+#include "forms/settings/remark.h"
+#include "forms/shared/context.h"
+#include "toolkit/controls/list_view.h"
+#include "toolkit/windows/form.h"
 
 namespace trabeon {
 

@@ -4,10 +4,10 @@
 #include "core/design/shear.h"
 #include "core/store/member_length.h"
 #include "forms/design/frmBeamDesign.h"
-#include "forms/design/frmMisc.h"
-#include "forms/main/keys.h"
-#include "forms/results/frmOptions.h"
-#include "toolkit/wait_cursor.h"
+#include "forms/settings/frmMisc.h"
+#include "forms/settings/frmOptions.h"
+#include "forms/shared/keys.h"
+#include "toolkit/windows/wait_cursor.h"
 
 namespace trabeon {
 namespace {
@@ -117,7 +117,7 @@ void frmBeamDimensions::Form_Resize() {
 }
 
 double frmBeamDimensions::divisions() const {
-    return optionsInTheBackground(context_).Settings().Divisions;
+    return context_.forms.InTheBackground<frmOptions>().Settings().Divisions;
 }
 
 /// The design uses the first row of a section: others are grey.
@@ -150,8 +150,8 @@ void frmBeamDimensions::sortList() {
 
 void frmBeamDimensions::cmdAdd_Click() {
     const double Divisions = divisions();
-    if (const auto failure = unfitDivisions(Divisions)) {
-        warn(failure->sentence);
+    if (const auto objection = unfitDivisions(Divisions)) {
+        warn(objection->sentence);
         return;
     }
     if (optVary.Value() && cboSection.ListCount() == 0) {  // they were unfit at the load
@@ -187,8 +187,9 @@ void frmBeamDimensions::Adding(const SectionRange& SelectedSection, double MemLe
                                lengthText(MemLen)};
     auto lastAdded = row;
     lastAdded.Section = std::to_string(SelectedSection.last);
-    if (const auto failure = addDimensions(context_.folder, position, row, SelectedSection, order))
-        warn(failure->sentence);
+    if (const auto status = addDimensions(context_.folder, position, row, SelectedSection, order);
+        status.failed())
+        warn(status.refusal().sentence);
     ListView1.SetSorted(false);  // the last row of the file is looked for, not of the order shown
     rows_.Fill();
     rows_.SelectLast();
@@ -203,8 +204,9 @@ void frmBeamDimensions::cmdRemove_Click() {
 }
 
 void frmBeamDimensions::Command1_Click() {
-    if (const auto failure = replaceFile(context_.folder / BeamDimensionRow::file, {})) {
-        warn(failure->sentence);
+    if (const auto status = replaceFile(context_.folder / BeamDimensionRow::file, {});
+        status.failed()) {
+        warn(status.refusal().sentence);
         return;
     }
     MurderFile(context_.folder / BeamDimensionRow::scratch);
@@ -213,7 +215,7 @@ void frmBeamDimensions::Command1_Click() {
 }
 
 void frmBeamDimensions::cmdDesign_Click() {
-    const auto properties = miscInTheBackground(context_).Properties();
+    const auto properties = context_.forms.InTheBackground<frmMisc>().Properties();
     const double Divisions = divisions();
     context_.forms.Unload(frmBeamDesign::Name);
     auto& results = context_.forms.Get<frmBeamDesign>();

@@ -5,11 +5,11 @@
 #include <utility>
 
 #include "core/store/dimension_editing.h"
-#include "forms/input/row_editor.h"
-#include "toolkit/combo_box.h"
-#include "toolkit/form.h"
-#include "toolkit/frame.h"
-#include "toolkit/option_button.h"
+#include "forms/shared/row_editor.h"
+#include "toolkit/controls/combo_box.h"
+#include "toolkit/controls/frame.h"
+#include "toolkit/controls/option_button.h"
+#include "toolkit/windows/form.h"
 
 namespace trabeon {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/design/table_form.h"
-#include "toolkit/label.h"
+#include "toolkit/controls/label.h"
 
 namespace trabeon {
 

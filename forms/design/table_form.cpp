@@ -2,7 +2,7 @@
 
 #include "core/store/working_files.h"
 #include "core/text/field_reader.h"
-#include "forms/main/messages.h"
+#include "forms/shared/messages.h"
 
 namespace trabeon {
 
@@ -23,11 +23,11 @@ void TableForm::Form_Resize() {
     ListView1.Move(margin, listTop_, ScaleWidth() - 2 * margin, ScaleHeight() - listTop_ - margin);
 }
 
-void TableForm::BuildTable(Failure (*write)(const std::filesystem::path& folder),
+void TableForm::BuildTable(Status (*write)(const std::filesystem::path& folder),
                            std::string_view file) {
     ListView1.ListItems.Clear();
-    if (const auto failure = write(context_.folder)) {
-        warn(failure->sentence);
+    if (const auto status = write(context_.folder); status.failed()) {
+        warn(status.refusal().sentence);
         return;
     }
     const auto text = readWhole(context_.folder / file);

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "core/outcome.h"
-#include "forms/main/context.h"
-#include "toolkit/form.h"
-#include "toolkit/list_view.h"
+#include "forms/shared/context.h"
+#include "toolkit/controls/list_view.h"
+#include "toolkit/windows/form.h"
 
 namespace trabeon {
 
@@ -23,7 +23,7 @@ class TableForm : public Form {
     void Form_Resize() override;
 
     /// Writes the file, then shows it line by line.
-    void BuildTable(Failure (*write)(const std::filesystem::path& folder), std::string_view file);
+    void BuildTable(Status (*write)(const std::filesystem::path& folder), std::string_view file);
 
     static constexpr int margin = 120;
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "core/store/rows.h"
-#include "toolkit/picture_box.h"
+#include "toolkit/controls/picture_box.h"
 
 namespace trabeon {
 

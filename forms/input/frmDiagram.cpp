@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "forms/input/beam_drawing.h"
-#include "forms/main/add_to_report.h"
+#include "forms/shared/add_to_report.h"
 
 namespace trabeon {
 

@@ -1,10 +1,10 @@
 // The picture of the beam as entered, drawn afresh from the files at each change of size.
 #pragma once
 
-#include "forms/main/context.h"
-#include "toolkit/button.h"
-#include "toolkit/form.h"
-#include "toolkit/picture_box.h"
+#include "forms/shared/context.h"
+#include "toolkit/controls/button.h"
+#include "toolkit/controls/picture_box.h"
+#include "toolkit/windows/form.h"
 
 namespace trabeon {
 

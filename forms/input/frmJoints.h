@@ -1,10 +1,10 @@
 // The line of joints of the beam, from left to right.
 #pragma once
 
-#include "forms/input/row_editor.h"
-#include "toolkit/form.h"
-#include "toolkit/frame.h"
-#include "toolkit/web_browser.h"
+#include "forms/shared/row_editor.h"
+#include "toolkit/controls/frame.h"
+#include "toolkit/controls/web_browser.h"
+#include "toolkit/windows/form.h"
 
 namespace trabeon {
 

@@ -1,6 +1,6 @@
 #include "forms/input/frmMembers.h"
 
-#include "forms/main/keys.h"
+#include "forms/shared/keys.h"
 
 namespace trabeon {
 namespace {

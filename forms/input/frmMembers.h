@@ -1,8 +1,8 @@
 // The spans of the beam, from left to right: E, I and L in the user's own units.
 #pragma once
 
-#include "forms/input/row_editor.h"
-#include "toolkit/form.h"
+#include "forms/shared/row_editor.h"
+#include "toolkit/windows/form.h"
 
 namespace trabeon {
 

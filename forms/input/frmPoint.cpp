@@ -1,7 +1,7 @@
 #include "forms/input/frmPoint.h"
 
 #include "forms/input/load_sketches.h"
-#include "forms/main/keys.h"
+#include "forms/shared/keys.h"
 
 namespace trabeon {
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "forms/input/load_sketches.h"
-#include "forms/main/keys.h"
-#include "toolkit/outside.h"
+#include "forms/shared/keys.h"
+#include "toolkit/outside/outside.h"
 
 namespace trabeon {
 

@@ -3,11 +3,11 @@
 #pragma once
 
 #include "core/store/member_length.h"
-#include "forms/input/row_editor.h"
-#include "forms/main/add_to_report.h"
-#include "toolkit/combo_box.h"
-#include "toolkit/form.h"
-#include "toolkit/picture_box.h"
+#include "forms/shared/add_to_report.h"
+#include "forms/shared/row_editor.h"
+#include "toolkit/controls/combo_box.h"
+#include "toolkit/controls/picture_box.h"
+#include "toolkit/windows/form.h"
 
 namespace trabeon {
 

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string>
 
-#include "toolkit/picture_box.h"
+#include "toolkit/controls/picture_box.h"
 
 namespace trabeon {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "forms/main/status_line.h"
+#include "forms/shared/status_line.h"
 
 namespace trabeon {
 

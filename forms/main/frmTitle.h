@@ -2,11 +2,11 @@
 #pragma once
 
 #include "core/store/project_file.h"
-#include "forms/main/context.h"
-#include "toolkit/button.h"
-#include "toolkit/form.h"
-#include "toolkit/label.h"
-#include "toolkit/text_box.h"
+#include "forms/shared/context.h"
+#include "toolkit/controls/button.h"
+#include "toolkit/controls/label.h"
+#include "toolkit/controls/text_box.h"
+#include "toolkit/windows/form.h"
 
 namespace trabeon {
 

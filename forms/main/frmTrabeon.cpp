@@ -5,28 +5,12 @@
 #include "core/store/recovery.h"
 #include "core/store/replacing_file.h"
 #include "core/store/working_files.h"
-#include "forms/design/frmBeamDesign.h"
-#include "forms/design/frmBeamDimensions.h"
-#include "forms/design/frmMisc.h"
-#include "forms/design/frmShearResistance.h"
-#include "forms/design/frmSteelArea.h"
-#include "forms/input/frmDiagram.h"
-#include "forms/input/frmJoints.h"
-#include "forms/input/frmMembers.h"
-#include "forms/input/frmPoint.h"
-#include "forms/input/frmUDL.h"
 #include "forms/main/frmTitle.h"
-#include "forms/main/messages.h"
-#include "forms/main/status_line.h"
+#include "forms/main/registration.h"
 #include "forms/results/frmAnalysis.h"
-#include "forms/results/frmBMData.h"
-#include "forms/results/frmContinuousS.h"
-#include "forms/results/frmContinuousTB.h"
-#include "forms/results/frmMoment1.h"
-#include "forms/results/frmOptions.h"
-#include "forms/results/frmSData.h"
-#include "forms/results/frmShear1.h"
-#include "toolkit/outside.h"
+#include "forms/shared/messages.h"
+#include "forms/shared/status_line.h"
+#include "toolkit/outside/outside.h"
 
 namespace trabeon {
 namespace {
@@ -44,33 +28,11 @@ frmTrabeon::frmTrabeon(const std::filesystem::path& folder)
     : window_(untitledCaption), forms_(window_), context_{folder, {}, {}, {}, {}, forms_} {
     context_.dataChanged.onChange = [this] { showSummary(context_); };
     context_.CommonDialog1.InitDir = (folder / "examples").string();
-    registerForms();
+    registerForms(context_);
     addMenus();
     window_.AddKey("Ctrl+Z", [this] { bringBackClosed(context_); });
     window_.QueryUnload = [this](bool& cancel) { QueryUnload(cancel); };
     window_.Unload = [this](bool& cancel) { Unload(cancel); };
-}
-
-void frmTrabeon::registerForms() {
-    forms_.Register<frmTitle>(context_);
-    forms_.Register<frmJoints>(context_);
-    forms_.Register<frmMembers>(context_);
-    forms_.Register<frmPoint>(context_);
-    forms_.Register<frmUDL>(context_);
-    forms_.Register<frmDiagram>(context_);
-    forms_.Register<frmAnalysis>(context_);
-    forms_.Register<frmOptions>(context_);
-    forms_.Register<frmMoment1>(context_);
-    forms_.Register<frmShear1>(context_);
-    forms_.Register<frmContinuousTB>(context_);
-    forms_.Register<frmContinuousS>(context_);
-    forms_.Register<frmBMData>(context_);
-    forms_.Register<frmSData>(context_);
-    forms_.Register<frmBeamDimensions>(context_);
-    forms_.Register<frmMisc>(context_);
-    forms_.Register<frmBeamDesign>(context_);
-    forms_.Register<frmSteelArea>(context_);
-    forms_.Register<frmShearResistance>(context_);
 }
 
 bool frmTrabeon::Start() {
@@ -92,8 +54,8 @@ bool frmTrabeon::Start() {
              recovered.refusal().sentence);
         return false;
     }
-    if (const auto failure = CreateNFile(context_.folder)) {
-        warn("The rows of the last run cannot be emptied: " + failure->sentence);
+    if (const auto status = CreateNFile(context_.folder); status.failed()) {
+        warn("The rows of the last run cannot be emptied: " + status.refusal().sentence);
         return false;
     }
     startUntitled();
@@ -104,21 +66,21 @@ bool frmTrabeon::Start() {
 }
 
 bool frmTrabeon::takeFolder() {
-    auto failure = lock_.take(context_.folder, std::chrono::seconds(0));
-    if (failure && lock_.holder().runsThisProgram) {
+    auto taken = lock_.take(context_.folder, std::chrono::seconds(0));
+    if (taken.failed() && lock_.holder().runsThisProgram) {
         warn("Trabeon is already running.");
         return false;
     }
-    if (failure)  // a command of trabeon-batch is soon done
-        failure = lock_.take(context_.folder, std::chrono::seconds(3));
-    if (failure)
-        warn(failure->sentence);
-    return !failure;
+    if (taken.failed())  // a command of trabeon-batch is soon done
+        taken = lock_.take(context_.folder, std::chrono::seconds(3));
+    if (taken.failed())
+        warn(taken.refusal().sentence);
+    return taken.done();
 }
 
 bool frmTrabeon::folderIsWritable() const {
     const auto probe = context_.folder / "Writable.tmp";
-    if (replaceFile(probe, "x"))  // a full disk takes an empty file
+    if (replaceFile(probe, "x").failed())  // a full disk takes an empty file
         return false;
     MurderFile(probe);
     return true;
@@ -166,8 +128,8 @@ Answer frmTrabeon::answerAboutDisk() const {
 }
 
 bool frmTrabeon::writeProject() {
-    if (const auto failure = missing(context_.folder, projectFiles)) {
-        warn(failure->sentence);
+    if (const auto objection = missing(context_.folder, projectFiles)) {
+        warn(objection->sentence);
         return false;
     }
     const auto title = forms_.Get<frmTitle>().Title();
@@ -247,12 +209,12 @@ void frmTrabeon::mnuNew_Click() {
         return;
     const auto title = loadedTitle();
     forms_.UnloadAll();
-    const auto failure = CreateNFile(context_.folder);
-    if (!failure) {
+    const auto emptied = CreateNFile(context_.folder);
+    if (emptied.done()) {
         startUntitled();
         return;
     }
-    warn(failure->sentence);
+    warn(emptied.refusal().sentence);
     keepOpen(title);
     context_.dataChanged = changed;
 }

@@ -6,9 +6,9 @@
 
 #include "core/store/folder_lock.h"
 #include "core/store/project_file.h"
-#include "forms/main/context.h"
-#include "toolkit/mdi_window.h"
-#include "toolkit/outside.h"
+#include "forms/shared/context.h"
+#include "toolkit/outside/outside.h"
+#include "toolkit/windows/mdi_window.h"
 
 namespace trabeon {
 
@@ -46,7 +46,6 @@ class frmTrabeon {
     [[nodiscard]] MdiWindow& window() { return window_; }
 
   private:
-    void registerForms();
     void addMenus();
     void addFileMenu();
     void addStructureMenu();

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "forms/results/diagram.h"
-#include "toolkit/list_box.h"
-#include "toolkit/progress_bar.h"
+#include "toolkit/controls/list_box.h"
+#include "toolkit/controls/progress_bar.h"
 
 namespace trabeon {
 

@@ -5,9 +5,9 @@
 
 #include "core/store/rows.h"
 #include "core/text/number_text.h"
-#include "forms/main/add_to_report.h"
-#include "forms/main/status_line.h"
-#include "forms/results/remark.h"
+#include "forms/settings/remark.h"
+#include "forms/shared/add_to_report.h"
+#include "forms/shared/status_line.h"
 
 namespace trabeon {
 namespace {
@@ -70,7 +70,7 @@ std::vector<std::string> Diagram::memberItems(const char* blanks) const {
 }
 
 std::size_t Diagram::rowsPerMember() const {
-    return stationRowsOf(optionsInTheBackground(context_).Settings().Divisions);
+    return stationRowsOf(context_.forms.InTheBackground<frmOptions>().Settings().Divisions);
 }
 
 DiagramCurve Diagram::spanOf(std::size_t member) const {
@@ -87,7 +87,7 @@ DiagramCurve Diagram::beamOf(const std::vector<std::size_t>& members) const {
 
 void Diagram::draw(const DiagramCurve& curve, std::size_t count,
                    const std::function<void(std::size_t)>& pointDone) {
-    const bool isA = (optionsInTheBackground(context_).*kind_.option).Caption() == "Option A";
+    const bool isA = (context_.forms.InTheBackground<frmOptions>().*kind_.option).Caption() == "Option A";
     const double sign = isA ? 1 : -1;
     chart.SetPointCount(pointCountOf(count));
     chart.SetPointIndex(1);  // empties the chart, in case the file has not one row to draw

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "core/analysis/diagram_curve.h"
-#include "forms/results/frmOptions.h"
-#include "toolkit/graph.h"
+#include "forms/settings/frmOptions.h"
+#include "toolkit/chart/graph.h"
 
 namespace trabeon {
 

@@ -5,13 +5,11 @@
 
 #include "core/analysis/result_files.h"
 #include "core/analysis/stray_loads.h"
-#include "forms/input/frmPoint.h"
-#include "forms/input/frmUDL.h"
-#include "forms/main/messages.h"
-#include "forms/main/status_line.h"
-#include "forms/results/frmOptions.h"
-#include "toolkit/outside.h"
-#include "toolkit/wait_cursor.h"
+#include "forms/settings/frmOptions.h"
+#include "forms/shared/messages.h"
+#include "forms/shared/status_line.h"
+#include "toolkit/outside/outside.h"
+#include "toolkit/windows/wait_cursor.h"
 
 namespace trabeon {
 namespace {
@@ -73,8 +71,8 @@ void frmAnalysis::cmdAnalyse_Click() {
     auto& options = context_.forms.Get<frmOptions>();
     const auto settings = options.Settings();
     options.Hide();
-    if (const auto failure = missing(context_.folder, inputFiles)) {
-        warn(failure->sentence);
+    if (const auto objection = missing(context_.folder, inputFiles)) {
+        warn(objection->sentence);
         return;
     }
     const WaitCursor wait;
@@ -91,22 +89,12 @@ void frmAnalysis::cmdAnalyse_Click() {
     const auto analysis = analyseFolder(context_.folder, settings, outputs);
     if (!analysis)
         return;
-    refillLoads(*analysis);
+    context_.refillLoads(*analysis);
     ShowTable();
     showSummary(context_);
     say(context_, stray.empty()
                       ? "Analysed"
                       : "Analysed. " + sentenceOf(stray.front()) + othersOf(stray.size()));
-}
-
-/// The load editors show the rows in normal form, out of sight until they are opened again.
-void frmAnalysis::refillLoads(const Analysis& analysis) {
-    auto& point = context_.forms.Get<frmPoint>();
-    auto& udl = context_.forms.Get<frmUDL>();
-    point.Refill(analysis.points.rows);
-    udl.Refill(analysis.udls.rows);
-    udl.Hide();
-    point.Hide();
 }
 
 }  // namespace trabeon

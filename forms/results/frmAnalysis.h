@@ -2,11 +2,11 @@
 #pragma once
 
 #include "core/analysis/analysis.h"
-#include "forms/main/context.h"
-#include "toolkit/button.h"
-#include "toolkit/form.h"
-#include "toolkit/progress_bar.h"
-#include "toolkit/text_view.h"
+#include "forms/shared/context.h"
+#include "toolkit/controls/button.h"
+#include "toolkit/controls/progress_bar.h"
+#include "toolkit/controls/text_view.h"
+#include "toolkit/windows/form.h"
 
 namespace trabeon {
 
@@ -29,7 +29,6 @@ class frmAnalysis : public Form {
 
   private:
     void cmdAnalyse_Click();
-    void refillLoads(const Analysis& analysis);
 
     Context& context_;
 };

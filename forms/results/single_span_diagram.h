@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "forms/results/diagram.h"
-#include "toolkit/combo_box.h"
+#include "toolkit/controls/combo_box.h"
 
 namespace trabeon {
 

@@ -36,7 +36,7 @@ void ValueTable::Form_Load() {
         SetLeft(place->first);
         SetTop(place->second);
     }
-    const auto rows = stationRowsOf(optionsInTheBackground(context_).Settings().Divisions);
+    const auto rows = stationRowsOf(context_.forms.InTheBackground<frmOptions>().Settings().Divisions);
     ListView1.ListItems.Clear();
     fill(rows);
     remark.Say(stationsRemark(context_));

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "core/store/station_reader.h"
-#include "forms/results/remark.h"
 #include "forms/results/single_span_diagram.h"
-#include "toolkit/list_view.h"
+#include "forms/settings/remark.h"
+#include "toolkit/controls/list_view.h"
 
 namespace trabeon {
 

@@ -3,7 +3,7 @@
 #include <QMdiSubWindow>
 
 #include "forms/results/frmAnalysis.h"
-#include "forms/results/frmOptions.h"
+#include "forms/settings/frmOptions.h"
 #include "tests/support/editor_fixture.h"
 
 namespace trabeon::test {

@@ -1,5 +1,5 @@
 #include "forms/design/frmBeamDimensions.h"
-#include "forms/results/frmOptions.h"
+#include "forms/settings/frmOptions.h"
 #include "tests/support/editor_fixture.h"
 
 namespace trabeon::test {

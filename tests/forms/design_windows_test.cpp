@@ -3,10 +3,10 @@
 #include "core/store/project_file.h"
 #include "forms/design/frmBeamDesign.h"
 #include "forms/design/frmBeamDimensions.h"
-#include "forms/design/frmMisc.h"
 #include "forms/design/frmShearResistance.h"
 #include "forms/design/frmSteelArea.h"
-#include "forms/results/frmOptions.h"
+#include "forms/settings/frmMisc.h"
+#include "forms/settings/frmOptions.h"
 #include "tests/support/editor_fixture.h"
 
 namespace trabeon::test {

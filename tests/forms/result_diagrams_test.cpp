@@ -4,10 +4,10 @@
 #include "forms/results/frmBMData.h"
 #include "forms/results/frmContinuousS.h"
 #include "forms/results/frmContinuousTB.h"
-#include "forms/results/frmOptions.h"
 #include "forms/results/frmSData.h"
+#include "forms/settings/frmOptions.h"
 #include "tests/support/editor_fixture.h"
-#include "toolkit/graph.h"
+#include "toolkit/chart/graph.h"
 
 namespace trabeon {
 

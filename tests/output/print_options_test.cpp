@@ -1,4 +1,4 @@
-#include "report/output/frmPrintOptions.h"
+#include "output/frmPrintOptions.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>

@@ -1,12 +1,12 @@
-#include "report/output/print_pages.h"
+#include "output/print_pages.h"
 
 #include <gtest/gtest.h>
 
 #include <QFontInfo>
 #include <QFontMetricsF>
 
-#include "toolkit/look.h"
-#include "toolkit/printer.h"
+#include "toolkit/look/look.h"
+#include "toolkit/pages/printer.h"
 
 namespace trabeon::test {
 namespace {

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "core/text/number_text.h"
-#include "report/output/chart_forms.h"
-#include "report/output/word_processor.h"
+#include "output/chart_forms.h"
+#include "output/word_processor.h"
 
 namespace trabeon::test {
 

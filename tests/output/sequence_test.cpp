@@ -3,8 +3,8 @@
 
 #include <ostream>
 
-#include "report/output/lotus_output.h"
-#include "report/output/word_output.h"
+#include "output/lotus_output.h"
+#include "output/word_output.h"
 #include "tests/output/recording.h"
 #include "tests/support/scripted_outside.h"
 #include "tests/support/temporary_folder.h"
@@ -38,7 +38,7 @@ void writeBeam(const TemporaryFolder& folder) {
 class Sequence : public testing::TestWithParam<Case> {
   protected:
     template <class Output>
-    OutputEnd Write() {
+    Outcome<Extent> Write() {
         const OutputSource source{folder.path(), {"P", "D", "B1"}, 2, charts};
         Output writer(source, objWord);
         return writeProject(source, GetParam().kinds, writer);
@@ -58,8 +58,8 @@ TEST_P(Sequence, IsTheToldOne) {
     if (stops)
         outside.ExpectMsgBox(wordStops);
     const auto end = one.isWord() ? Write<WordOutput>() : Write<LotusOutput>();
-    EXPECT_EQ(end.whole, !stops);
-    EXPECT_EQ(end.failure, "");
+    ASSERT_TRUE(end);
+    EXPECT_EQ(*end, stops ? Extent::part : Extent::whole);
     EXPECT_EQ(objWord.text(), TemporaryFolder::readFile(std::filesystem::path(CASES) / one.file));
     if (stops) {
         EXPECT_EQ(outside.lastStyle, 3);
@@ -83,7 +83,7 @@ TEST(Remarks, AreAboveTheResultsThatTheyAreAbout) {
                                   charts,
                                   objWord == &plain ? OutputRemarks{} : remarks};
         LotusOutput writer(source, *objWord);
-        ASSERT_TRUE(writeProject(source, all, writer).whole);
+        ASSERT_TRUE(writeProject(source, all, writer));
     }
     const auto found = [&](const std::string& text) { return remarked.text().find(text); };
     EXPECT_EQ(plain.text().find("of table"), std::string::npos);

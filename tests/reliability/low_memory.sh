@@ -36,5 +36,5 @@ grow() {  # what the job makes, the least memory in KiB, and the command
 
 "$build/batch/trabeon-batch" unpack "$example" "$work/beam"
 grow "$work/beam/BM.txt" 3000 "$build/batch/trabeon-batch" analyse "$work/beam" --divisions 10000
-grow "$work/beam.docx" 60000 "$build/report/output/trabeon-report" "$example" --out "$work/beam.docx"
+grow "$work/beam.docx" 60000 "$build/output/trabeon-report" "$example" --out "$work/beam.docx"
 grow "$work/DResult.txt" 60000 "$build/tests/reliability/window_job" "$work"

@@ -16,8 +16,8 @@
 #include "forms/main/frmTitle.h"
 #include "forms/main/frmTrabeon.h"
 #include "forms/results/frmAnalysis.h"
-#include "toolkit/application.h"
-#include "toolkit/desktop.h"
+#include "toolkit/desktop/desktop.h"
+#include "toolkit/windows/application.h"
 
 namespace {
 

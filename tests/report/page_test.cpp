@@ -2,7 +2,7 @@
 #include "report/pages.h"
 #include "tests/report/report_fixture.h"
 #include "tests/support/full_disk.h"
-#include "toolkit/page_canvas.h"
+#include "toolkit/pages/page_canvas.h"
 
 namespace trabeon::test {
 namespace {
@@ -35,7 +35,7 @@ class PageTest : public ReportTest {
 TEST_F(PageTest, APageTakesThePicturesThatFit) {
     using Positions = std::vector<int>;
     EXPECT_EQ(Starts(sheetText), (Positions{0})) << "an empty text is one page";
-    EXPECT_TRUE(Print(RTB()).printed);
+    EXPECT_TRUE(Print(RTB()));
     EXPECT_EQ(PrintedPages(), 1);
     AddPictures(3, 500, 310);
     EXPECT_EQ(Starts({0, 0, 9020, 930 * 15}), (Positions{0})) << "it is filled to its last dot";
@@ -48,7 +48,7 @@ TEST_F(PageTest, APageTakesThePicturesThatFit) {
     // Any position may begin a page.
     EXPECT_EQ(RTB().FormatRange(nullptr, {sheetText, sheetText, {}, 2}), 8);
     EXPECT_EQ(RTB().FormatRange(nullptr, {sheetText, sheetText, {}, 12}), 13);
-    EXPECT_TRUE(Print(RTB()).printed);
+    EXPECT_TRUE(Print(RTB()));
     EXPECT_EQ(PrintedPages(), 3);
     const auto pdf = folder.read("out.pdf");
     EXPECT_EQ(Count(pdf, "DCTDecode"), 0) << "nothing of a picture is lost";
@@ -81,7 +81,7 @@ TEST_F(PageTest, ScreenAndPaperBreakAlike) {
         Cut();
         for (int i = 0; i < 7; ++i)
             Add(560, high, 1);
-        EXPECT_TRUE(Print(RTB()).printed);
+        EXPECT_TRUE(Print(RTB()));
         EXPECT_EQ(Preview().cboPageno.ListCount(), PrintedPages()) << "height " << high;
         Preview().Unload();
         Settle();
@@ -104,20 +104,20 @@ TEST_F(PageTest, APrintThatEndsEarlyIsTold) {
     outside.clipboardPicture = pictureOf(500, 300);
     for (int i = 0; i < 7; ++i)
         box.Paste();
-    const PrintEnd stuck = Print(box);
-    EXPECT_TRUE(stuck.printed);
-    EXPECT_EQ(stuck.trouble,
+    const auto stuck = Print(box);
+    ASSERT_FALSE(stuck);
+    EXPECT_EQ(stuck.refusal().sentence,
               "The print ends with page 2: what follows could not be laid out. Cut it out of the "
               "report, then print again.");
     EXPECT_EQ(PrintedPages(), 2);
 
-    EXPECT_FALSE(Print(box, "missing/out.pdf").printed);
+    EXPECT_FALSE(Print(box, "missing/out.pdf"));
     folder.write("out.pdf", "old");
     const auto before = folder.contents();
     const FullDisk disk(4096);
-    EXPECT_EQ(Print(box).trouble, "The report could not be printed to \"" +
-                                      (folder / "out.pdf").string() +
-                                      "\". Choose another file, then try again.");
+    EXPECT_EQ(Print(box).refusal().sentence, "The report could not be printed to \"" +
+                                                 (folder / "out.pdf").string() +
+                                                 "\". Choose another file, then try again.");
     EXPECT_EQ(folder.contents(), before);
 }
 

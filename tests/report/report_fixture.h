@@ -10,7 +10,7 @@
 #include "report/frmReport.h"
 #include "report/registration.h"
 #include "tests/support/program_fixture.h"
-#include "toolkit/picture_file.h"
+#include "toolkit/outside/picture_file.h"
 
 namespace trabeon::test {
 
@@ -65,7 +65,7 @@ class ReportTest : public ProgramTest {
         Report().mnuSave.Choose();
     }
     /// Prints into out.pdf, which is given back, or another file.
-    PrintEnd Print(RichTextBox& box, const std::string& file = "out.pdf") {
+    Outcome<PrintEnd> Print(RichTextBox& box, const std::string& file = "out.pdf") {
         outside.ExpectPrinter("Trabeon Report", file.empty() ? "" : (folder / file).string());
         return PrintReport(box, 1440, 1440, 1440, 1440);
     }

@@ -23,7 +23,7 @@ TEST_F(ReportTest, PreviewPdfAndWordProcessorShowTheSamePages) {
         Click(diagram.cmdReport);
     }
     EXPECT_EQ(Preview().cboPageno.ListCount(), 3);
-    ASSERT_TRUE(Print(RTB()).printed);
+    ASSERT_TRUE(Print(RTB()));
     SaveReport((folder / "report.rtf").string());
     const auto path = QString::fromStdString(folder.path().string());
     makePdf(path, "report.rtf");
@@ -42,7 +42,7 @@ TEST_F(ReportTest, ThePrintLeavesAnInchFromTheEdgesOfTheSheet) {
     if (!canReadDocuments())
         GTEST_SKIP() << "needs poppler-utils";
     Add(601, 930);
-    ASSERT_TRUE(Print(RTB()).printed);
+    ASSERT_TRUE(Print(RTB()));
     const auto path = QString::fromStdString(folder.path().string());
     run("pdftoppm", {"-r", "96", "-png", "-singlefile", path + "/out.pdf", path + "/page"});
     const QRect ink = inkOf(QImage(path + "/page.png"));

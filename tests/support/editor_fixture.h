@@ -12,9 +12,9 @@
 #include <vector>
 
 #include "tests/support/program_fixture.h"
-#include "toolkit/list_view.h"
-#include "toolkit/picture_box.h"
-#include "toolkit/text_box.h"
+#include "toolkit/controls/list_view.h"
+#include "toolkit/controls/picture_box.h"
+#include "toolkit/controls/text_box.h"
 
 namespace trabeon::test {
 

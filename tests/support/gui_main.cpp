@@ -1,7 +1,7 @@
 // Runs the tests of a program with windows.
 #include <gtest/gtest.h>
 
-#include "toolkit/application.h"
+#include "toolkit/windows/application.h"
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);

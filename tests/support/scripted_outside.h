@@ -12,7 +12,7 @@
 #include <map>
 #include <string>
 
-#include "toolkit/outside.h"
+#include "toolkit/outside/outside.h"
 
 namespace trabeon {
 

@@ -7,10 +7,10 @@
 #include <QTest>
 
 #include "tests/support/scripted_outside.h"
-#include "toolkit/control.h"
-#include "toolkit/form.h"
-#include "toolkit/forms.h"
-#include "toolkit/mdi_window.h"
+#include "toolkit/controls/control.h"
+#include "toolkit/windows/form.h"
+#include "toolkit/windows/forms.h"
+#include "toolkit/windows/mdi_window.h"
 
 namespace trabeon {
 

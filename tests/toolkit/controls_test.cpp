@@ -6,17 +6,17 @@
 #include <QWheelEvent>
 
 #include "tests/toolkit/controls_fixture.h"
-#include "toolkit/button.h"
-#include "toolkit/combo_box.h"
-#include "toolkit/common_dialog.h"
-#include "toolkit/label.h"
-#include "toolkit/list_box.h"
-#include "toolkit/option_button.h"
-#include "toolkit/progress_bar.h"
-#include "toolkit/text_box.h"
-#include "toolkit/text_view.h"
-#include "toolkit/vertical_button.h"
-#include "toolkit/web_browser.h"
+#include "toolkit/controls/button.h"
+#include "toolkit/controls/combo_box.h"
+#include "toolkit/controls/label.h"
+#include "toolkit/controls/list_box.h"
+#include "toolkit/controls/option_button.h"
+#include "toolkit/controls/progress_bar.h"
+#include "toolkit/controls/text_box.h"
+#include "toolkit/controls/text_view.h"
+#include "toolkit/controls/vertical_button.h"
+#include "toolkit/controls/web_browser.h"
+#include "toolkit/outside/common_dialog.h"
 
 namespace trabeon {
 namespace {

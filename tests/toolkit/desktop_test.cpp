@@ -1,5 +1,5 @@
 // The real way out, as far as it can be tried without a desktop; and that the script keeps watch.
-#include "toolkit/desktop.h"
+#include "toolkit/desktop/desktop.h"
 
 #include <gtest/gtest-spi.h>
 

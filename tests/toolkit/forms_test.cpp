@@ -1,5 +1,5 @@
 // The registry of forms: what loads, shows, hides and unloads them, and when.
-#include "toolkit/forms.h"
+#include "toolkit/windows/forms.h"
 
 #include <QMainWindow>
 #include <QMdiArea>
@@ -8,8 +8,8 @@
 #include <QMenuBar>
 
 #include "tests/toolkit/controls_fixture.h"
-#include "toolkit/button.h"
-#include "toolkit/text_box.h"
+#include "toolkit/controls/button.h"
+#include "toolkit/controls/text_box.h"
 
 namespace trabeon {
 namespace {

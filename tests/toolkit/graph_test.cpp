@@ -1,5 +1,5 @@
 // The chart and the picture box: what they hold, label and hand on as pictures.
-#include "toolkit/graph.h"
+#include "toolkit/chart/graph.h"
 
 #include <QImage>
 #include <QPainter>
@@ -7,8 +7,8 @@
 #include <cmath>
 
 #include "tests/toolkit/controls_fixture.h"
-#include "toolkit/graph_plot.h"
-#include "toolkit/picture_box.h"
+#include "toolkit/chart/graph_plot.h"
+#include "toolkit/controls/picture_box.h"
 
 namespace trabeon {
 namespace {

@@ -1,5 +1,5 @@
 // The list view: which row is selected, how rows sort, and that each keeps its place in the file.
-#include "toolkit/list_view.h"
+#include "toolkit/controls/list_view.h"
 
 #include <QHeaderView>
 #include <QHelpEvent>

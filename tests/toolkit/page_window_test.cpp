@@ -1,5 +1,5 @@
 // The window that shows the manual where there is no browser, with the pages of the manual.
-#include "toolkit/page_window.h"
+#include "toolkit/desktop/page_window.h"
 
 #include <QDirIterator>
 #include <QPushButton>

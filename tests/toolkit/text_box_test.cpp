@@ -1,5 +1,5 @@
 // What the user and code can do to a text box, and which events come of it.
-#include "toolkit/text_box.h"
+#include "toolkit/controls/text_box.h"
 
 #include <QClipboard>
 #include <QInputMethodEvent>

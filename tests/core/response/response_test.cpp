@@ -241,8 +241,8 @@ TEST(Response, RefusesLoadsThatLeaveTheirMemberAndValuesBeyondADouble) {
         rows.members.front().E = E;
         const auto beam = exactBeam(rows);
         const auto response = responseOf(beam.loaded());
-        const auto failure = unfitForResponse(beam.loaded());
-        EXPECT_EQ(failure.has_value(), !response);
+        const auto objection = unfitForResponse(beam.loaded());
+        EXPECT_EQ(objection.has_value(), !response);
         return response ? "" : response.refusal().sentence;
     };
     const auto beam = "pin 6 continuous 4 pin";

@@ -83,14 +83,14 @@ TEST_F(ProjectFile, TextsOfAnyCharacterSetKeepTheirBytes) {
     text.replace(text.find("B1"), 2, longest);
     ASSERT_EQ(Refusal("\xEF\xBB\xBF" + text), "");
     const auto opened = unpackProject(folder / "a.TB", work.path());
-    EXPECT_FALSE(addRow(work.path(), 9, JointRow{"3", "Fixed", "x"}));
-    EXPECT_FALSE(removeRow<JointRow>(work.path(), 3, Numbering::asRead));
+    EXPECT_TRUE(addRow(work.path(), 9, JointRow{"3", "Fixed", "x"}).done());
+    EXPECT_TRUE(removeRow<JointRow>(work.path(), 3, Numbering::asRead).done());
     EXPECT_TRUE(packProject(work.path(), opened->title, folder / "b.TB"));
     EXPECT_EQ(folder.read("b.TB"), text);
 }
 
 TEST_F(ProjectFile, NewProjectHasAllHeadingsAndNothingBetween) {
-    EXPECT_FALSE(CreateNFile(work.path()));
+    EXPECT_TRUE(CreateNFile(work.path()).done());
     EXPECT_TRUE(packProject(work.path(), {}, folder / "new.TB"));
     const auto text = folder.read("new.TB");
     EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 11);
@@ -143,7 +143,7 @@ TEST_F(ProjectFile, RefusedOnesNameTheLineAndChangeNothing) {
 }
 
 TEST_F(ProjectFile, WhatCannotBeSavedOrOpenedAgainLeavesTheOldFile) {
-    EXPECT_FALSE(CreateNFile(work.path()));
+    EXPECT_TRUE(CreateNFile(work.path()).done());
     folder.write("a.TB", "old");
     const auto failure = [&](const ProjectTitle& title = {}) {
         const auto why = packProject(work.path(), title, folder / "a.TB");

@@ -32,15 +32,15 @@ TEST(WorkingFiles, AreEmptiedCopiedAndDeletedWithoutAWord) {
     const TemporaryFolder folder;
     folder.write("Joint.txt", "1,Fixed,\"None\"\r\n");
     folder.write("DResult.txt", "kept");
-    EXPECT_FALSE(CreateNFile(folder.path()));
+    EXPECT_TRUE(CreateNFile(folder.path()).done());
     const std::map<std::string, std::string> emptied{
         {"Joint.txt", ""}, {"Member.txt", ""}, {"Point.txt", ""},   {"Udl.txt", ""},
         {"BM.txt", ""},    {"TB.txt", ""},     {"BeamDim.txt", ""}, {"DResult.txt", "kept"}};
     EXPECT_EQ(folder.contents(), emptied);
 
-    EXPECT_FALSE(DuplicateFile(folder / "DResult.txt", folder / "Joint.txt"));
+    EXPECT_TRUE(DuplicateFile(folder / "DResult.txt", folder / "Joint.txt").done());
     EXPECT_EQ(folder.read("Joint.txt"), "kept");
-    EXPECT_TRUE(DuplicateFile(folder / "none.txt", folder / "Joint.txt"));
+    EXPECT_TRUE(DuplicateFile(folder / "none.txt", folder / "Joint.txt").failed());
     EXPECT_EQ(folder.read("Joint.txt"), "kept");
     MurderFile(folder / "Joint.txt");
     MurderFile(folder / "Joint.txt");
@@ -76,7 +76,7 @@ TEST(RowEditing, AddsBehindARowAndRemovesWithOrWithoutNewNumbers) {
     const TemporaryFolder folder;
     folder.write("Joint.txt", "");
     const auto add = [&](std::size_t position, const JointRow& row) {
-        EXPECT_FALSE(addRow(folder.path(), position, row));
+        EXPECT_TRUE(addRow(folder.path(), position, row).done());
         EXPECT_EQ(folder.read("Joint.txt"), folder.read("Joint.tmp"));
         return folder.read("Joint.txt");
     };
@@ -85,15 +85,15 @@ TEST(RowEditing, AddsBehindARowAndRemovesWithOrWithoutNewNumbers) {
               "1,Fixed,\"None\"\r\n 2,Continuous,\"a, b\"\r\n");
     EXPECT_EQ(add(1, {" 3", "Pin Jointed", "x"}),
               "1,Fixed,\"None\"\r\n 3,Pin Jointed,\"x\"\r\n2,Continuous,\"a, b\"\r\n");
-    EXPECT_FALSE(
-        removeRow<JointRow>(folder.path(), 4, Numbering::fromOne));  // no such row: nothing changes
-    EXPECT_FALSE(removeRow<JointRow>(folder.path(), 1, Numbering::fromOne));
+    EXPECT_TRUE(removeRow<JointRow>(folder.path(), 4, Numbering::fromOne)
+                    .done());  // no such row: nothing changes
+    EXPECT_TRUE(removeRow<JointRow>(folder.path(), 1, Numbering::fromOne).done());
     EXPECT_EQ(folder.read("Joint.txt"), " 1,Pin Jointed,\"x\"\r\n 2,Continuous,\"a, b\"\r\n");
 
     folder.write("Point.txt", "2,1,5,\"None\"\r\n 1,0,3,\"x\"\r\n");
-    EXPECT_FALSE(removeRow<PointRow>(folder.path(), 1, Numbering::asRead));
+    EXPECT_TRUE(removeRow<PointRow>(folder.path(), 1, Numbering::asRead).done());
     EXPECT_EQ(folder.read("Point.txt"), "1,0,3,\"x\"\r\n");
-    EXPECT_FALSE(removeRow<PointRow>(folder.path(), 1, Numbering::asRead));
+    EXPECT_TRUE(removeRow<PointRow>(folder.path(), 1, Numbering::asRead).done());
     EXPECT_EQ(folder.read("Point.txt"), "");
 }
 
@@ -102,27 +102,28 @@ TEST(RowEditing, AFailureLeavesTheUsersRows) {
     const std::string rows =
         "1,Fixed,\"None\"\r\n2,Continuous,\"" + std::string(200, 'd') + "\"\r\n";
     folder.write("Joint.txt", rows);
-    Failure failure;
+    Status status;
     {
         const FullDisk disk(64);
-        failure = addRow<JointRow>(folder.path(), 2, {" 3", "Fixed", "None"});
+        status = addRow<JointRow>(folder.path(), 2, {" 3", "Fixed", "None"});
     }
-    ASSERT_TRUE(failure);
-    EXPECT_NE(failure->sentence.find("Joint.tmp\" could not be written (File too large)"),
+    ASSERT_TRUE(status.failed());
+    EXPECT_NE(status.refusal().sentence.find("Joint.tmp\" could not be written (File too large)"),
               std::string::npos)
-        << failure->sentence;
+        << status.refusal().sentence;
     EXPECT_EQ(folder.contents(), (std::map<std::string, std::string>{{"Joint.txt", rows}}));
     folder.protect("Joint.txt");  // the scratch twin can be written, the file cannot
-    failure = addRow<JointRow>(folder.path(), 1, {" 2", "Fixed", "None"});
-    ASSERT_TRUE(failure);
-    EXPECT_NE(failure->sentence.find("Joint.txt\" is write-protected"), std::string::npos);
+    status = addRow<JointRow>(folder.path(), 1, {" 2", "Fixed", "None"});
+    ASSERT_TRUE(status.failed());
+    EXPECT_NE(status.refusal().sentence.find("Joint.txt\" is write-protected"), std::string::npos);
     EXPECT_EQ(folder.read("Joint.txt"), rows);
     std::filesystem::remove(folder / "Joint.txt");
     for (const auto* reason :
          {"Joint.txt\" is missing", "Joint.txt\" cannot be read (it is a folder"}) {
-        failure = addRow<JointRow>(folder.path(), 0, {" 1", "Fixed", "None"});
-        ASSERT_TRUE(failure);
-        EXPECT_NE(failure->sentence.find(reason), std::string::npos) << failure->sentence;
+        status = addRow<JointRow>(folder.path(), 0, {" 1", "Fixed", "None"});
+        ASSERT_TRUE(status.failed());
+        EXPECT_NE(status.refusal().sentence.find(reason), std::string::npos)
+            << status.refusal().sentence;
         std::filesystem::create_directory(folder / "Joint.txt");
     }
 }
@@ -134,9 +135,9 @@ TEST(FileSet, ReplacesNoFileIfOneOfThemFails) {
     FileSet files(folder.path());
     files.add("BM.txt").write("new");
     files.add("TB.txt").write("new");
-    const auto failure = files.commit();
-    ASSERT_TRUE(failure);
-    EXPECT_NE(failure->sentence.find("TB.txt\" is write-protected"), std::string::npos);
+    const auto status = files.commit();
+    ASSERT_TRUE(status.failed());
+    EXPECT_NE(status.refusal().sentence.find("TB.txt\" is write-protected"), std::string::npos);
     EXPECT_EQ(folder.read("BM.txt"), "old");
 }
 
@@ -174,7 +175,7 @@ TEST(ReplacingFile, HoldsALongFileThatCameInPieces) {
     }
     const std::string large(300'001, 'x');  // more than the buffer holds
     file.write(large);
-    ASSERT_FALSE(file.commit());
+    ASSERT_TRUE(file.commit().done());
     EXPECT_EQ(readWhole(folder / "BM.txt"), whole + large);
 }
 
@@ -191,7 +192,7 @@ TEST(ReplacingFile, KeepsLinksAndPermissionsFromTheFirstByteOn) {
         ReplacingFile file(folder / "link.TB");
         for (const bool committed : {false, true}) {
             if (committed) {
-                ASSERT_FALSE(file.commit());
+                ASSERT_TRUE(file.commit().done());
             }
             struct stat status {};
             const auto written = committed ? folder / "real.TB" : file.temporary().path();
@@ -214,7 +215,7 @@ TEST(ReplacingFile, WritesThroughNothingThatWasPlanted) {
     fs::create_directory(folder / "folder.TB");
     ASSERT_EQ(mkfifo((folder / "pipe.TB").c_str(), 0600), 0);
     folder.protect("protected.TB");
-    ASSERT_FALSE(replaceFile(folder / "a.TB", "new"));
+    ASSERT_TRUE(replaceFile(folder / "a.TB", "new").done());
     EXPECT_EQ(folder.read("victim") + folder.read("other name"), "keptold");
     const std::pair<const char*, const char*> refused[] = {
         {"dangling.TB", "is a link to a file that does not exist"},
@@ -223,17 +224,18 @@ TEST(ReplacingFile, WritesThroughNothingThatWasPlanted) {
         {"protected.TB", "is write-protected"},
         {"none/a.TB", "could not be written (No such file or directory)"}};
     for (const auto& [name, reason] : refused) {
-        const auto failure = replaceFile(folder / name, "new");
-        ASSERT_TRUE(failure) << name;
-        EXPECT_NE(failure->sentence.find(name + std::string("\" ") + reason), std::string::npos)
-            << failure->sentence;
+        const auto status = replaceFile(folder / name, "new");
+        ASSERT_TRUE(status.failed()) << name;
+        EXPECT_NE(status.refusal().sentence.find(name + std::string("\" ") + reason),
+                  std::string::npos)
+            << status.refusal().sentence;
     }
     EXPECT_FALSE(fs::exists(folder / "gone"));
     EXPECT_TRUE(fs::is_fifo(folder / "pipe.TB"));
     const auto pipe = readFile(folder / "pipe.TB");  // comes back at once
     EXPECT_FALSE(pipe);
     if (mknod((folder / "null").c_str(), S_IFCHR | 0666, makedev(1, 3)) == 0) {
-        EXPECT_TRUE(replaceFile(folder / "null", "new"));
+        EXPECT_TRUE(replaceFile(folder / "null", "new").failed());
         EXPECT_FALSE(readFile(folder / "null"));
     }
 }
@@ -241,7 +243,7 @@ TEST(ReplacingFile, WritesThroughNothingThatWasPlanted) {
 TEST(ReplacingFile, NamesThatAreAsLongAsTheyMayBeAreWritten) {
     const TemporaryFolder folder;
     const std::string longest(255, 'n');
-    ASSERT_FALSE(replaceFile(folder / longest, "new"));
+    ASSERT_TRUE(replaceFile(folder / longest, "new").done());
     EXPECT_EQ(folder.contents(), (std::map<std::string, std::string>{{longest, "new"}}));
 }
 
@@ -303,7 +305,7 @@ TEST(FolderLock, IsHeldByOneAndFreeOnceItsProcessHasDied) {
     const pid_t child = fork();
     if (child == 0) {
         FolderLock lock;
-        const char outcome = lock.take(folder.path(), 0s) ? 'n' : 'y';
+        const char outcome = lock.take(folder.path(), 0s).failed() ? 'n' : 'y';
         static_cast<void>(write(taken[1], &outcome, 1));
         pause();
     }
@@ -311,25 +313,25 @@ TEST(FolderLock, IsHeldByOneAndFreeOnceItsProcessHasDied) {
     ASSERT_EQ(read(taken[0], &outcome, 1), 1);
     ASSERT_EQ(outcome, 'y');
     FolderLock lock;
-    const auto failure = lock.take(folder.path(), 0s);
-    ASSERT_TRUE(failure);
+    const auto status = lock.take(folder.path(), 0s);
+    ASSERT_TRUE(status.failed());
     EXPECT_EQ(
-        failure->sentence,
+        status.refusal().sentence,
         "The folder \"" + folder.path().string() + "\" is in use by core_test (process " +
             std::to_string(child) +
             "). Wait until it has finished or close it, then try again; nothing was changed.");
     EXPECT_TRUE(lock.holder().runsThisProgram);
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
-    EXPECT_FALSE(lock.take(folder.path(), 0s));
+    EXPECT_TRUE(lock.take(folder.path(), 0s).done());
     EXPECT_TRUE(folder.contents().empty());
 }
 
 TEST(FolderRecord, KnowsWhichRowsExistNowhereElse) {
     const TemporaryFolder folder;
     const auto refused = [&] {
-        const auto failure = holdsOtherRows(folder.path());
-        return failure ? failure->sentence : "";
+        const auto objection = holdsOtherRows(folder.path());
+        return objection ? objection->sentence : "";
     };
     EXPECT_EQ(refused(), "");
     folder.write("Udl.txt", "1,0,6,12,12,\"typed\"\r\n");
@@ -337,7 +339,7 @@ TEST(FolderRecord, KnowsWhichRowsExistNowhereElse) {
     Project project;
     project.joints = "1,Fixed,\"None\"\r\n";
     project.beamDimensions = "1,1,300,500,450,30,460,200000,250,6\r\n";
-    ASSERT_FALSE(writeWorkingFiles(project, folder.path()));
+    ASSERT_TRUE(writeWorkingFiles(project, folder.path()).done());
     EXPECT_EQ(refused(), "");
     for (const auto* name : {"Joint.txt", "BeamDim.txt"}) {
         const auto text = folder.read(name);

@@ -1,0 +1,13 @@
+// A document as the bytes of an Office Open XML file (.docx).
+#pragma once
+
+#include <string>
+
+#include "core/outcome.h"
+#include "output/document.h"
+
+namespace trabeon {
+
+[[nodiscard]] Outcome<std::string> docxBytes(const Document& document);
+
+}  // namespace trabeon

@@ -1,0 +1,17 @@
+// A titled border around controls, which stand on it and count their place from its corner.
+#pragma once
+
+#include <string>
+
+#include "toolkit/controls/control.h"
+
+namespace trabeon {
+
+class Frame : public Control, public Container {
+  public:
+    explicit Frame(Container& parent, const std::string& caption = "");
+
+    QWidget* Canvas() const override;
+};
+
+}  // namespace trabeon

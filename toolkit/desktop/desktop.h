@@ -1,0 +1,41 @@
+// The real way out: boxes, dialogs, clipboard, printer and programs of the user's desktop.
+#pragma once
+
+#include <QString>
+#include <memory>
+
+#include "toolkit/outside/outside.h"
+
+namespace trabeon {
+
+class PageWindow;
+
+class Desktop : public Outside {
+  public:
+    Desktop();
+    ~Desktop() override;
+
+    Answer MsgBox(const std::string& text, int style, const std::string& title) override;
+    Answer AskToReplace(const std::string& text) override;
+    // Starts in the folder of the last answer; before there is one, in the question's or at home.
+    // A name that is refused, or not to be created, leads back to the dialog as it was.
+    std::string AskFile(const FileQuestion& question) override;
+    void PutText(const std::string& text) override;
+    void PutPicture(const QImage& picture) override;
+    QImage Picture() const override;
+    // Where the desktop has no browser, a page (.htm) comes up in a window of the program: the same
+    // one each time.
+    bool OpenDocument(const std::string& path) override;
+    std::unique_ptr<QPrinter> OpenPrinter(const std::string& documentName) override;
+    Paper DefaultPaper() const override;
+    void End() override;
+
+  private:
+    // Whether the user may have this name. Says why not, or asks.
+    bool IsAgreed(const QString& chosen, const FileQuestion& question);
+
+    std::unique_ptr<PageWindow> page_;
+    QString lastFolder_;
+};
+
+}  // namespace trabeon
