@@ -2,6 +2,7 @@
 
 #include <fstream>
 
+#include "core/store/own_files.h"
 #include "core/store/project_file.h"
 #include "core/store/working_files.h"
 
@@ -38,6 +39,13 @@ bool isDocument(const fs::path& file) {
            readWhole(file).find("word/document.xml") != std::string::npos;
 }
 
+/// A damaged project that begins with the warning counts too.
+bool isProject(const fs::path& file) {
+    return begins(file, projectStart) ||
+           begins(file, std::string(byteOrderMark) + std::string(projectStart)) ||
+           readProject(file);
+}
+
 Refusal taken(const fs::path& file, std::string_view kind) {
     return {"\"" + file.string() + "\" already exists and is not a " + std::string(kind) +
             ". Name another file; nothing was changed."};
@@ -57,12 +65,21 @@ Objection unfitDocumentFile(const fs::path& file, const fs::path& project) {
 }
 
 Objection unfitProjectFile(const fs::path& file) {
-    const bool isProject = isFree(file) || begins(file, projectStart) ||
-                           begins(file, std::string(byteOrderMark) + std::string(projectStart)) ||
-                           readProject(file);
-    if (isProject)
+    if (isFree(file) || isProject(file))
         return std::nullopt;
     return taken(file, "project file");
+}
+
+Objection unfitTableFile(const fs::path& file) {
+    if (!isFree(file) && isProject(file))
+        return Refusal{"\"" + file.string() +
+                       "\" is a project. Name another file for the table; nothing was changed."};
+    const auto folder = file.parent_path();
+    if (isOwnFile(file, folder.empty() ? fs::path(".") : folder))
+        return Refusal{"\"" + file.string() +
+                       "\" has the name of a working file. Name another file for the table; "
+                       "nothing was changed."};
+    return std::nullopt;
 }
 
 fs::path resultFolder(const fs::path& project) {

@@ -16,6 +16,10 @@ namespace trabeon {
 /// project. A damaged project that begins with "WARNNING!" counts as a project.
 [[nodiscard]] Objection unfitProjectFile(const std::filesystem::path& file);
 
+/// Whether a table for other programs may be written to a file. Refuses a project, and a working
+/// file or a file that looks like one.
+[[nodiscard]] Objection unfitTableFile(const std::filesystem::path& file);
+
 /// The folder for the result files of a project. It is next to the project and has its name without
 /// the ending: "a/b.TB" gives "a/b". Where that is the whole name, "." or "..", " results" is added
 /// to the whole name: "b" gives "b results", "..TB" gives "..TB results".

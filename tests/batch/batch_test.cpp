@@ -376,8 +376,8 @@ TEST(CommandLine, WrongUsageIsOneLineAndExitCodeTwo) {
         {{"unpack", "a", "b", "--out", "c"},
          "\"unpack\" has no option --out. Usage: trabeon-batch unpack FILE.TB DIR"},
         {{"run", "a", "--out"},
-         "A value is missing after --out. Usage: trabeon-batch run FILE.TB [--divisions N] "
-         "[--places N] [--out DIR]"},
+         "A value is missing after --out. Usage: trabeon-batch run FILE.TB [FILE.TB ...] "
+         "[--divisions N] [--places N] [--out DIR]"},
         {{"analyse", ".", "--places", "few"}, "--places takes a number, not \"few\"."},
         {{std::string(10'000, '\xE4')},
          "There is no command \"" + readable(std::string(77, '\xE4')) +
