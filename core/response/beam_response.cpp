@@ -62,8 +62,9 @@ Objection unfitForResponse(const LoadedBeam& loaded) {
     if (const auto objection = objectionTo(strayLoads(loaded)))
         return objection;
     for (std::size_t member = 1; member <= loaded.beam.members(); ++member)
-        if (auto objection = unfit(MemberResponse(loaded, member), member))
-            return objection;
+        if (!isFarFromOverflow(loaded, member))
+            if (auto objection = unfit(MemberResponse(loaded, member), member))
+                return objection;
     return std::nullopt;
 }
 
