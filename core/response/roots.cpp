@@ -129,8 +129,10 @@ std::vector<PlaceInPiece> rootsInside(Coefficients c) {
     const int changes = changesOfSign(c);
     if (changes == 0)
         return {};
-    if (c.size() == 2)
-        return {{c[0] / (c[0] - c[1]), c[1] / (c[1] - c[0])}};
+    const double first = c.front(), last = c.back();
+    const bool isStraight = c.size() == 2 || (c.size() == 3 && first - c[1] == c[1] - last);
+    if (isStraight)  // the shear under a uniform load is: round numbers stay round
+        return {{first / (first - last), last / (last - first)}};
     if (c.size() == 3)
         return quadraticRoots(c);
     if (changes > 1) {
@@ -139,9 +141,9 @@ std::vector<PlaceInPiece> rootsInside(Coefficients c) {
             slopes[k] = c[k + 1] - c[k];
         return rootsBetween(c, rootsInside({slopes.data(), c.size() - 1}));
     }
-    const auto first =
+    const auto signAtLow =
         std::find_if(c.begin(), c.end(), [](double coefficient) { return coefficient != 0; });
-    return {placeAt(followedRoot(c, 0, 1, signOf(*first)))};
+    return {placeAt(followedRoot(c, 0, 1, signOf(*signAtLow)))};
 }
 
 }  // namespace trabeon

@@ -171,6 +171,9 @@ class Results:
             self.run("unpack", file, out)
             self.run("analyse", out)
             self.run("design", out, *options)
+            for table in ("members", "reactions"):
+                rows = self.run("export", file, table).splitlines()
+                self.rows[f"{name}/{table}"] = [self.fields(row) for row in rows if row]
             for path in out.glob("*.txt"):
                 text = path.read_text()
                 self.texts[name] += text
@@ -189,12 +192,12 @@ class Results:
 
     def cell(self, address):
         """The first cell that fits: of TB.txt by row and end, of BM.txt and DResult.txt by
-        member, x and column."""
+        member, x and column, of an exported table by its first column and the place in the row."""
         file, *keys = address.split()
         at, block = int(keys.pop()), 0
         for row in self.rows[file]:
             block += row[0] == "Span"
-            found = row[:1] if file.endswith("TB.txt") else row[:2]
+            found = row[:2] if file.endswith(("BM.txt", "DResult.txt")) else row[:1]
             if file.endswith("BM.txt"):
                 found = [str(block), row[0]]
             if found == keys:
