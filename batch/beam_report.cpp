@@ -85,7 +85,7 @@ std::string reactionCheck(const Analysis& analysis, const std::vector<JointRespo
     const auto figures = "Reactions add up to " + figure(sum) + ", loads to " + figure(loads);
     if (std::fabs(sum - loads) <= 1e-9 * largest)
         return figures + ": they agree.\n";
-    return figures + ": they differ. Look at the loads.\n";
+    return figures + ": they differ. Check the loads.\n";
 }
 
 std::string responseTables(const Analysis& analysis) {

@@ -45,7 +45,7 @@ std::string usageOf(const CommandForm& form) {
 std::string helpText(const std::vector<CommandForm>& commands) {
     std::string text =
         "Analyses continuous beams by Hardy Cross moment distribution and designs their\n"
-        "reinforced concrete sections to BS 8110, without a window.\n";
+        "reinforced concrete sections to BS 8110. Needs no display.\n";
     for (const auto& form : commands)
         text += "\n" + usageOf(form) + "\n    " + std::string(form.purpose) +
                 "\n    Example: " + std::string(form.example) + "\n";
@@ -56,12 +56,13 @@ std::string helpText(const std::vector<CommandForm>& commands) {
            "--cover MM       concrete cover (default 25)\n"
            "--link MM        assumed size of the links (default 10)\n"
            "--aggregate MM   largest size of the aggregate (default 0)\n"
-           "--no-restrict    spans over 10 m keep their basic span to depth ratio\n"
-           "\nSeveral projects are worked on by all cores and come out in the order of their\n"
-           "names. One that is refused is named on standard error; the others go on.\n"
-           "\nExit code: 0 done; 1 refused, or done with a section that failed in shear or with results\n"
-           "of an earlier state (standard error says why);\n"
-           "2 wrong usage.\n";
+           "--no-restrict    do not reduce the span to depth ratio of spans over 10 m\n"
+           "\nAll cores work on several projects. The results come in the order of the names.\n"
+           "A refused project is named on standard error; the others go on.\n"
+           "\nExit code: 0 done\n"
+           "           1 refused; or done, but a section fails in shear or a table is outdated\n"
+           "             (standard error gives the reason)\n"
+           "           2 wrong command line\n";
 }
 
 std::optional<std::string> CommandLine::option(std::string_view name) const {

@@ -174,10 +174,10 @@ Status addDesign(TableRows& rows, const Project& project, const ExportSettings& 
         return messages.refusal();
     if (objection)
         return *objection;
-    const auto members = analysis->beam.members();
-    const DesignData data(std::move(joints), members,
-                          rowsOf<BeamDimensionRow>(project.beamDimensions), stationsText(*analysis),
-                          static_cast<std::size_t>(settings.analysis.Divisions));
+    const auto data =
+        DesignData::read(std::move(joints), analysis->beam.members(),
+                         rowsOf<BeamDimensionRow>(project.beamDimensions), stationsText(*analysis),
+                         static_cast<std::size_t>(settings.analysis.Divisions));
     const auto design = designBeam(data, settings.misc);
     const auto sections = data.sectionsPerMember();
     for (std::size_t k = 0; k < design.rows.size(); ++k)

@@ -26,7 +26,7 @@ Objection outdated(const fs::path& file, ResultState state) {
 Objection unfitStations(const DesignData& data) {
     if (data.NumofMem() > 0 && data.stationsFit())
         return std::nullopt;
-    return Refusal{"The stations do not fit the beam: \"BM.txt\" must have " +
+    return Refusal{"The stations do not match the beam: \"BM.txt\" must have " +
                    std::to_string(data.sectionsPerMember()) + " rows for each of " +
                    std::to_string(data.NumofMem()) +
                    " members. Analyse the beam first, with the same --divisions."};

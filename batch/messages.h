@@ -40,7 +40,7 @@ template <class Work>
     } catch (const std::bad_alloc&) {
         answer.refuse({"There is not enough memory for this file."});
     } catch (const std::exception& error) {
-        answer.refuse({std::string("The job cannot be done (") + error.what() + ")."});
+        answer.refuse({std::string("The command failed (") + error.what() + ")."});
     }
     return answer;
 }

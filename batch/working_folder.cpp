@@ -38,7 +38,7 @@ Outcome<Project> unpackInto(const std::string& file, const fs::path& folder, Fol
     fs::create_directories(folder, error);
     if (!fs::is_directory(folder, error))
         return Refusal{"The folder \"" + folder.string() +
-                       "\" cannot be created. Name another one."};
+                       "\" cannot be created. Choose another one."};
     if (const auto status = enter(folder, lock); status.failed())
         return status.refusal();
     if (const auto objection = holdsOtherRows(folder))

@@ -1,5 +1,5 @@
-// What the text of an analysis costs at the least: as many cells as its table and its station file
-// hold, formatted with std::to_chars and written in large blocks.
+// The minimum cost of the text of an analysis. Formats as many cells as the balance table and the
+// station file contain with std::to_chars and writes them in large blocks.
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Cells of the balance table and of the station file.
+/// The number of cells of the balance table and of the station file.
 struct CellCount {
     std::size_t table = 0, stations = 0;
 };
@@ -25,7 +25,7 @@ bool isCell(std::string_view line) {
     return !line.empty() && (line.front() == '-' || (line.front() >= '0' && line.front() <= '9'));
 }
 
-/// A cell of the table is what stands before five blanks; the label of a row is none.
+/// In the table, five blanks end each cell. The label of a row is not a cell.
 CellCount cellsOf(const std::filesystem::path& folder) {
     CellCount count;
     const auto table = trabeon::readWhole(folder / trabeon::working_file::balanceTable);
@@ -45,7 +45,7 @@ CellCount cellsOf(const std::filesystem::path& folder) {
     return count;
 }
 
-/// Moments as a relaxation has them: from thousandths to hundreds, of both signs, all digits used.
+/// Numbers like the moments of a relaxation: from thousandths to hundreds, both signs, all digits.
 std::vector<double> representativeValues() {
     std::vector<double> values(4096);
     std::uint64_t state = 1;

@@ -1,5 +1,5 @@
-// Any bytes as a project that is opened and analysed: refused with a message, or analysed into
-// finite results whose files stand the same after a second analysis.
+// Opens and analyses any bytes as a project. They are refused with a message, or the results are
+// finite and a second analysis writes the same files.
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -22,7 +22,7 @@ namespace working_file = trabeon::working_file;
 using trabeon::fuzz::require;
 using trabeon::fuzz::sameRows;
 
-/// One working folder for the whole run, gone at its end.
+/// One working folder for the whole run. Removed at the end.
 class Folder {
   public:
     Folder() {
@@ -44,7 +44,7 @@ class Folder {
 };
 
 void unpackInto(const trabeon::Project& project, const fs::path& folder) {
-    trabeon::FileSet files(folder);
+    auto files = trabeon::FileSet::begin(folder);
     files.add(working_file::joint).write(project.joints);
     files.add(working_file::member).write(project.members);
     files.add(working_file::point).write(project.points);
@@ -52,7 +52,7 @@ void unpackInto(const trabeon::Project& project, const fs::path& folder) {
     require(files.commit().done(), "the working files can be written");
 }
 
-/// The settings follow from the input's size, so that an input always does the same.
+/// The settings depend only on the size of the input, so that an input always does the same.
 trabeon::AnalysisSettings settingsFor(std::size_t size) {
     constexpr double divisions[] = {10, 1, 2, 7};
     return {divisions[size % 4], static_cast<double>(size % 13)};
@@ -96,7 +96,7 @@ void requireResponse(const trabeon::Analysis& analysis) {
                 "joints are finite");
 }
 
-/// Nothing where the input was refused; a refusal always has a message.
+/// The analysis, or nothing if the input was refused. A refusal always has a message.
 std::optional<trabeon::Analysis> analysed(const fs::path& folder, std::size_t size) {
     int messages = 0;
     double progress = 0;
@@ -114,7 +114,7 @@ std::optional<trabeon::Analysis> analysed(const fs::path& folder, std::size_t si
     return analysis;
 }
 
-/// The files that an analysis leaves, by their one names.
+/// The texts of the result files of an analysis.
 struct Results {
     std::string points, udls, balanceTable, stations, maxima;
 };

@@ -7,7 +7,7 @@
 namespace trabeon {
 
 /// Writes the balance table row by row: the label, five blanks, then each cell and five blanks.
-/// Lines are separated by line ends; there is none after the last row.
+/// Line ends separate the lines. The last row has no line end.
 class BalanceTableWriter {
   public:
     explicit BalanceTableWriter(ReplacingFile& file) : file_(file) {}

@@ -7,8 +7,8 @@
 namespace trabeon {
 namespace {
 
-/// One span on its two joints: the end moments and whatever loads are added. The left reaction
-/// enters as its parts, each end moment's and each load's share.
+/// A simple span with its end moments and the loads that are added. The left reaction is added in
+/// parts: the share of each end moment and of each load.
 class SimpleSpan {
   public:
     /// MA and MB: what the left and the right end moment add to the moment at that end, reversed.

@@ -48,7 +48,7 @@ bool isProject(const fs::path& file) {
 
 Refusal taken(const fs::path& file, std::string_view kind) {
     return {"\"" + file.string() + "\" already exists and is not a " + std::string(kind) +
-            ". Name another file; nothing was changed."};
+            ". Choose another file; nothing was changed."};
 }
 
 }  // namespace
@@ -56,9 +56,10 @@ Refusal taken(const fs::path& file, std::string_view kind) {
 Objection unfitDocumentFile(const fs::path& file, const fs::path& project) {
     std::error_code missing;
     if (fs::equivalent(file, project, missing))
-        return Refusal{"\"" + file.string() +
-                       "\" is the project itself. Name another file for the document; nothing was "
-                       "changed."};
+        return Refusal{
+            "\"" + file.string() +
+            "\" is the project itself. Choose another file for the document; nothing was "
+            "changed."};
     if (isFree(file) || isDocument(file))
         return std::nullopt;
     return taken(file, "document (.docx)");

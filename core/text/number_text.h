@@ -1,4 +1,4 @@
-// Numbers read from text, and text made from numbers, whatever the locale.
+// Numbers read from text, and text made from numbers. They do not depend on the locale.
 #pragma once
 
 #include <concepts>
@@ -24,6 +24,9 @@ namespace trabeon {
 /// Plain decimal text of at most 15 significant digits, one blank in front of a value of 0 or more:
 /// " 3", " 0.386", "-1.5", " 1E+15", " 1E-05". The value must be finite.
 [[nodiscard]] std::string generatedText(double value);
+
+/// Generated number text without its blank: "3", "-1.5". The value must be finite.
+[[nodiscard]] std::string bareNumber(double value);
 
 /// Generated number text and one blank after it: " 3 ".
 [[nodiscard]] std::string printForm(double value);

@@ -339,7 +339,7 @@ TEST_F(Design, RefusesStationsAndTellsOfATableOfAnEarlierState) {
 
 TEST_F(Design, RefusesWhatDoesNotFitAndNamesMissingDimensions) {
     EXPECT_EQ(Run().err,
-              "The stations do not fit the beam: \"BM.txt\" must have 12 rows for each of 0 "
+              "The stations do not match the beam: \"BM.txt\" must have 12 rows for each of 0 "
               "members. Analyse the beam first, with the same --divisions.\n");
     Prepare("two-span-floor-beam");
     const auto before = folder.contents();
@@ -357,8 +357,8 @@ TEST_F(Design, RefusesWhatDoesNotFitAndNamesMissingDimensions) {
     const auto answer = Run();
     EXPECT_EQ(answer.exit, 0);
     EXPECT_EQ(answer.err,
-              "Sections without dimensions of their own: 23, the first is section 2 of member 1. "
-              "Each takes the values of the section before it; enter its dimensions.\n");
+              "Sections without dimensions: 23, the first is section 2 of member 1. "
+              "Each is designed as the section before it; enter its dimensions.\n");
 }
 
 TEST(CommandLine, WrongUsageIsOneLineAndExitCodeTwo) {
