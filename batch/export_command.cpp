@@ -119,12 +119,25 @@ class JoinedTable {
     bool begun_ = false;
 };
 
+/// How the tables begin that this program writes.
+std::vector<std::string> startsOfTables() {
+    std::vector<std::string> starts;
+    for (const auto& table : exportTables()) {
+        auto columns = table.columns;
+        starts.push_back(frameOf(Format::csv, table.name, columns, nullptr).before);
+        columns.insert(columns.begin(), "project");
+        starts.push_back(frameOf(Format::csv, table.name, columns, nullptr).before);
+    }
+    starts.emplace_back("{\"project\":");
+    return starts;
+}
+
 Objection unfit(const ExportSettings& settings, const std::optional<std::string>& out) {
     if (auto objection = unfit(settings.analysis))
         return objection;
     if (auto objection = unfitForDesign(settings.analysis.Divisions, settings.misc))
         return objection;
-    return out ? unfitTableFile(*out) : Objection();
+    return out ? unfitTableFile(*out, startsOfTables()) : Objection();
 }
 
 /// Of one project the rows are written as they are made.

@@ -1,5 +1,6 @@
 #include "core/store/output_file.h"
 
+#include <algorithm>
 #include <fstream>
 
 #include "core/store/own_files.h"
@@ -39,13 +40,6 @@ bool isDocument(const fs::path& file) {
            readWhole(file).find("word/document.xml") != std::string::npos;
 }
 
-/// A damaged project that begins with the warning counts too.
-bool isProject(const fs::path& file) {
-    return begins(file, projectStart) ||
-           begins(file, std::string(byteOrderMark) + std::string(projectStart)) ||
-           readProject(file);
-}
-
 Refusal taken(const fs::path& file, std::string_view kind) {
     return {"\"" + file.string() + "\" already exists and is not a " + std::string(kind) +
             ". Choose another file; nothing was changed."};
@@ -66,21 +60,24 @@ Objection unfitDocumentFile(const fs::path& file, const fs::path& project) {
 }
 
 Objection unfitProjectFile(const fs::path& file) {
-    if (isFree(file) || isProject(file))
+    const bool isProject = isFree(file) || begins(file, projectStart) ||
+                           begins(file, std::string(byteOrderMark) + std::string(projectStart)) ||
+                           readProject(file);
+    if (isProject)
         return std::nullopt;
     return taken(file, "project file");
 }
 
-Objection unfitTableFile(const fs::path& file) {
-    if (!isFree(file) && isProject(file))
-        return Refusal{"\"" + file.string() +
-                       "\" is a project. Name another file for the table; nothing was changed."};
+Objection unfitTableFile(const fs::path& file, std::span<const std::string> starts) {
     const auto folder = file.parent_path();
     if (isOwnFile(file, folder.empty() ? fs::path(".") : folder))
         return Refusal{"\"" + file.string() +
                        "\" has the name of a working file. Name another file for the table; "
                        "nothing was changed."};
-    return std::nullopt;
+    const auto isTable = [&](const std::string& start) { return begins(file, start); };
+    if (isFree(file) || std::any_of(starts.begin(), starts.end(), isTable))
+        return std::nullopt;
+    return taken(file, "table of results");
 }
 
 fs::path resultFolder(const fs::path& project) {

@@ -119,15 +119,17 @@ TEST_F(Export, JoinsManyProjectsInTheirOrderAndGoesOnPastARefusedOne) {
     EXPECT_NE(answer.err.find("It was analysed as entered"), std::string::npos);
 }
 
-TEST_F(Export, OutIsReplacedByAWholeTableOrNotAtAll) {
+TEST_F(Export, OutReplacesATableByAWholeOneOrNothing) {
     const auto good = Write("a.TB", bracket("3")), bad = Write("bad.TB", bracket("3", "-1"));
-    const auto out = Write("out.csv", "old");
+    const auto out = (folder / "out.csv").string(), notes = Write("notes.txt", "mine");
+    ASSERT_EQ(Run({good, "reactions", "--out", out}).exit, 0);
     const auto before = folder.contents();
     const std::vector<std::string> refusals[] = {
         {bad, "members", "--out", out},
         {bad, bad, "stations", "--out", out},
         {(folder / "none.TB").string(), "design", "--out", out},
         {good, "members", "--out", good},
+        {good, "members", "--out", notes},
         {good, "members", "--out", (folder / "Joint.txt").string()},
         {good, "members", "--out", (folder / "none/out.csv").string()},
         {good, "stations", "--divisions", "0", "--out", out}};
