@@ -61,8 +61,9 @@ Objection unfit(const MemberResponse& curves, std::size_t member) {
 Objection unfitForResponse(const LoadedBeam& loaded) {
     if (const auto objection = objectionTo(strayLoads(loaded)))
         return objection;
-    for (std::size_t member = 1; member <= loaded.beam.members(); ++member)
-        if (!isFarFromOverflow(loaded, member))
+    const auto n = loaded.beam.members();
+    for (std::size_t member = 1; member <= n; ++member)
+        if (member == 1 || member == n || !isFarFromOverflow(loaded, member))
             if (auto objection = unfit(MemberResponse(loaded, member), member))
                 return objection;
     return std::nullopt;
