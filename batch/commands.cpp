@@ -31,7 +31,7 @@ namespace fs = std::filesystem;
 /// From this many members on an analysis shows its progress.
 constexpr std::size_t manyMembers = 1000;
 /// The balance table of more members than this stays in its file.
-constexpr std::size_t mostMembersShown = 20;
+constexpr std::size_t maxMembersShown = 20;
 
 Exit refused(const Refusal& refusal) {
     complain(refusal.sentence);
@@ -57,7 +57,7 @@ Status enter(const fs::path& folder, FolderLock& lock) {
     std::error_code error;
     if (!fs::is_directory(folder, error))
         return Refusal{"\"" + folder.string() + "\" is not a folder."};
-    if (const auto status = lock.take(folder, patience); status.failed())
+    if (auto status = lock.take(folder, patience); status.failed())
         return status;
     finishSet(folder);
     return {};
@@ -137,7 +137,7 @@ Objection outdated(const fs::path& file, ResultState state) {
 }
 
 /// The design reads any station file. A user who has not analysed the beam must know it.
-Objection unfitStations(const DesignData& data) {
+Objection checkStations(const DesignData& data) {
     if (data.NumofMem() > 0 && data.stationsFit())
         return std::nullopt;
     return Refusal{"The stations do not match the beam: \"BM.txt\" must have " +
@@ -159,7 +159,7 @@ Exit designCommand(const CommandLine& line) {
     if (!misc)
         return wrongUsage(misc.refusal());
     const fs::path folder = line.operands[0];
-    if (const auto objection = unfitForDesign(Divisions, *misc))
+    if (const auto objection = checkDesignSettings(Divisions, *misc))
         return refused(*objection);
     FolderLock lock;
     if (const auto status = enter(folder, lock); status.failed())
@@ -167,7 +167,7 @@ Exit designCommand(const CommandLine& line) {
     const auto data = readDesignData(folder, Divisions);
     if (!data)
         return refused(data.refusal());
-    if (const auto objection = unfitStations(*data))
+    if (const auto objection = checkStations(*data))
         return refused(*objection);
     if (const auto input = readFiles(folder, inputFiles); !input)
         return refused(input.refusal());
@@ -194,7 +194,7 @@ Exit tablesCommand(const CommandLine& line) {
 
 /// Reads and checks the project before it makes and takes the folder.
 Outcome<Project> unpackInto(const std::string& file, const fs::path& folder, FolderLock& lock) {
-    if (const auto objection = unfitForProject(file, folder))
+    if (const auto objection = checkProjectName(file, folder))
         return *objection;
     auto project = readProject(file);
     if (!project)
@@ -206,7 +206,7 @@ Outcome<Project> unpackInto(const std::string& file, const fs::path& folder, Fol
                        "\" cannot be created. Choose another one."};
     if (const auto status = enter(folder, lock); status.failed())
         return status.refusal();
-    if (const auto objection = holdsOtherRows(folder))
+    if (const auto objection = checkRowsAreSaved(folder))
         return *objection;
     if (const auto status = writeWorkingFiles(*project, folder); status.failed())
         return status.refusal();
@@ -226,7 +226,7 @@ Exit packCommand(const CommandLine& line) {
         return refused(status.refusal());
     if (std::error_code unknown; !fs::exists(folder / working_file::joint, unknown))
         return refused({"\"" + folder.string() + "\" contains no beam: it has no Joint.txt."});
-    if (const auto objection = unfitProjectFile(line.operands[1]))
+    if (const auto objection = checkProjectFile(line.operands[1]))
         return refused(*objection);
     const auto kept = titleIn(folder);
     const ProjectTitle title{line.option("--title").value_or(kept.project),
@@ -247,7 +247,7 @@ void show(const ProjectTitle& title, const Analysis& analysis, const fs::path& f
     std::printf("%s: %s, by %s\n\n", readable(title.project).c_str(),
                 readable(title.beamName).c_str(), readable(title.designer).c_str());
     const auto file = folder / working_file::balanceTable;
-    if (analysis.beam.members() <= mostMembersShown)
+    if (analysis.beam.members() <= maxMembersShown)
         std::printf("Balance table (clockwise positive)\n%s\n",
                     balanceTableStrips(readWhole(file), terminalWidth()).c_str());
     else
@@ -268,7 +268,7 @@ Exit showDesign(const fs::path& folder, const AnalysisSettings& settings) {
     const auto design = designBeam(*data, {});
     if (const auto status = writeDesign(folder, design, settings.Divisions, {}); status.failed())
         return refused(status.refusal());
-    const bool few = data->NumofMem() <= mostMembersShown;
+    const bool few = data->NumofMem() <= maxMembersShown;
     const auto text = few ? designTable(design, data->NumofMem()) : designSummary(design);
     std::printf("\n%s", text.c_str());
     return design.ShearFailed ? refused({std::string(shearFailureSentence)}) : Exit::done;
@@ -278,7 +278,7 @@ Exit runCommand(const CommandLine& line) {
     const auto settings = settingsOf(line);
     if (!settings)
         return wrongUsage(settings.refusal());
-    if (const auto objection = unfit(*settings))
+    if (const auto objection = checkSettings(*settings))
         return refused(*objection);
     const auto& file = line.operands[0];
     const fs::path folder = line.option("--out").value_or(resultFolder(file).string());
@@ -352,9 +352,9 @@ const std::vector<CommandForm>& commands() {
     return forms;
 }
 
-Exit carryOut(const CommandLine& line) {
+Exit execute(const CommandLine& line) {
     if (line.command != nullptr)
-        return line.command->carryOut(line);
+        return line.command->execute(line);
     std::fputs(helpText(commands()).c_str(), stdout);
     return Exit::done;
 }

@@ -8,7 +8,7 @@
 namespace trabeon {
 namespace {
 
-Refusal unprinted(const std::string& file) {
+Refusal printRefusal(const std::string& file) {
     if (file.empty())
         return {"The report could not be printed. Check the printer, then try again."};
     return {"The report could not be printed to \"" + file +
@@ -31,14 +31,14 @@ Outcome<PrintEnd> PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, i
                       sheet.Width - rightMargin - sheet.OffsetX,
                       sheet.Height - bottomMargin - sheet.OffsetY};
     bool printing = true;
-    const auto pages = goThroughPages(RTB.TextLength(), [&](int first) {
+    const auto pages = splitIntoPages(RTB.TextLength(), [&](int first) {
         printing = printer->NewPage();
         format.first = first;
         return printing ? RTB.FormatRange(printer.get(), format) : first;
     });
     RTB.ReleasePages();
     if (!printer->EndDoc() || !printing)
-        return unprinted(printer->File());
+        return printRefusal(printer->File());
     if (!pages.whole)
         return Refusal{"The print ends with page " + std::to_string(pages.starts.size()) +
                        ", because the rest could not be laid out. Cut the rest out of the report, "

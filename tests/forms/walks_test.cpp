@@ -5,7 +5,6 @@
 #include <sstream>
 
 #include "core/analysis/result_files.h"
-#include "core/store/project_file.h"
 #include "forms/design/frmBeamDesign.h"
 #include "forms/input/frmDiagram.h"
 #include "forms/input/frmPoint.h"
@@ -125,19 +124,12 @@ class Windows : public WalkTest {
             text.replace(text.find("Wall A"), 1, "\xDC");
             folder.write(step.subject, text);
         };
-        states["question"] = [this](const std::string&) {
-            return outside.lastQuestion.filter +
-                   (outside.lastQuestion.asksBeforeOverwriting ? ", asks before overwriting" : "");
-        };
         states["menus"] = [this](const std::string&) {
             return Menus(menuBar().actions(), "").toStdString();
         };
     }
 
     void AddDesign() {
-        actions["unpack"] = [this](const Step& step) {
-            ASSERT_TRUE(unpackProject(EXAMPLES "/" + step.subject + ".TB", folder.path()));
-        };
         // An example with its results, the dimensions window in front.
         actions["example"] = [this](const Step& step) {
             actions["unpack"](step);
@@ -168,11 +160,6 @@ class Windows : public WalkTest {
     }
 
     void AddDiagrams() {
-        actions["analysed"] = [this](const Step& step) {
-            actions["unpack"](step);
-            forms().Get<frmAnalysis>().cmdAnalyse.Press();
-            forms().Unload("frmAnalysis");
-        };
         actions["select"] = [this](const Step& step) {
             auto& list = dynamic_cast<QListWidget&>(Find(step.subject));
             QItemSelection chosen;

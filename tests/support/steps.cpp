@@ -149,6 +149,7 @@ void Walker::AddFileActions() {
         std::filesystem::remove(files_ / step.subject);
     };
     actions["protect"] = [this](const Step& step) { files_.protect(step.subject); };
+    actions["free"] = [this](const Step& step) { files_.protect(step.subject, false); };
     actions["keep"] = [this](const Step&) { kept_ = files_.contents(); };
 }
 

@@ -11,6 +11,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/store/project_file.h"
+#include "forms/results/frmAnalysis.h"
+
 namespace trabeon::test {
 namespace {
 
@@ -149,6 +152,14 @@ void WalkTest::AddActions() {
         Settle();
         forms().Show(step.subject);
     };
+    actions["unpack"] = [this](const Step& step) {
+        ASSERT_TRUE(unpackProject(EXAMPLES "/" + step.subject + ".TB", folder.path()));
+    };
+    actions["analysed"] = [this](const Step& step) {
+        actions["unpack"](step);
+        forms().Get<frmAnalysis>().cmdAnalyse.Press();
+        forms().Unload("frmAnalysis");
+    };
     actions["menu"] = [this](const Step& step) { Choose(QString::fromStdString(step.subject)); };
     actions["keys"] = [this](const Step& step) { Keys(step.subject); };
     actions["paste"] = [this](const Step& step) {
@@ -199,7 +210,10 @@ void WalkTest::AddExpectations() {
         outside.ExpectOpen("Open Trabeon File", step.subject);
     };
     actions["saves"] = [this](const Step& step) {
-        outside.ExpectSave("Save Trabeon File", step.subject);
+        outside.ExpectSave(step.value.empty() ? "Save Trabeon File" : step.value, step.subject);
+    };
+    actions["prints"] = [this](const Step& step) {
+        outside.ExpectPrinter(step.subject, step.value);
     };
     actions["page"] = [this](const Step& step) {
         outside.ExpectDocument((folder / step.subject).string(), step.value != "no");
@@ -243,6 +257,12 @@ void WalkTest::AddStates() {
     states["caption"] = [this](const std::string&) { return caption(); };
     states["boxtitle"] = [this](const std::string&) { return outside.lastTitle; };
     states["boxstyle"] = [this](const std::string&) { return std::to_string(outside.lastStyle); };
+    states["question"] = [this](const std::string&) {
+        const auto& asked = outside.lastQuestion;
+        return asked.filter + (asked.asksBeforeOverwriting ? ", asks to overwrite" : "") +
+               (asked.asksBeforeCreating ? ", asks to create" : "") +
+               (asked.folderMustExist ? ", in a folder that exists" : "");
+    };
     states["clipboard"] = [this](const std::string&) { return outside.clipboardText; };
 }
 

@@ -115,14 +115,5 @@ TEST_F(ListViewTest, ATextThatIsCutShowsWholeUnderThePointer) {
     QToolTip::hideText();
 }
 
-TEST_F(ListViewTest, CtrlCCopiesTheSelectedRowsWithoutTheBlanksAroundNumbers) {
-    list.ListItems(3).SetSubItems(1, " 1.40E+01 ");
-    list.SetMultiSelect(true);
-    Select(2);
-    Key(list, Qt::Key_Down, Qt::ShiftModifier);
-    Key(list, Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(outside.clipboardText, "Member  10\t10\nMember  1\t1.40E+01\n");
-}
-
 }  // namespace
 }  // namespace trabeon
