@@ -32,7 +32,7 @@ struct CommandLine {
 struct CommandForm {
     std::string_view name;
     Exit (*execute)(const CommandLine& line);
-    std::string_view operands;  // as the help shows them: "DIR FILE.TB"
+    std::string_view operands;  // as the help shows them: "DIR FILE.TB", "FILE.TB [FILE.TB ...]"
     std::vector<std::string_view>
         options;  // as the help shows them: "--places N" takes a value, "--no-restrict" none
     std::string_view purpose;

@@ -5,6 +5,7 @@
 #include <new>
 
 #include "batch/commands.h"
+#include "batch/messages.h"
 #include "core/store/temporary_file.h"
 
 namespace {

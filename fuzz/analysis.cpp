@@ -8,6 +8,8 @@
 #include <string_view>
 
 #include "core/analysis/result_files.h"
+#include "core/response/beam_response.h"
+#include "core/response/extremes.h"
 #include "core/store/file_set.h"
 #include "core/store/project_file.h"
 #include "fuzz/require.h"
@@ -69,6 +71,31 @@ void requireFinite(const trabeon::Analysis& analysis) {
     }
 }
 
+bool liesOn(const trabeon::MemberResponse& member, const trabeon::Extreme& extreme) {
+    return std::isfinite(extreme.value) && extreme.x >= 0 && extreme.x <= member.length();
+}
+
+/// The response is refused, or finite everywhere, and its extremes lie on their members.
+void requireResponse(const trabeon::Analysis& analysis) {
+    const auto response = trabeon::responseOf(analysis.loaded());
+    if (!response)
+        return require(!response.refusal().sentence.empty(), "a refusal says something");
+    for (const auto& member : response->members) {
+        using trabeon::Quantity;
+        for (const auto quantity :
+             {Quantity::moment, Quantity::shear, Quantity::rotation, Quantity::deflection}) {
+            const auto [greatest, least] = trabeon::extremesOf(member, quantity);
+            require(liesOn(member, greatest) && liesOn(member, least), "extremes lie on the span");
+            require(greatest.value >= least.value, "the greatest is not below the least");
+        }
+        require(liesOn(member, trabeon::greatestDeflection(member)), "so does the deflection");
+    }
+    for (const auto& joint : response->joints)
+        require(std::isfinite(joint.x) && std::isfinite(joint.reaction) &&
+                    std::isfinite(joint.moment) && std::isfinite(joint.rotation),
+                "joints are finite");
+}
+
 /// The analysis, or nothing if the input was refused. A refusal always has a message.
 std::optional<trabeon::Analysis> analysed(const fs::path& folder, std::size_t size) {
     int messages = 0;
@@ -118,6 +145,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!analysis)
         return 0;
     requireFinite(*analysis);
+    requireResponse(*analysis);
     const auto first = resultsIn(folder.path());
     require(analysed(folder.path(), size).has_value(), "a second analysis goes through");
     requireSame(first, resultsIn(folder.path()));

@@ -55,11 +55,9 @@ std::vector<Station> searchMaxima(const LoadedBeam& loaded, std::span<const Stat
     return maxima;
 }
 
-/// The calculation of a beam whose structure passed the rules.
-Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
-                            const TableSink& tableRow, const AnalysisOutputs& outputs) {
-    if (const auto objection = checkSettings(settings))
-        return *objection;
+/// The end moments of a beam whose structure passed the rules.
+Outcome<RelaxedBeam> relaxed(BeamRows rows, const TableSink& tableRow,
+                             const AnalysisOutputs& outputs) {
     auto beam = beamOf(rows.joints, rows.members);
     if (!beam)
         return beam.refusal();
@@ -79,8 +77,18 @@ Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
     auto Final = relax(*beam, FEM, tableRow, [&] { outputs.progress(50); });
     if (!Final)
         return Final.refusal();
+    return RelaxedBeam{std::move(*beam), std::move(*points), std::move(*udls), std::move(*Final)};
+}
 
-    const LoadedBeam loaded{*beam, *Final, *udls, *points};
+/// The whole calculation of a beam whose structure passed the rules.
+Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
+                            const TableSink& tableRow, const AnalysisOutputs& outputs) {
+    if (const auto objection = checkSettings(settings))
+        return *objection;
+    auto beam = relaxed(std::move(rows), tableRow, outputs);
+    if (!beam)
+        return beam.refusal();
+    const auto loaded = beam->loaded();
     const auto Divisions = static_cast<std::size_t>(settings.Divisions);
     auto stations = FindMxSx(loaded, Divisions);
     if (const auto objection = checkForces(stations, Divisions + 1))
@@ -88,8 +96,15 @@ Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
     auto maxima = searchMaxima(loaded, stations, settings, outputs);
     if (const auto objection = checkForces(maxima, 1))
         return *objection;
-    return Analysis{std::move(*beam),  std::move(*points),  std::move(*udls),
-                    std::move(*Final), std::move(stations), std::move(maxima)};
+    return Analysis{std::move(*beam), std::move(stations), std::move(maxima)};
+}
+
+template <class Result>
+std::optional<Result> orRefuse(Outcome<Result> result, const AnalysisOutputs& outputs) {
+    if (result)
+        return std::move(*result);
+    outputs.refuse(result.refusal());
+    return std::nullopt;
 }
 
 }  // namespace
@@ -108,16 +123,20 @@ Objection checkDivisions(double Divisions) {
     return std::nullopt;
 }
 
+std::optional<RelaxedBeam> relaxBeam(BeamRows rows, const TableSink& tableRow,
+                                     const AnalysisOutputs& outputs) {
+    outputs.progress(0);
+    if (!passesRules(rows, outputs.message))
+        return std::nullopt;
+    return orRefuse(relaxed(std::move(rows), tableRow, outputs), outputs);
+}
+
 std::optional<Analysis> analyse(BeamRows rows, const AnalysisSettings& settings,
                                 const TableSink& tableRow, const AnalysisOutputs& outputs) {
     outputs.progress(0);
     if (!passesRules(rows, outputs.message))
         return std::nullopt;
-    auto analysis = calculate(std::move(rows), settings, tableRow, outputs);
-    if (analysis)
-        return std::move(*analysis);
-    outputs.refuse(analysis.refusal());
-    return std::nullopt;
+    return orRefuse(calculate(std::move(rows), settings, tableRow, outputs), outputs);
 }
 
 }  // namespace trabeon

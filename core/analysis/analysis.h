@@ -45,13 +45,20 @@ struct AnalysisOutputs {
     void refuse(const Refusal& why) const { message({why.sentence, MessageKind::refusal}); }
 };
 
-/// The results. The rows of the balance table are not among them: they go out one by one, so that a
-/// long table needs no memory.
-struct Analysis {
+/// A beam with its loads in normal form and its final end moments. All other results follow from
+/// these.
+struct RelaxedBeam {
     Beam beam;
     MemberLoads<PointLoad> points;
     MemberLoads<UdlLoad> udls;
-    std::vector<double> Final;      // by member end, clockwise positive, from 1
+    std::vector<double> Final;  // by member end, clockwise positive, from 1
+
+    [[nodiscard]] LoadedBeam loaded() const { return {beam, Final, udls, points}; }
+};
+
+/// The results. The rows of the balance table are not among them: they go out one by one, so that a
+/// long table needs no memory.
+struct Analysis : RelaxedBeam {
     std::vector<Station> stations;  // Divisions + 1 for each span, first span first
     std::vector<Station> maxima;    // one for each span
 
@@ -60,6 +67,11 @@ struct Analysis {
         return std::span(stations).subspan((span - 1) * perSpan, perSpan);
     }
 };
+
+/// The first part of an analysis: everything up to the final end moments. It needs no settings.
+/// `progress` gets 0 and 50. Refuses as analyse() does.
+[[nodiscard]] std::optional<RelaxedBeam> relaxBeam(BeamRows rows, const TableSink& tableRow,
+                                                   const AnalysisOutputs& outputs);
 
 /// Each row of the balance table goes to `tableRow` once it is calculated. Returns nothing if the
 /// structure breaks a rule or a value cannot be calculated; then a message was shown.

@@ -23,6 +23,9 @@ class BalanceTableWriter {
 /// not below its x.
 void writeStations(ReplacingFile& file, const Analysis& analysis);
 
+/// The same as a text.
+[[nodiscard]] std::string stationsText(const Analysis& analysis);
+
 /// For each span the heading "Span #" and its number, then x in print form, moment and shear.
 void writeMaxima(ReplacingFile& file, const Analysis& analysis);
 

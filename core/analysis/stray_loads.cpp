@@ -46,6 +46,23 @@ void appendStray(std::vector<StrayLoad>& stray, const std::vector<typename Load:
     }
 }
 
+template <class Load>
+void appendStray(std::vector<StrayLoad>& stray, const Beam& beam, const MemberLoads<Load>& loads) {
+    for (std::size_t member = 1; member <= beam.members(); ++member)
+        for (auto k = loads.first[member]; k < loads.first[member + 1]; ++k) {
+            const auto& load = loads.loads[k];
+            auto what = load.isZero() ? std::string() : problemOf(load, beam.Length[member]);
+            if (!what.empty())
+                stray.push_back({Load::name, k + 1, member, std::move(what)});
+        }
+}
+
+/// "Row 2 of the point loads, on member 1: a is 7, beyond the member's end at 6".
+std::string placeAndFault(const StrayLoad& load) {
+    return "Row " + std::to_string(load.row) + " of the " + std::string(load.kind) +
+           "s, on member " + std::to_string(load.member) + ": " + load.what;
+}
+
 }  // namespace
 
 std::vector<StrayLoad> strayLoads(const BeamRows& rows) {
@@ -59,10 +76,24 @@ std::vector<StrayLoad> strayLoads(const BeamRows& rows) {
     return stray;
 }
 
+std::vector<StrayLoad> strayLoads(const LoadedBeam& loaded) {
+    std::vector<StrayLoad> stray;
+    appendStray(stray, loaded.beam, loaded.points);
+    appendStray(stray, loaded.beam, loaded.udls);
+    return stray;
+}
+
 std::string sentenceOf(const StrayLoad& load) {
-    return "Row " + std::to_string(load.row) + " of the " + std::string(load.kind) +
-           "s, on member " + std::to_string(load.member) + ": " + load.what +
+    return placeAndFault(load) +
            ". It was analysed as entered; correct the row if that is not intended.";
+}
+
+Objection objectionTo(const std::vector<StrayLoad>& stray) {
+    if (stray.empty())
+        return std::nullopt;
+    return Refusal{placeAndFault(stray.front()) +
+                   ". A beam with such a load has no reactions and no deflections; correct the "
+                   "row."};
 }
 
 }  // namespace trabeon

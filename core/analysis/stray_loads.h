@@ -23,7 +23,14 @@ struct StrayLoad {
 /// loads that name no member, and loads with a number that the analysis refuses are left out.
 [[nodiscard]] std::vector<StrayLoad> strayLoads(const BeamRows& rows);
 
-/// One sentence for the user.
+/// The same for loads in normal form. A row is its place in that form.
+[[nodiscard]] std::vector<StrayLoad> strayLoads(const LoadedBeam& loaded);
+
+/// One sentence for the user who got an analysis all the same.
 [[nodiscard]] std::string sentenceOf(const StrayLoad& load);
+
+/// Refuses what follows from a load that is not on its member: reactions, extremes, deflections.
+/// Names the first row.
+[[nodiscard]] Objection objectionTo(const std::vector<StrayLoad>& stray);
 
 }  // namespace trabeon

@@ -1,7 +1,9 @@
 #include "core/store/output_file.h"
 
+#include <algorithm>
 #include <fstream>
 
+#include "core/store/own_files.h"
 #include "core/store/project_file.h"
 #include "core/store/working_files.h"
 
@@ -64,6 +66,18 @@ Objection checkProjectFile(const fs::path& file) {
     if (isProject)
         return std::nullopt;
     return taken(file, "project file");
+}
+
+Objection unfitTableFile(const fs::path& file, std::span<const std::string> starts) {
+    const auto folder = file.parent_path();
+    if (isOwnFile(file, folder.empty() ? fs::path(".") : folder))
+        return Refusal{"\"" + file.string() +
+                       "\" has the name of a working file. Name another file for the table; "
+                       "nothing was changed."};
+    const auto isTable = [&](const std::string& start) { return begins(file, start); };
+    if (isFree(file) || std::any_of(starts.begin(), starts.end(), isTable))
+        return std::nullopt;
+    return taken(file, "table of results");
 }
 
 fs::path resultFolder(const fs::path& project) {

@@ -170,6 +170,9 @@ class Results:
             self.run("unpack", file, out)
             self.run("analyse", out)
             self.run("design", out, *options)
+            for table in ("members", "reactions"):
+                rows = self.run("export", file, table).splitlines()
+                self.rows[f"{name}/{table}"] = [self.fields(row) for row in rows if row]
             for path in out.glob("*.txt"):
                 text = path.read_text()
                 self.texts[name] += text
@@ -188,12 +191,12 @@ class Results:
 
     def cell(self, address):
         """The cell at an address: row and member end in TB.txt; member, x and column in BM.txt and
-        DResult.txt."""
+        DResult.txt; first column and place in the row in an exported table."""
         file, *keys = address.split()
         at, block = int(keys.pop()), 0
         for row in self.rows[file]:
             block += row[0] == "Span"
-            found = row[:1] if file.endswith("TB.txt") else row[:2]
+            found = row[:2] if file.endswith(("BM.txt", "DResult.txt")) else row[:1]
             if file.endswith("BM.txt"):
                 found = [str(block), row[0]]
             if found == keys:

@@ -1,5 +1,5 @@
-// Pictures that leave the program: how sharp they are on paper, and their PNG files. For the
-// insides of the toolkit, and for documents.
+// Pictures that leave the program: how sharp they are on paper, and their PNG files. Only for the
+// toolkit's own sources and for documents.
 #pragma once
 
 #include <QByteArray>

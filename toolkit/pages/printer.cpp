@@ -95,7 +95,7 @@ void Printer::Print(double x, double y, const std::string& text) {
 
 bool Printer::EndDoc() {
     failed_ = failed_ || !painter_->end() || printer_->printerState() == QPrinter::Error ||
-              !file_.TakePlace();
+              !file_.ReplaceOldFile();
     return !failed_;
 }
 

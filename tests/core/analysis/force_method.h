@@ -25,11 +25,11 @@ inline void addPart(std::vector<Force>& forces, const UdlLoad& load, double from
 }
 
 /// The loads of a member as forces, distributed ones cut at x.
-inline std::vector<Force> forcesOn(const Analysis& analysis, std::size_t member, double x = 0) {
+inline std::vector<Force> forcesOn(const RelaxedBeam& beam, std::size_t member, double x = 0) {
     std::vector<Force> forces;
-    for (const auto& load : analysis.points.on(member))
+    for (const auto& load : beam.points.on(member))
         forces.push_back({load.a, load.P});
-    for (const auto& load : analysis.udls.on(member)) {
+    for (const auto& load : beam.udls.on(member)) {
         const double end = load.a + load.b, cut = std::clamp(x, load.a, end);
         addPart(forces, load, load.a, cut);
         addPart(forces, load, cut, end);
@@ -39,9 +39,8 @@ inline std::vector<Force> forcesOn(const Analysis& analysis, std::size_t member,
 
 /// The moments over the joints, sagging positive: at a clamped or continuous joint the rotations
 /// of the simple spans beside it must close; over the root of a cantilever the moment is known.
-inline std::vector<double> jointMoments(const Analysis& analysis) {
-    const auto& [Supports, EndCount, SupportType, MemberE, MemberI, Length, Stiffness] =
-        analysis.beam;
+inline std::vector<double> jointMoments(const RelaxedBeam& beam) {
+    const auto& [Supports, EndCount, SupportType, MemberE, MemberI, Length, Stiffness] = beam.beam;
     const auto n = Supports - 1;
     const bool free[] = {SupportType[1] == Joint::cantilever,
                          SupportType[Supports] == Joint::cantilever};
@@ -51,7 +50,7 @@ inline std::vector<double> jointMoments(const Analysis& analysis) {
         own[i - 1] += L / (3 * EI);
         own[i] += L / (3 * EI);
         after[i - 1] = before[i] = L / (6 * EI);
-        for (const auto& [s, F] : forcesOn(analysis, i)) {
+        for (const auto& [s, F] : forcesOn(beam, i)) {
             right[i - 1] -= F * s * (L - s) * (2 * L - s) / (6 * L * EI);
             right[i] -= F * s * (L - s) * (L + s) / (6 * L * EI);
             if (i == n && free[1])
