@@ -60,6 +60,7 @@ std::vector<std::string> columnNames(const std::vector<std::string>& files) {
     for (const auto& file : files)
         ++uses[nameOf(file)];
     std::vector<std::string> names;
+    names.reserve(files.size());
     for (const auto& file : files)
         names.push_back(uses[nameOf(file)] == 1 ? nameOf(file) : file);
     return names;

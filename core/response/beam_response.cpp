@@ -59,7 +59,7 @@ Objection unfit(const MemberResponse& curves, std::size_t member) {
 }
 
 Objection unfitForResponse(const LoadedBeam& loaded) {
-    if (const auto objection = objectionTo(strayLoads(loaded)))
+    if (auto objection = objectionTo(strayLoads(loaded)))
         return objection;
     const auto n = loaded.beam.members();
     for (std::size_t member = 1; member <= n; ++member)
