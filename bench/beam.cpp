@@ -132,7 +132,7 @@ int main(int argc, char** argv) {
     std::filesystem::create_directories(argv[2], error);
     for (const auto name : trabeon::filesDeletedAtExit)
         trabeon::MurderFile(std::filesystem::path(argv[2]) / name);
-    FileSet files(argv[2]);
+    auto files = FileSet::begin(argv[2]);
     writeBeam(files, spans);
     if (const auto status = files.commit(); status.failed()) {
         std::fprintf(stderr, "%s\n", status.refusal().sentence.c_str());

@@ -42,7 +42,7 @@ class Folder {
 };
 
 void unpackInto(const trabeon::Project& project, const fs::path& folder) {
-    trabeon::FileSet files(folder);
+    auto files = trabeon::FileSet::begin(folder);
     files.add(working_file::joint).write(project.joints);
     files.add(working_file::member).write(project.members);
     files.add(working_file::point).write(project.points);

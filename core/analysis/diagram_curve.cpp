@@ -50,7 +50,7 @@ void findExtremes(DiagramCurve& curve, std::size_t rowsPerMember) {
 class CurveWriter {
   public:
     CurveWriter(DiagramCurve& curve, StationField field, std::string_view maxima)
-        : curve_(curve), field_(field), maxima_(maxima) {}
+        : curve_(curve), field_(field), maxima_(MaximumRows::read(maxima)) {}
 
     /// The row that the reader has reached, at this place of the axis.
     void add(const StationReader& reader, double x, double distance) {

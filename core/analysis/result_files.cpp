@@ -137,7 +137,7 @@ void writeMaxima(ReplacingFile& file, const Analysis& analysis) {
 std::optional<Analysis> analyseFolder(const std::filesystem::path& folder,
                                       const AnalysisSettings& settings,
                                       const AnalysisOutputs& outputs) {
-    FileSet files(folder);
+    auto files = FileSet::begin(folder);
     std::optional<BalanceTableWriter> table;
     const auto writeRow = [&](const TableRow& row) {
         if (!table)

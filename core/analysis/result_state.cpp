@@ -39,12 +39,11 @@ ResultState stationsState(const std::filesystem::path& folder, double Divisions)
                        stationsFingerprint(inputFingerprint(folder), Divisions));
 }
 
-std::string_view remarkOn(ResultState state, Unrecorded unrecorded, std::string_view outdated) {
+std::string_view remarkOn(ResultState state, std::string_view outdated) {
     switch (state) {
         case ResultState::absent:
             return noResults;
         case ResultState::unrecorded:
-            return unrecorded == Unrecorded::accepted ? "" : outdated;
         case ResultState::outdated:
             return outdated;
         case ResultState::current:

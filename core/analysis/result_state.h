@@ -30,10 +30,9 @@ inline constexpr std::string_view designAgain = "Of another beam or an earlier s
 [[nodiscard]] ResultState tableState(const std::filesystem::path& folder);
 [[nodiscard]] ResultState stationsState(const std::filesystem::path& folder, double Divisions);
 
-/// What to show next to results; nothing if they are current. A batch accepts unrecorded results
-/// without a remark, the windows do not.
-enum class Unrecorded { accepted, remarked };
-[[nodiscard]] std::string_view remarkOn(ResultState state, Unrecorded unrecorded,
+/// What to show next to results; nothing if they are current. `outdated` is the remark on results
+/// that are outdated or unrecorded.
+[[nodiscard]] std::string_view remarkOn(ResultState state,
                                         std::string_view outdated = analyseAgain);
 
 }  // namespace trabeon

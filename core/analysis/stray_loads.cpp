@@ -9,12 +9,8 @@ namespace {
 
 constexpr double roundingOfLength = 1e-12;  // of the member's length
 
-/// Generated number text without its blank.
 std::string plain(double value) {
-    if (!std::isfinite(value))
-        return "too large a number";
-    const auto text = generatedText(value);
-    return text.substr(text.front() == ' ' ? 1 : 0);
+    return std::isfinite(value) ? bareNumber(value) : "too large a number";
 }
 
 /// What is wrong with a stretch from a to `end` on a member of the length L, if anything is.

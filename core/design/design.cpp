@@ -134,7 +134,7 @@ Objection unfitForDesign(double Divisions, const MiscProperties& misc) {
 
 Status writeDesign(const std::filesystem::path& folder, const BeamDesign& design, double Divisions,
                    const MiscProperties& misc) {
-    FileSet files(folder);
+    auto files = FileSet::begin(folder);
     files.add(DesignRow::file).write(textOf(design.rows, Description::bare));
     auto record = readRecord(folder);
     record.design = designFingerprint(folder, Divisions, misc);
@@ -143,13 +143,13 @@ Status writeDesign(const std::filesystem::path& folder, const BeamDesign& design
 }
 
 std::string_view remarkOnDesign(const std::filesystem::path& folder, double Divisions,
-                                const MiscProperties& misc, Unrecorded unrecorded) {
+                                const MiscProperties& misc) {
     const auto state = resultState(folder / DesignRow::file, readRecord(folder).design,
                                    designFingerprint(folder, Divisions, misc));
     if (state == ResultState::absent)
         return "";
-    const auto onStations = remarkOn(stationsState(folder, Divisions), unrecorded);
-    return onStations.empty() ? remarkOn(state, unrecorded, designAgain) : onStations;
+    const auto onStations = remarkOn(stationsState(folder, Divisions));
+    return onStations.empty() ? remarkOn(state, designAgain) : onStations;
 }
 
 Outcome<BeamDesign> designFolder(const std::filesystem::path& folder, double Divisions,

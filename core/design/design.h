@@ -52,7 +52,7 @@ struct BeamDesign {
 /// stations, dimensions and properties that are there now. Otherwise that the user must analyse or
 /// design the beam again.
 [[nodiscard]] std::string_view remarkOnDesign(const std::filesystem::path& folder, double Divisions,
-                                              const MiscProperties& misc, Unrecorded unrecorded);
+                                              const MiscProperties& misc);
 
 /// Designs the beam whose working files are in a folder and were made with the same Divisions, and
 /// writes "DResult.txt".

@@ -24,12 +24,21 @@ SectionData sizesOf(const BeamDimensionRow& row) {
 
 }  // namespace
 
-DesignData::DesignData(std::vector<JointRow> joints, std::size_t NumofMem,
-                       const std::vector<BeamDimensionRow>& dimensions, std::string_view stations,
-                       std::size_t Divisions)
-    : joints_(std::move(joints)), NumofMem_(NumofMem), sectionsPerMember_(Divisions + 2) {
-    dimensions_.reserve(dimensions.size());
-    for (const auto& row : dimensions)
+DesignData DesignData::read(std::vector<JointRow> joints, std::size_t NumofMem,
+                            const std::vector<BeamDimensionRow>& dimensions,
+                            std::string_view stations, std::size_t Divisions) {
+    DesignData data;
+    data.joints_ = std::move(joints);
+    data.NumofMem_ = NumofMem;
+    data.sectionsPerMember_ = Divisions + 2;
+    data.readDimensions(dimensions);
+    data.readStations(stations);
+    return data;
+}
+
+void DesignData::readDimensions(const std::vector<BeamDimensionRow>& rows) {
+    dimensions_.reserve(rows.size());
+    for (const auto& row : rows)
         dimensions_.push_back(
             {leadingNumber(row.Member), leadingNumber(row.Section), sizesOf(row)});
     std::stable_sort(dimensions_.begin(), dimensions_.end(),
@@ -37,7 +46,6 @@ DesignData::DesignData(std::vector<JointRow> joints, std::size_t NumofMem,
                          return std::tie(left.Member, left.Section) <
                                 std::tie(right.Member, right.Section);
                      });
-    readStations(stations);
 }
 
 void DesignData::readStations(std::string_view text) {
@@ -91,9 +99,9 @@ Outcome<DesignData> readDesignData(const std::filesystem::path& folder, double D
     if (!texts)
         return texts.refusal();
     const auto& [joints, members, dimensions, stations] = *texts;
-    return DesignData{rowsOf<JointRow>(joints), rowsOf<MemberRow>(members).size(),
-                      rowsOf<BeamDimensionRow>(dimensions), stations,
-                      static_cast<std::size_t>(Divisions)};
+    return DesignData::read(rowsOf<JointRow>(joints), rowsOf<MemberRow>(members).size(),
+                            rowsOf<BeamDimensionRow>(dimensions), stations,
+                            static_cast<std::size_t>(Divisions));
 }
 
 }  // namespace trabeon

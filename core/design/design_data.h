@@ -26,9 +26,9 @@ class DesignData {
   public:
     /// `stations` is the text of "BM.txt". It is read by position: a heading and Divisions + 2 rows
     /// for each member. What is missing reads as 0.
-    DesignData(std::vector<JointRow> joints, std::size_t NumofMem,
-               const std::vector<BeamDimensionRow>& dimensions, std::string_view stations,
-               std::size_t Divisions);
+    [[nodiscard]] static DesignData read(std::vector<JointRow> joints, std::size_t NumofMem,
+                                         const std::vector<BeamDimensionRow>& dimensions,
+                                         std::string_view stations, std::size_t Divisions);
 
     /// The data of a section; nothing for a section without a dimension row. Of several rows of a
     /// section the first counts.
@@ -47,18 +47,21 @@ class DesignData {
     [[nodiscard]] MissingDimensions missingDimensions() const;
 
   private:
+    DesignData() = default;
+
     /// A dimension row as numbers; the section has no forces yet.
     struct Dimensions {
         double Member, Section;
         SectionData section;
     };
 
+    void readDimensions(const std::vector<BeamDimensionRow>& rows);
     void readStations(std::string_view text);
     [[nodiscard]] const Dimensions* find(std::size_t Member, std::size_t Section) const;
 
     std::vector<JointRow> joints_;
-    std::size_t NumofMem_;
-    std::size_t sectionsPerMember_;
+    std::size_t NumofMem_ = 0;
+    std::size_t sectionsPerMember_ = 0;
     std::vector<Dimensions> dimensions_;  // by member and section, then in file order
     std::vector<Station> stations_;
     std::size_t stationsRead_ = 0;

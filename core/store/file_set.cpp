@@ -44,8 +44,9 @@ void removeLeftBehind(const fs::path& folder) {
 
 }  // namespace
 
-FileSet::FileSet(fs::path folder) : folder_(std::move(folder)) {
-    finishSet(folder_);
+FileSet FileSet::begin(const fs::path& folder) {
+    finishSet(folder);
+    return FileSet(folder);
 }
 
 ReplacingFile& FileSet::add(std::string_view name) {

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "core/store/replacing_file.h"
 
@@ -15,8 +16,8 @@ namespace trabeon {
 /// If the process is killed then, finishSet() replaces the remaining files.
 class FileSet {
   public:
-    /// Finishes a set that an earlier process began in the folder.
-    explicit FileSet(std::filesystem::path folder);
+    /// Begins a set, after it has finished the one that a killed process left in the folder.
+    [[nodiscard]] static FileSet begin(const std::filesystem::path& folder);
 
     /// `name` is one of workingFiles.
     ReplacingFile& add(std::string_view name);
@@ -25,6 +26,8 @@ class FileSet {
     [[nodiscard]] Status commit();
 
   private:
+    explicit FileSet(std::filesystem::path folder) : folder_(std::move(folder)) {}
+
     std::filesystem::path folder_;
     std::deque<ReplacingFile> files_;
 };

@@ -7,10 +7,12 @@
 
 namespace trabeon {
 
-MaximumRows::MaximumRows(std::string_view maxima) {
+MaximumRows MaximumRows::read(std::string_view maxima) {
+    MaximumRows rows;
     StationReader reader(maxima, 1);
     while (reader.next())
-        records_.push_back(reader.row());
+        rows.records_.push_back(reader.row());
+    return rows;
 }
 
 bool MaximumRows::contain(std::size_t member, const StationRow& row) const {

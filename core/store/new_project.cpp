@@ -6,7 +6,7 @@
 namespace trabeon {
 
 Status CreateNFile(const std::filesystem::path& folder) {
-    FileSet files(folder);
+    auto files = FileSet::begin(folder);
     for (const auto name : projectFiles)
         files.add(name);
     if (const auto status = files.commit(); status.failed())

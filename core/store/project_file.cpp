@@ -229,7 +229,7 @@ Outcome<Project> readProject(const std::filesystem::path& file) {
 }
 
 Status writeWorkingFiles(const Project& project, const std::filesystem::path& folder) {
-    FileSet files(folder);
+    auto files = FileSet::begin(folder);
     for (const auto& [name, text] : packedFiles)
         files.add(name).write(project.*text);
     files.add(working_file::title).write(titleLines(project.title));

@@ -150,6 +150,11 @@ std::string generatedText(double value) {
     return sign + digits.insert(static_cast<std::size_t>(exponent + 1), ".");
 }
 
+std::string bareNumber(double value) {
+    const auto text = generatedText(value);
+    return text.substr(text.front() == ' ' ? 1 : 0);
+}
+
 std::string printForm(double value) {
     return generatedText(value) + ' ';
 }

@@ -25,6 +25,9 @@ namespace trabeon {
 /// " 3", " 0.386", "-1.5", " 1E+15", " 1E-05". The value must be finite.
 [[nodiscard]] std::string generatedText(double value);
 
+/// Generated number text without its blank: "3", "-1.5". The value must be finite.
+[[nodiscard]] std::string bareNumber(double value);
+
 /// Generated number text and one blank after it: " 3 ".
 [[nodiscard]] std::string printForm(double value);
 

@@ -7,6 +7,7 @@
 #include "forms/settings/frmMisc.h"
 #include "forms/settings/frmOptions.h"
 #include "forms/shared/keys.h"
+#include "forms/shared/member_choice.h"
 #include "toolkit/windows/wait_cursor.h"
 
 namespace trabeon {
@@ -20,10 +21,8 @@ std::size_t sectionsOf(double divisions) {
     return static_cast<std::size_t>(divisions) + 2;
 }
 
-/// A number as a field of its own, without the blank in front.
 std::string lengthText(double value) {
-    const auto text = std::isfinite(value) ? generatedText(value) : " 0";
-    return text.front() == ' ' ? text.substr(1) : text;
+    return std::isfinite(value) ? bareNumber(value) : "0";
 }
 
 }  // namespace
@@ -102,9 +101,7 @@ void frmBeamDimensions::Form_Load() {
     Move(0, 0, 8000, 5000);
     rows_.Fill();
     sortList();
-    const auto members = readRows<MemberRow>(context_.folder).size();
-    for (std::size_t k = 1; k <= members; ++k)
-        cboMember.AddItem("Member" + generatedText(k));
+    fillMembers(context_, cboMember);
     const double Divisions = divisions();
     if (unfitDivisions(Divisions))
         return;

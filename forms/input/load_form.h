@@ -4,6 +4,7 @@
 
 #include "core/store/member_length.h"
 #include "forms/shared/add_to_report.h"
+#include "forms/shared/member_choice.h"
 #include "forms/shared/row_editor.h"
 #include "toolkit/controls/combo_box.h"
 #include "toolkit/controls/picture_box.h"
@@ -60,10 +61,8 @@ class LoadForm : public Form {
 
     /// Before the form shows: the members to choose from, and the rows.
     void FillFromFiles() {
-        const auto members = readRows<MemberRow>(context_.folder).size();
-        for (std::size_t k = 1; k <= members; ++k)
-            cboMember.AddItem("Member" + generatedText(k));
-        if (members > 0)
+        fillMembers(context_, cboMember);
+        if (cboMember.ListCount() > 0)
             cboMember.SetListIndex(0);
         rows_.Fill();
         rows_.SelectLast();

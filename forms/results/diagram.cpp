@@ -24,15 +24,9 @@ std::string labelOf(const CurveJoint& joint) {
     return std::to_string(joint.left) + ", " + std::to_string(joint.right);
 }
 
-/// Generated text without the blank in front.
-std::string plainText(double value) {
-    const auto text = generatedText(value);
-    return text.front() == ' ' ? text.substr(1) : text;
-}
-
 std::string readOutOf(const CurvePoint& point, const char* symbol) {
     return "member " + std::to_string(point.member) + ", row " + std::to_string(point.row) +
-           ": x = " + plainText(point.distance) + ", " + symbol + " = " + plainText(point.value);
+           ": x = " + bareNumber(point.distance) + ", " + symbol + " = " + bareNumber(point.value);
 }
 
 }  // namespace
@@ -87,7 +81,8 @@ DiagramCurve Diagram::beamOf(const std::vector<std::size_t>& members) const {
 
 void Diagram::draw(const DiagramCurve& curve, std::size_t count,
                    const std::function<void(std::size_t)>& pointDone) {
-    const bool isA = (context_.forms.InTheBackground<frmOptions>().*kind_.option).Caption() == "Option A";
+    const bool isA =
+        (context_.forms.InTheBackground<frmOptions>().*kind_.option).Caption() == "Option A";
     const double sign = isA ? 1 : -1;
     chart.SetPointCount(pointCountOf(count));
     chart.SetPointIndex(1);  // empties the chart, in case the file has not one row to draw

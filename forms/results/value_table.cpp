@@ -36,7 +36,8 @@ void ValueTable::Form_Load() {
         SetLeft(place->first);
         SetTop(place->second);
     }
-    const auto rows = stationRowsOf(context_.forms.InTheBackground<frmOptions>().Settings().Divisions);
+    const auto rows =
+        stationRowsOf(context_.forms.InTheBackground<frmOptions>().Settings().Divisions);
     ListView1.ListItems.Clear();
     fill(rows);
     remark.Say(stationsRemark(context_));
@@ -46,7 +47,7 @@ void ValueTable::Form_Load() {
 void ValueTable::fill(std::size_t rowsPerMember) {
     const auto stations = readWhole(context_.folder / working_file::stations);
     const auto records = readWhole(context_.folder / working_file::maxima);
-    const MaximumRows maxima(records);
+    const auto maxima = MaximumRows::read(records);
     const auto member = static_cast<std::size_t>(std::max(1, diagram().cboMember.ListIndex() + 1));
     bool marked = false;
     for (const auto& row : stationRows(stations, rowsPerMember, member)) {

@@ -87,7 +87,7 @@ void frmOptions::cmdOptionsOK_Click() {
     if (divisions < leastDivisions)
         txtDivision.SetText(std::to_string(leastDivisions));
     else if (divisions != leadingNumber(txtDivision.Text()))
-        txtDivision.SetText(generatedText(divisions).substr(1));
+        txtDivision.SetText(bareNumber(divisions));
     Hide();
 }
 

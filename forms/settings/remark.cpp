@@ -20,15 +20,14 @@ std::string stationsRemark(Context& context) {
     auto& kept = context.stationsRemark;
     const auto files = stationsFingerprint(filesState(context.folder), Divisions);
     if (kept.files != files)
-        kept = {files, std::string(remarkOn(stationsState(context.folder, Divisions),
-                                            Unrecorded::remarked))};
+        kept = {files, std::string(remarkOn(stationsState(context.folder, Divisions)))};
     return kept.text;
 }
 
 std::string designRemark(Context& context) {
     const double Divisions = context.forms.InTheBackground<frmOptions>().Settings().Divisions;
     const auto properties = context.forms.InTheBackground<frmMisc>().Properties();
-    return std::string(remarkOnDesign(context.folder, Divisions, properties, Unrecorded::remarked));
+    return std::string(remarkOnDesign(context.folder, Divisions, properties));
 }
 
 RemarkStrip::RemarkStrip(Container& parent) : lblRemark(parent, "") {

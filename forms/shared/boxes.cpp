@@ -34,8 +34,7 @@ void remarkOnNumbers(std::initializer_list<TextBox*> boxes) {
             const double number = leadingNumber(text);
             if (text.empty() || numberOfWholeText(text) || !std::isfinite(number))
                 return {};
-            const auto plain = generatedText(number);
-            return "read as " + plain.substr(plain.front() == ' ' ? 1 : 0);
+            return "read as " + bareNumber(number);
         };
 }
 

@@ -24,8 +24,8 @@ struct Beam {
         return *this;
     }
     [[nodiscard]] DesignData data() const {
-        return {rowsOf<JointRow>(joints), members, rowsOf<BeamDimensionRow>(dimensions), stations,
-                Divisions};
+        return DesignData::read(rowsOf<JointRow>(joints), members,
+                                rowsOf<BeamDimensionRow>(dimensions), stations, Divisions);
     }
     [[nodiscard]] BeamDesign design(const MiscProperties& misc = {}) const {
         return designBeam(data(), misc);
@@ -215,28 +215,27 @@ TEST(DesignRun, TakesThePropertiesOfTheBeam) {
 
 TEST(Results, KnowTheInputThatTheyWereMadeFrom) {
     const test::TemporaryFolder folder;
-    const auto remarks = [&](Unrecorded unrecorded, double Divisions = 10) {
-        return std::vector{
-            std::string(remarkOn(tableState(folder.path()), unrecorded)),
-            std::string(remarkOn(stationsState(folder.path(), Divisions), unrecorded)),
-            std::string(remarkOnDesign(folder.path(), Divisions, {}, unrecorded))};
+    const auto remarks = [&](double Divisions = 10) {
+        return std::vector{std::string(remarkOn(tableState(folder.path()))),
+                           std::string(remarkOn(stationsState(folder.path(), Divisions))),
+                           std::string(remarkOnDesign(folder.path(), Divisions, {}))};
     };
     const std::string none(noResults), analyse(analyseAgain), design(designAgain);
     const auto project = std::string(EXAMPLES) + "/two-span-floor-beam.TB";
     ASSERT_TRUE(unpackProject(project, folder.path()));
-    EXPECT_EQ(remarks(Unrecorded::accepted), (Texts{"", none, ""}));  // the table came with it
+    EXPECT_EQ(remarks(), (Texts{"", none, ""}));  // the table came with it
     ASSERT_TRUE(analyseFolder(folder.path(), {}, {}));
     ASSERT_TRUE(designFolder(folder.path(), 10, {}));
-    EXPECT_EQ(remarks(Unrecorded::remarked), (Texts{"", "", ""}));
-    EXPECT_EQ(remarks(Unrecorded::remarked, 20), (Texts{"", analyse, analyse}));
-    EXPECT_EQ(remarkOnDesign(folder.path(), 10, {30}, Unrecorded::accepted), design);
+    EXPECT_EQ(remarks(), (Texts{"", "", ""}));
+    EXPECT_EQ(remarks(20), (Texts{"", analyse, analyse}));
+    EXPECT_EQ(remarkOnDesign(folder.path(), 10, {30}), design);
     const auto changed = [&](const std::string& name, const std::string& from,
                              const std::string& to) {
         const auto rows = folder.read(name);
         auto edited = rows;
         edited.replace(edited.find(from), from.size(), to);
         folder.write(name, edited);
-        auto found = remarks(Unrecorded::accepted);
+        auto found = remarks();
         folder.write(name, rows);
         return found;
     };
@@ -252,10 +251,9 @@ TEST(Results, KnowTheInputThatTheyWereMadeFrom) {
     EXPECT_EQ(changed("Point.txt", " 1,1,0,Zero Load\r\n", ""), same);
     ASSERT_TRUE(
         unpackProject(std::string(EXAMPLES) + "/fixed-ended-transfer-beam.TB", folder.path()));
-    EXPECT_EQ(remarks(Unrecorded::accepted), (Texts{"", analyse, analyse}));
+    EXPECT_EQ(remarks(), (Texts{"", analyse, analyse}));
     std::filesystem::remove(folder / "Record.txt");  // made by hand, or by another program
-    EXPECT_EQ(remarks(Unrecorded::accepted), (Texts{"", "", ""}));
-    EXPECT_EQ(remarks(Unrecorded::remarked), (Texts{analyse, analyse, analyse}));
+    EXPECT_EQ(remarks(), (Texts{analyse, analyse, analyse}));
 }
 
 }  // namespace

@@ -132,7 +132,7 @@ TEST(FileSet, ReplacesNoFileIfOneOfThemFails) {
     const TemporaryFolder folder;
     folder.write("BM.txt", "old");
     folder.protect("TB.txt");
-    FileSet files(folder.path());
+    auto files = FileSet::begin(folder.path());
     files.add("BM.txt").write("new");
     files.add("TB.txt").write("new");
     const auto status = files.commit();
@@ -156,7 +156,7 @@ TEST(FileSet, OneThatWasKilledWhileItsFilesTookTheirPlacesIsFinished) {
     folder.write("Unfinished.set", "BM.txt" + token + "\nTB.txt" + token + "\nvictim" + token +
                                        "\n../" + elsewhere.path().filename().string() + "/victim" +
                                        token + "\nJoint.txt\nMember.txt" + token + "\n");
-    const FileSet next(folder.path());
+    const auto next = FileSet::begin(folder.path());
     EXPECT_EQ(
         folder.contents(),
         (std::map<std::string, std::string>{
