@@ -5,7 +5,8 @@
 
 namespace trabeon {
 
-/// Registers every form but those of the report and of the print, and sets `Context::refillLoads`.
+/// Registers every form but those of the report and of the print, and sets `Context::refillLoads` and
+/// `Context::rowsChanged`.
 void registerForms(Context& context);
 
 }  // namespace trabeon

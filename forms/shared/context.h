@@ -51,6 +51,9 @@ struct Context {
     KeptAnswer stationsRemark{};
     // Shows the load rows that an analysis has put into normal form.
     std::function<void(const Analysis&)> refillLoads{};
+    // Shows what follows from the rows anew, in the windows that calculate it themselves. An editor
+    // calls it when it has written its rows.
+    std::function<void()> rowsChanged{};
     // Pastes the clipboard's picture into the report; the report takes this place up at start.
     std::function<void()> pasteIntoReport{};
 };

@@ -94,6 +94,7 @@ TEST_F(MainWindow, MenuTreeIsToTheLetterAndItsEntriesShowTheirForms) {
         "&Tools\n  &Table of Steel Reinforcement Areas: Area of Given Number of Bars\n"
         "  Table of &Shear Resistance For Links: Shear Resistance for Links\n"
         "&Report\n  &View Report...\n"
+        "&Check\n  Reactions and &Deflections...: Reactions and Deflections\n"
         "&Window\n"
         "&Help\n  &Contents and Index [F1]\n  &Example\n");
 }

@@ -32,6 +32,14 @@ namespace {
 
 constexpr int MarkRole = Qt::UserRole;
 
+// The texts of a row as they are copied.
+QString LineOf(const QTreeWidgetItem& row, int columns) {
+    QStringList texts;
+    for (int column = 0; column < columns; ++column)
+        texts << row.text(column).trimmed();  // a blank in front is for the eye
+    return texts.join('\t') + '\n';
+}
+
 // A little air above and below the text; one that is cut shows whole under the pointer.
 class RowDelegate : public QStyledItemDelegate {
   public:
@@ -278,15 +286,11 @@ void ListView::SetWrapsTitles(bool wraps) {
 void ListView::Copy() const {
     const Tree& tree = Inner();
     QStringList lines;
-    for (int i = 0; i < tree.topLevelItemCount(); ++i) {
-        const QTreeWidgetItem& row = *tree.topLevelItem(i);
-        if (!row.isSelected())
-            continue;
-        QStringList texts;
-        for (int column = 0; column < tree.columnCount(); ++column)
-            texts << row.text(column).trimmed();  // a blank in front is for the eye
-        lines << texts.join('\t') + '\n';
-    }
+    for (int i = 0; i < tree.topLevelItemCount(); ++i)
+        if (const QTreeWidgetItem& row = *tree.topLevelItem(i); row.isSelected())
+            lines << LineOf(row, tree.columnCount());
+    if (!lines.isEmpty() && copiesTitles_)
+        lines.prepend(LineOf(*tree.headerItem(), tree.columnCount()));
     if (!lines.isEmpty())
         Outside::Current().PutText(lines.join("").toStdString());
 }

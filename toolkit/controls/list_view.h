@@ -91,6 +91,8 @@ class ListView : public Control {
 
     // Several rows can be selected, to be copied with Ctrl+C as lines of tab-separated text.
     void SetMultiSelect(bool multi);
+    // What is copied begins with a line of the titles.
+    void SetCopiesTitles(bool copies) { copiesTitles_ = copies; }
     void SetGridLines(bool shown);
     // A title wider than its column goes on in a second line.
     void SetWrapsTitles(bool wraps);
@@ -112,6 +114,7 @@ class ListView : public Control {
     int sortKey_ = 0;
     ListSortOrder sortOrder_ = ListSortOrder::Rising;
     bool sorted_ = false;
+    bool copiesTitles_ = false;
     mutable bool settled_ = true;
     bool pressed_ = false;
 };
