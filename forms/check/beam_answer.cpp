@@ -33,6 +33,8 @@ Outcome<BeamAnswer> answerOf(const std::filesystem::path& folder) {
         return *objection;
     BeamRows rows{readRows<JointRow>(folder), readRows<MemberRow>(folder),
                   readRows<PointRow>(folder), readRows<UdlRow>(folder)};
+    if (rows.joints.empty())
+        return Refusal{"The beam has no joints yet. Enter its joints, members and loads."};
     const auto stray = objectionTo(strayLoads(rows));
     auto types = typesOf(rows.joints);
     std::string why;

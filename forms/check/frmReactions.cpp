@@ -36,13 +36,8 @@ void readyList(ListView& list, const char* name) {
     list.SetAccessibleName(name);
 }
 
-/// The selected row of a list, or a row that is there no more.
 std::size_t rowOf(const ListView& list) {
     return static_cast<std::size_t>(list.SelectedItem().FilePosition());
-}
-
-void select(ListView& list, std::size_t row) {
-    list.SetSelectedItem(list.ListItems(static_cast<int>(row)));
 }
 
 std::vector<std::string> memberTexts(const MemberResponse& member, std::size_t number) {
@@ -70,13 +65,14 @@ frmReactions::frmReactions(Context& context)
       context_(context) {
     picBeam.SetFont("Arial", 8.25, false);
     picBeam.SetAccessibleName("Beam with its loads, reactions and deflections");
+    picBeam.Draw = [this] { return answer_ ? pictureOf(selected_).drawing() : Drawing(); };
     picBeam.Click = [this](double x, double y) { picBeam_Click(x, y); };
     lblRefusal.SetWraps(true);
     lblUnits.SetWraps(true);
     readyList(lvwJoints, "Joints");
     readyList(lvwMembers, "Members");
-    lvwJoints.Click = [this] { choose({BeamPart::Kind::joint, rowOf(lvwJoints)}); };
-    lvwMembers.Click = [this] { choose({BeamPart::Kind::member, rowOf(lvwMembers)}); };
+    lvwJoints.Click = [this] { highlight({BeamPart::Kind::joint, rowOf(lvwJoints)}); };
+    lvwMembers.Click = [this] { highlight({BeamPart::Kind::member, rowOf(lvwMembers)}); };
     cmdReport.Click = [this] { cmdReport_Click(); };
     offerReport(context, cmdReport);
     SetTabOrder({&lvwJoints, &lvwMembers, &cmdReport});
@@ -103,7 +99,7 @@ void frmReactions::Form_Resize() {
     cmdReport.Move(margin, height + margin, cmdReport.Width(), cmdReport.Height());
     const int right = 4 * margin + cmdReport.Width();
     lblUnits.Move(right, height + margin, std::max(0, width - right), cmdReport.Height());
-    draw();
+    picBeam.Redraw();
 }
 
 void frmReactions::Refresh() {
@@ -117,7 +113,7 @@ void frmReactions::Refresh() {
     cmdReport.SetEnabled(answer_ && context_.pasteIntoReport);
     fillJoints();
     fillMembers();
-    choose(selected_);
+    choose(selected_.kind == BeamPart::Kind::none ? BeamPart{BeamPart::Kind::joint, 1} : selected_);
     Form_Resize();
 }
 
@@ -149,28 +145,30 @@ BeamPicture frmReactions::pictureOf(const BeamPart& selected) const {
     return {sketch_, {picBeam.InnerWidth(), picBeam.InnerHeight(), picBeam.Measure()}, selected};
 }
 
-void frmReactions::draw() {
-    picBeam.SetDrawing(answer_ ? pictureOf(selected_).drawing() : Drawing());
-}
-
-/// Shows a part in the picture and in its list. The row of the sum, and what a shorter beam has no
-/// more, are no part.
-void frmReactions::choose(const BeamPart& part) {
+/// Shows a part in the picture. The row of the sum, and what a shorter beam has no more, are no
+/// part.
+void frmReactions::highlight(const BeamPart& part) {
     const bool isJoint = part.kind == BeamPart::Kind::joint;
     const auto count = isJoint ? sketch_.joints.size() : sketch_.deflections.size();
     selected_ = part.number >= 1 && part.number <= count ? part : BeamPart();
+    picBeam.Redraw();
+}
+
+/// The same, and selects its row.
+ListView& frmReactions::choose(const BeamPart& part) {
+    highlight(part);
+    auto& list = part.kind == BeamPart::Kind::member ? lvwMembers : lvwJoints;
     if (selected_.kind != BeamPart::Kind::none)
-        select(isJoint ? lvwJoints : lvwMembers, selected_.number);
-    draw();
+        list.SetSelectedItem(list.ListItems(static_cast<int>(part.number)));
+    return list;
 }
 
 void frmReactions::picBeam_Click(double x, double y) {
     if (!answer_)
         return;
     const auto part = pictureOf(selected_).partAt(x, y);
-    choose(part);
-    if (selected_.kind != BeamPart::Kind::none)
-        (selected_.kind == BeamPart::Kind::joint ? lvwJoints : lvwMembers).SetFocus();
+    if (part.kind != BeamPart::Kind::none)
+        choose(part).SetFocus();
 }
 
 void frmReactions::cmdReport_Click() {

@@ -27,11 +27,11 @@ class frmReactions : public Form {
     Label lblRefusal{*this, ""};  // in the picture's place
     ListView lvwJoints{*this,
                        {{"Joint", 555},
-                        {"Type", 1065},
-                        {"x", 720, "Distance from the left end of the beam"},
-                        {"Reaction", 915, "Upward positive"},
-                        {"Moment", 915, "At a fixed end, sagging positive"},
-                        {"Rotation", 1095, "Positive if the beam goes down to the right"}}};
+                        {"Type", 990},
+                        {"x", 660, "Distance from the left end of the beam"},
+                        {"Reaction", 885, "Upward positive"},
+                        {"Moment", 885, "At a fixed end, sagging positive"},
+                        {"Rotation", 1050, "Positive if the beam goes down to the right"}}};
     ListView lvwMembers{*this,
                         {{"Member", 675},
                          {"M left", 765, "Bending moment at the left joint, sagging positive"},
@@ -55,8 +55,8 @@ class frmReactions : public Form {
   private:
     void fillJoints();
     void fillMembers();
-    void draw();
-    void choose(const BeamPart& part);
+    void highlight(const BeamPart& part);
+    ListView& choose(const BeamPart& part);
     void picBeam_Click(double x, double y);
     void cmdReport_Click();
     [[nodiscard]] BeamPicture pictureOf(const BeamPart& selected) const;

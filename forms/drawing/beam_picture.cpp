@@ -11,8 +11,10 @@ namespace {
 
 constexpr auto caption =
     "Deflected shape: the greatest value of each member, at x from its left joint";
+constexpr auto tooNarrow = "Too narrow for all supports and loads";
 constexpr double edge = 4, gap = 3;
 constexpr double arrowHeight = 24;
+constexpr double valueWidth = 45;    // of a reaction: closer ones take two rows
 constexpr double captionFrom = 220;  // height of a picture with a caption
 constexpr double loadsShare = 0.45;  // of the height that is left for loads and deflections
 constexpr double jointReach = 12;    // a press this near to a joint means it
@@ -33,9 +35,10 @@ bool hasMoments(const BeamSketch& sketch) {
 
 /// From the top: loads, beam, joint numbers, reactions, deflections. What the loads and the
 /// deflections get is what the others leave.
-PictureRows rowsOf(const BeamSketch& sketch, double height, double text) {
-    const double reactions =
-        sketch.reactions.empty() ? 0 : gap + arrowHeight + text * (hasMoments(sketch) ? 2 : 1);
+PictureRows rowsOf(const BeamSketch& sketch, double scale, double height, double text) {
+    const bool crowded = shortestMember(sketch) * scale < valueWidth;
+    const double valueRows = hasMoments(sketch) || crowded ? 2 : 1;
+    const double reactions = sketch.reactions.empty() ? 0 : gap + arrowHeight + text * valueRows;
     const bool bends = hasDeflections(sketch);
     const double above = hasLoads(sketch) ? edge + text + gap : edge + symbolDepth;
     const double below = symbolDepth + gap + text + reactions + edge;
@@ -55,33 +58,29 @@ PictureRows rowsOf(const BeamSketch& sketch, double height, double text) {
     return rows;
 }
 
-void noteLeftOut(const Stage& stage, std::size_t leftOut) {
-    if (leftOut > 0)
-        putLabel(stage,
-                 std::to_string(leftOut) + " of the joints are too close together to be drawn",
-                 {stage.width, edge}, {BehindColour, false, Align::right});
-}
-
 }  // namespace
 
 BeamPicture::BeamPicture(const BeamSketch& sketch, const PictureSpace& space,
                          const BeamPart& selected) {
     LabelRoom labels(space.width);
     Stage stage{drawing_, labels, space.measure, selected, {}, space.width};
-    stage.rows = rowsOf(sketch, space.height, stage.textHeight());
     stage.left = space.margin;
     stage.scale = std::max(1.0, space.width - 2 * space.margin) / sketch.joints.back().x;
+    stage.rows = rowsOf(sketch, stage.scale, space.height, stage.textHeight());
     beamLine_ = stage.rows.beam;
     for (const auto& joint : sketch.joints)
         joints_.push_back(stage.place(joint.x));
-    const auto leftOut = drawBeamLine(stage, sketch);
-    noteLeftOut(stage, leftOut);
+    auto leftOut = drawBeamLine(stage, sketch);
     drawReactions(stage, sketch);
-    if (stage.rows.caption < space.height)
+    const bool captioned = stage.rows.caption < space.height;
+    if (captioned)
         putLabel(stage, caption, {edge, stage.rows.caption}, {BehindColour, false, Align::left});
     if (hasDeflections(sketch))
         drawDeflections(stage, sketch);
-    drawLoads(stage, sketch);
+    leftOut += drawLoads(stage, sketch);
+    if (leftOut > 0)
+        putLabel(stage, tooNarrow, {space.width, captioned ? stage.rows.caption : edge},
+                 {BehindColour, false, Align::right});
 }
 
 BeamPart BeamPicture::partAt(double x, double y) const {

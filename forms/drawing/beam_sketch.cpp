@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace trabeon {
 namespace {
@@ -76,6 +77,13 @@ BeamSketch sketchOf(const Beam& beam, const BeamResponse& response) {
         sketch.deflections.push_back(deflectionOf(response.members[i], left, spacing));
     }
     return sketch;
+}
+
+double shortestMember(const BeamSketch& sketch) {
+    double shortest = std::numeric_limits<double>::infinity();
+    for (std::size_t k = 1; k < sketch.joints.size(); ++k)
+        shortest = std::min(shortest, sketch.joints[k].x - sketch.joints[k - 1].x);
+    return shortest;
 }
 
 }  // namespace trabeon

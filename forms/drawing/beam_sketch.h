@@ -55,4 +55,7 @@ struct BeamSketch {
 /// place.
 [[nodiscard]] BeamSketch sketchOf(const Beam& beam, const BeamResponse& response);
 
+/// The least distance between two joints.
+[[nodiscard]] double shortestMember(const BeamSketch& sketch);
+
 }  // namespace trabeon

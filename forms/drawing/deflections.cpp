@@ -3,69 +3,14 @@
 #include <cmath>
 
 #include "forms/drawing/picture_parts.h"
+#include "forms/drawing/skyline.h"
 
 namespace trabeon {
 namespace {
 
 constexpr double lineWidth = 1.5, selectedWidth = 2.5;
-constexpr double dotRadius = 2.2, besideDot = 3;
+constexpr double dotRadius = 2.2, besideDot = 3, farFromDot = 8;
 constexpr double narrow = 3;  // pixels: three points show all that there is to see
-
-struct Curve {
-    double zero = 0;   // y of the beam without loads
-    double scale = 0;  // pixels for one unit of deflection
-};
-
-/// The shape fills its rows.
-Curve curveOf(const Stage& stage, const BeamSketch& sketch) {
-    double lowest = 0, highest = 0;
-    for (const auto& member : sketch.deflections) {
-        lowest = std::max(lowest, member.greatest.value);
-        for (const auto& point : member.points)
-            highest = std::min(highest, point.value);
-    }
-    const double room = stage.rows.deflectionsEnd - stage.rows.deflections;
-    const double scale = lowest > highest ? room / (lowest - highest) : 0;
-    return {stage.rows.deflections - highest * scale, scale};
-}
-
-void drawMember(const Stage& stage, const BeamSketch& sketch, const Curve& curve,
-                std::size_t member) {
-    const auto& shape = sketch.deflections[member - 1];
-    const auto at = [&](double x, double value) {
-        return DrawnPoint{stage.place(x), curve.zero + curve.scale * value};
-    };
-    const auto& first = shape.points.front();
-    const auto& last = shape.points.back();
-    const bool selected = stage.selected.isMember(member);
-    PathShape path{
-        {},
-        Pen{selected ? HighlightColour : ink::deflection, selected ? selectedWidth : lineWidth}};
-    if ((last.x - first.x) * stage.scale < narrow)
-        path.points = {at(first.x, first.value),
-                       at(sketch.joints[member - 1].x + shape.greatest.x, shape.greatest.value),
-                       at(last.x, last.value)};
-    else
-        for (const auto& point : shape.points)
-            path.points.push_back(at(point.x, point.value));
-    stage.drawing.push_back(std::move(path));
-}
-
-void labelMember(const Stage& stage, const BeamSketch& sketch, const Curve& curve,
-                 std::size_t member) {
-    const auto& greatest = sketch.deflections[member - 1].greatest;
-    if (greatest.value == 0)
-        return;
-    const bool selected = stage.selected.isMember(member);
-    const Colour colour = selected ? HighlightColour : ink::deflection;
-    const DrawnPoint dot{stage.place(sketch.joints[member - 1].x + greatest.x),
-                         curve.zero + curve.scale * greatest.value};
-    const double beside =
-        greatest.value > 0 ? dot.y + besideDot : dot.y - besideDot - stage.textHeight();
-    const auto text = shownInPicture(greatest.value) + " at " + shownInPicture(greatest.x);
-    if (putLabel(stage, text, {dot.x, beside}, {colour, selected, Align::middle}))
-        stage.drawing.push_back(ArcShape{dot, dotRadius, 0, 360, std::nullopt, colour});
-}
 
 /// The selected member first, then by the size of the deflection.
 std::vector<std::size_t> byImportance(const Stage& stage, const BeamSketch& sketch) {
@@ -81,19 +26,93 @@ std::vector<std::size_t> byImportance(const Stage& stage, const BeamSketch& sket
     return members;
 }
 
+class Deflections {
+  public:
+    Deflections(const Stage& stage, const BeamSketch& sketch) : stage_(stage), sketch_(sketch) {
+        double lowest = 0, highest = 0;
+        for (const auto& member : sketch.deflections) {
+            lowest = std::max(lowest, member.greatest.value);
+            for (const auto& point : member.points)
+                highest = std::min(highest, point.value);
+        }
+        const double room = stage.rows.deflectionsEnd - stage.rows.deflections;
+        scale_ = lowest > highest ? room / (lowest - highest) : 0;
+        zero_ = stage.rows.deflections - highest * scale_;
+        line_ = Skyline(stage.width, zero_);
+    }
+
+    void draw() {
+        stage_.drawing.push_back(
+            PathShape{{at(sketch_.joints.front().x, 0), at(sketch_.joints.back().x, 0)},
+                      Pen{BehindColour, 1}});
+        for (std::size_t member = 1; member <= sketch_.deflections.size(); ++member)
+            drawMember(member);
+        for (const auto member : byImportance(stage_, sketch_))
+            labelMember(member);
+    }
+
+  private:
+    [[nodiscard]] DrawnPoint at(double x, double value) const {
+        return {stage_.place(x), zero_ + scale_ * value};
+    }
+    /// Where the greatest deflection of a member is.
+    [[nodiscard]] DrawnPoint greatestAt(std::size_t member) const {
+        const auto& greatest = sketch_.deflections[member - 1].greatest;
+        return at(sketch_.joints[member - 1].x + greatest.x, greatest.value);
+    }
+    [[nodiscard]] Colour colourOf(std::size_t member) const {
+        return stage_.selected.isMember(member) ? HighlightColour : ink::deflection;
+    }
+
+    void drawMember(std::size_t member) {
+        const auto& points = sketch_.deflections[member - 1].points;
+        const auto& first = points.front();
+        const auto& last = points.back();
+        const double width = stage_.selected.isMember(member) ? selectedWidth : lineWidth;
+        PathShape path{{}, Pen{colourOf(member), width}};
+        if ((last.x - first.x) * stage_.scale < narrow)
+            path.points = {at(first.x, first.value), greatestAt(member), at(last.x, last.value)};
+        else
+            for (const auto& point : points)
+                path.points.push_back(at(point.x, point.value));
+        for (std::size_t k = 1; k < path.points.size(); ++k)
+            line_.addLine(path.points[k - 1], path.points[k]);
+        stage_.drawing.push_back(std::move(path));
+    }
+
+    /// A label is beyond the curve, close to its place; where the curve is in the way there is
+    /// none, but for the selected member.
+    void labelMember(std::size_t member) const {
+        const auto& greatest = sketch_.deflections[member - 1].greatest;
+        if (greatest.value == 0)
+            return;
+        const bool selected = stage_.selected.isMember(member);
+        const LabelStyle style{colourOf(member), selected, Align::middle};
+        const auto text = shownInPicture(greatest.value) + " at " + shownInPicture(greatest.x);
+        const auto dot = greatestAt(member);
+        const auto [left, right] = spanOf(stage_, text, dot.x, style);
+        const double free =
+            greatest.value > 0 ? line_.bottomBetween(left, right) : line_.topBetween(left, right);
+        if (std::fabs(free - dot.y) > farFromDot && !selected)
+            return;
+        const double top =
+            greatest.value > 0 ? free + besideDot : free - besideDot - stage_.textHeight();
+        if (putLabel(stage_, text, {dot.x, top}, style))
+            stage_.drawing.push_back(ArcShape{dot, dotRadius, 0, 360, std::nullopt, style.colour});
+    }
+
+    const Stage& stage_;
+    const BeamSketch& sketch_;
+    double zero_ = 0, scale_ = 0;  // y of the beam without loads; pixels for one unit
+    Skyline line_{0, 0};
+};
+
 }  // namespace
 
 void drawDeflections(const Stage& stage, const BeamSketch& sketch) {
     if (sketch.deflections.empty())
         return;
-    const auto curve = curveOf(stage, sketch);
-    stage.drawing.push_back(PathShape{{{stage.place(sketch.joints.front().x), curve.zero},
-                                       {stage.place(sketch.joints.back().x), curve.zero}},
-                                      Pen{BehindColour, 1}});
-    for (std::size_t member = 1; member <= sketch.deflections.size(); ++member)
-        drawMember(stage, sketch, curve, member);
-    for (const auto member : byImportance(stage, sketch))
-        labelMember(stage, sketch, curve, member);
+    Deflections(stage, sketch).draw();
 }
 
 }  // namespace trabeon

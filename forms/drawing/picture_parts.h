@@ -18,7 +18,8 @@ void drawReactions(const Stage& stage, const BeamSketch& sketch);
 /// The deflected shape, with the greatest deflection of each member and its x.
 void drawDeflections(const Stage& stage, const BeamSketch& sketch);
 
-/// Bands and arrows above the beam, to scale. Values are magnitudes: the arrow is the sign.
-void drawLoads(const Stage& stage, const BeamSketch& sketch);
+/// Bands and arrows above the beam, to scale. Values are magnitudes: the arrow is the sign. Returns
+/// how many arrows had no room.
+std::size_t drawLoads(const Stage& stage, const BeamSketch& sketch);
 
 }  // namespace trabeon

@@ -25,13 +25,17 @@ double leftOf(double x, double width, Align align) {
 
 }  // namespace
 
+LabelSpan spanOf(const Stage& stage, const std::string& text, double x, const LabelStyle& style) {
+    const double width = stage.measure(text, style.bold).width;
+    const double most = std::max(edge, stage.width - edge - width);
+    const double left = std::clamp(leftOf(x, width, style.align), edge, most);
+    return {left, left + width};
+}
+
 bool putLabel(const Stage& stage, const std::string& text, const DrawnPoint& at,
               const LabelStyle& style) {
-    const auto size = stage.measure(text, style.bold);
-    const double most = std::max(edge, stage.width - edge - size.width);
-    const double left = std::clamp(leftOf(at.x, size.width, style.align), edge, most);
-    const Box box{left - betweenLabels, at.y, left + size.width + betweenLabels,
-                  at.y + size.height};
+    const auto [left, right] = spanOf(stage, text, at.x, style);
+    const Box box{left - betweenLabels, at.y, right + betweenLabels, at.y + stage.textHeight()};
     if (!stage.labels.isFree(box))
         return false;
     stage.labels.take(box);

@@ -66,8 +66,14 @@ struct LabelStyle {
     Align align = Align::middle;
 };
 
-/// Puts a label at x with its top at y, moved inward at the picture's edges. False if there is no
-/// room: then it is left out.
+/// From where to where a label reaches that is put at x, moved inward at the picture's edges.
+struct LabelSpan {
+    double left = 0, right = 0;
+};
+[[nodiscard]] LabelSpan spanOf(const Stage& stage, const std::string& text, double x,
+                               const LabelStyle& style);
+
+/// Puts a label at x with its top at y. False if there is no room: then it is left out.
 bool putLabel(const Stage& stage, const std::string& text, const DrawnPoint& at,
               const LabelStyle& style);
 

@@ -28,10 +28,7 @@ Colour colourOf(const Stage& stage, std::size_t joint) {
 
 /// Small where the joints are close together.
 double symbolScale(const Stage& stage, const BeamSketch& sketch) {
-    double closest = std::numeric_limits<double>::infinity();
-    for (std::size_t k = 1; k < sketch.joints.size(); ++k)
-        closest = std::min(closest, sketch.joints[k].x - sketch.joints[k - 1].x);
-    return std::clamp(closest * stage.scale / symbolWidth, leastSymbolScale, 1.0);
+    return std::clamp(shortestMember(sketch) * stage.scale / symbolWidth, leastSymbolScale, 1.0);
 }
 
 std::size_t drawSupports(const Stage& stage, const BeamSketch& sketch) {
@@ -145,13 +142,15 @@ void drawReactions(const Stage& stage, const BeamSketch& sketch) {
         const LabelStyle style{colourOf(stage, joint), stage.selected.isJoint(joint),
                                Align::middle};
         drawForce(stage, joint, x, force);
-        putLabel(stage, shownInPicture(std::fabs(force)), {x, stage.rows.values}, style);
+        const auto value = shownInPicture(std::fabs(force));
+        const double secondRow = stage.rows.values + stage.textHeight();
+        if (!putLabel(stage, value, {x, stage.rows.values}, style))
+            putLabel(stage, value, {x, secondRow}, style);
         if (moment == 0)
             continue;
         addMomentArrow(stage.drawing, {x, stage.rows.beam}, outwardOf(sketch, joint), moment,
                        {style.colour, 1.5});
-        putLabel(stage, "M " + shownInPicture(std::fabs(moment)),
-                 {x, stage.rows.values + stage.textHeight()}, style);
+        putLabel(stage, "M " + shownInPicture(std::fabs(moment)), {x, secondRow}, style);
     }
 }
 

@@ -23,7 +23,7 @@ class DrawingView::Surface : public QFrame {
         painter.setClipRect(contentsRect());
         painter.fillRect(contentsRect(), Qt::white);
         painter.translate(contentsRect().topLeft());
-        PaintDrawing(painter, view_.drawing_);
+        PaintDrawing(painter, view_.Drawn());
         painter.end();
         QFrame::paintEvent(event);
     }
@@ -46,9 +46,15 @@ TextMeasure DrawingView::Measure() const {
     return MeasureOf(Widget()->font());
 }
 
-void DrawingView::SetDrawing(Drawing drawing) {
-    drawing_ = std::move(drawing);
+void DrawingView::Redraw() {
+    drawn_ = false;
     Widget()->update();
+}
+
+const Drawing& DrawingView::Drawn() const {
+    if (!std::exchange(drawn_, true))
+        drawing_ = Draw ? Draw() : Drawing();
+    return drawing_;
 }
 
 QImage DrawingView::PictureOf(const Drawing& drawing) const {

@@ -20,8 +20,11 @@ class DrawingView : public Control {
     double InnerHeight() const;
     TextMeasure Measure() const;
 
-    const Drawing& Drawn() const { return drawing_; }
-    void SetDrawing(Drawing drawing);
+    // Makes the drawing for the present size. It runs when somebody looks, and then not again
+    // before the next Redraw.
+    std::function<Drawing()> Draw;
+    void Redraw();
+    const Drawing& Drawn() const;
 
     // A drawing made for the size of this view, on white and sharp on paper.
     QImage PictureOf(const Drawing& drawing) const;
@@ -33,7 +36,8 @@ class DrawingView : public Control {
   private:
     class Surface;
 
-    Drawing drawing_;
+    mutable Drawing drawing_;
+    mutable bool drawn_ = false;
 };
 
 }  // namespace trabeon
