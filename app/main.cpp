@@ -1,4 +1,4 @@
-// trabeon: the program with its window.
+// trabeon: the program with windows.
 #include <cstdio>
 #include <exception>
 
@@ -27,6 +27,6 @@ int main(int argc, char** argv) try {
     removeLentPictures(folder);
     return exit;
 } catch (const std::exception& error) {
-    std::fprintf(stderr, "Trabeon cannot go on (%s).\n", error.what());
+    std::fprintf(stderr, "Trabeon cannot continue (%s).\n", error.what());
     return 1;
 }

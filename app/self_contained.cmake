@@ -1,6 +1,6 @@
-# Copies the toolkit's plugins, and the libraries that they and the programs need, into the folder
-# that is installed. `programs` and `plugin_folder` are set by the caller.
-# Left to the system is what belongs to its drivers and its display, and what no Debian goes without.
+# Copies the plugins of Qt, and the libraries that they and the programs need, into the installed
+# folder. The caller sets `programs` and `plugin_folder`.
+# The system provides its drivers, its display libraries and what every Debian has.
 set(of_the_system
     "^ld-linux" "^lib(c|m|dl|rt|pthread|resolv|util|stdc\\+\\+|gcc_s|asan|ubsan)\\.so"
     "^lib(X11|X11-xcb|xcb|Xau|Xdmcp|bsd|md)\\.so" "^lib(GL|EGL|GLX|GLdispatch|gbm|drm)\\.so"

@@ -4,10 +4,10 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
-#include <numeric>
 
 #include "batch/text_table.h"
-#include "core/analysis/settled_sum.h"
+#include "core/response/beam_response.h"
+#include "core/response/extremes.h"
 #include "core/text/number_masks.h"
 
 namespace trabeon {
@@ -50,34 +50,21 @@ std::string spanTable(const Analysis& analysis) {
     return text;
 }
 
-/// From the moments about the left joint, so that it does not depend on the shears.
-double rightReaction(const Analysis& analysis, std::size_t member) {
-    const auto stations = analysis.stationsOf(member);
-    const double left = stations.front().forces.moment;
-    const double right = stations.back().forces.moment;
-    double loads = 0;
-    for (const auto& load : analysis.points.on(member))
-        loads += load.P * load.a;
-    for (const auto& load : analysis.udls.on(member))
-        loads -= load.momentAbout(-load.a, load.b);
-    SettledSum moment;
-    for (const double part : {left, -right, loads})
-        moment.add(part);
-    return moment.value() / analysis.beam.Length[member];
-}
-
-}  // namespace
-
-std::vector<double> reactionsOf(const Analysis& analysis) {
-    std::vector<double> reactions(analysis.beam.Supports, 0);
-    for (std::size_t i = 1; i <= analysis.beam.members(); ++i) {
-        const auto stations = analysis.stationsOf(i);
-        reactions[i - 1] -= stations.front().forces.shear;
-        reactions[i] += rightReaction(analysis, i);
+std::string extremesTable(const LoadedBeam& loaded) {
+    std::string text =
+        tableLine("Member", {"M max", "at x", "M min", "at x", "deflection", "at x"});
+    for (std::size_t i = 1; i <= loaded.beam.members(); ++i) {
+        const MemberResponse member(loaded, i);
+        const auto [greatest, least] = extremesOf(member, Quantity::moment);
+        const auto deflection = greatestDeflection(member);
+        text += tableLine(std::to_string(i),
+                          {figure(greatest.value), figure(greatest.x), figure(least.value),
+                           figure(least.x), figure(deflection.value), figure(deflection.x)});
     }
-    return reactions;
+    return text;
 }
 
+/// The sum of all loads, downward positive.
 double totalLoad(const Analysis& analysis) {
     double total = 0;
     for (const auto& load : analysis.points.loads)
@@ -86,6 +73,35 @@ double totalLoad(const Analysis& analysis) {
         total += load.resultant(load.b);
     return total;
 }
+
+/// One line that compares the sum of the reactions with the sum of the loads.
+std::string reactionCheck(const Analysis& analysis, const std::vector<JointResponse>& joints) {
+    const double loads = totalLoad(analysis);
+    double sum = 0, largest = std::fabs(loads);
+    for (const auto& joint : joints) {
+        sum += joint.reaction;
+        largest = std::max(largest, std::fabs(joint.reaction));
+    }
+    const auto figures = "Reactions add up to " + figure(sum) + ", loads to " + figure(loads);
+    if (std::fabs(sum - loads) <= 1e-9 * largest)
+        return figures + ": they agree.\n";
+    return figures + ": they differ. Check the loads.\n";
+}
+
+std::string responseTables(const Analysis& analysis) {
+    const auto loaded = analysis.loaded();
+    if (const auto objection = unfitForResponse(loaded))
+        return "No reactions and deflections: " + objection->sentence + '\n';
+    std::string text = "Extremes (exact), deflections (downward positive)\n" +
+                       extremesTable(loaded) + "\nReactions (upward positive)\n" +
+                       tableLine("Joint", {"reaction"});
+    const auto joints = jointResponses(loaded);
+    for (std::size_t j = 0; j < joints.size(); ++j)
+        text += tableLine(std::to_string(j + 1), {figure(joints[j].reaction)});
+    return text + reactionCheck(analysis, joints);
+}
+
+}  // namespace
 
 std::string balanceTableStrips(std::string_view table, std::size_t width) {
     std::vector<std::vector<std::string_view>> rows;
@@ -108,26 +124,8 @@ std::string balanceTableStrips(std::string_view table, std::size_t width) {
     return text;
 }
 
-std::string reactionCheck(const Analysis& analysis) {
-    const auto reactions = reactionsOf(analysis);
-    const double sum = std::accumulate(reactions.begin(), reactions.end(), 0.0);
-    const double loads = totalLoad(analysis);
-    double largest = std::fabs(loads);
-    for (const double reaction : reactions)
-        largest = std::max(largest, std::fabs(reaction));
-    const auto figures = "Reactions add up to " + figure(sum) + ", loads to " + figure(loads);
-    if (std::fabs(sum - loads) <= 1e-9 * largest)
-        return figures + ": they agree.\n";
-    return figures + ": they differ. Look at the loads.\n";
-}
-
 std::string resultTables(const Analysis& analysis) {
-    const auto reactions = reactionsOf(analysis);
-    std::string text = "Moments (sagging positive)\n" + spanTable(analysis);
-    text += "\nReactions (upward positive)\n" + tableLine("Joint", {"reaction"});
-    for (std::size_t j = 0; j < reactions.size(); ++j)
-        text += tableLine(std::to_string(j + 1), {figure(reactions[j])});
-    return text + reactionCheck(analysis);
+    return "Moments (sagging positive)\n" + spanTable(analysis) + '\n' + responseTables(analysis);
 }
 
 }  // namespace trabeon

@@ -8,9 +8,14 @@
 namespace trabeon {
 namespace {
 
-std::size_t operandCount(const CommandForm& form) {
-    return 1 +
-           static_cast<std::size_t>(std::count(form.operands.begin(), form.operands.end(), ' '));
+/// "FILE.TB [FILE.TB ...] TABLE" takes two names or more, "DIR FILE.TB" just two.
+bool takesNames(const CommandForm& form, std::size_t count) {
+    const auto optional = form.operands.find('[');
+    const auto blanks = std::count(form.operands.begin(), form.operands.end(), ' ');
+    if (optional == form.operands.npos)
+        return count == static_cast<std::size_t>(1 + blanks);
+    constexpr int blanksOfOptional = 2;
+    return count >= static_cast<std::size_t>(1 + blanks - blanksOfOptional);
 }
 
 const CommandForm* formOf(std::string_view command, const std::vector<CommandForm>& commands) {
@@ -40,20 +45,24 @@ std::string usageOf(const CommandForm& form) {
 std::string helpText(const std::vector<CommandForm>& commands) {
     std::string text =
         "Analyses continuous beams by Hardy Cross moment distribution and designs their\n"
-        "reinforced concrete sections to BS 8110, without a window.\n";
+        "reinforced concrete sections to BS 8110. Needs no display.\n";
     for (const auto& form : commands)
         text += "\n" + usageOf(form) + "\n    " + std::string(form.purpose) +
                 "\n    Example: " + std::string(form.example) + "\n";
     return text +
-           "\n--divisions N    equal parts of each span, 1 to 10000 (default 10)\n"
+           "\n--format csv|json  comma separated values (default) or JSON\n"
+           "--divisions N    equal parts of each span, 1 to 10000 (default 10)\n"
            "--places N       decimal places of the position of a maximum, 0 to 12 (default 3)\n"
            "--cover MM       concrete cover (default 25)\n"
            "--link MM        assumed size of the links (default 10)\n"
            "--aggregate MM   largest size of the aggregate (default 0)\n"
-           "--no-restrict    spans over 10 m keep their basic span to depth ratio\n"
-           "\nExit code: 0 done; 1 refused, or done with a section that failed in shear or with results\n"
-           "of an earlier state (standard error says why);\n"
-           "2 wrong usage.\n";
+           "--no-restrict    do not reduce the span to depth ratio of spans over 10 m\n"
+           "\nAll cores work on several projects. The results come in the order of the names.\n"
+           "A refused project is named on standard error; the others go on.\n"
+           "\nExit code: 0 done\n"
+           "           1 refused; or done, but a section fails in shear or a table is outdated\n"
+           "             (standard error gives the reason)\n"
+           "           2 wrong command line\n";
 }
 
 std::optional<std::string> CommandLine::option(std::string_view name) const {
@@ -108,7 +117,7 @@ Outcome<CommandLine> readCommandLine(const std::vector<std::string>& words,
         line.options.emplace_back(name,
                                   sign == std::string::npos ? words[++i] : word.substr(sign + 1));
     }
-    if (const auto wanted = operandCount(*form); line.operands.size() != wanted)
+    if (!takesNames(*form, line.operands.size()))
         return Refusal{"\"" + words[0] + "\" takes " + std::string(form->operands) + ", not " +
                        std::to_string(line.operands.size()) + " names. Usage: " + usageOf(*form)};
     return line;

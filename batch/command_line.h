@@ -1,4 +1,4 @@
-// Reads the words of a command line, or says in one line what is wrong.
+// Reads a command line. A refusal is one line that says what is wrong.
 #pragma once
 
 #include <optional>
@@ -10,12 +10,12 @@
 
 namespace trabeon {
 
-/// Exit codes: 0 done, 1 refused, 2 wrong usage.
+/// Exit codes: 0 done, 1 refused, 2 wrong command line.
 enum class Exit { done = 0, refused = 1, usage = 2 };
 
 struct CommandForm;
 
-/// The words of a command line that fits one of the forms.
+/// A command line that matches one of the command forms.
 struct CommandLine {
     const CommandForm* command = nullptr;  // none: "--help"
     std::vector<std::string> operands;
@@ -32,7 +32,7 @@ struct CommandLine {
 struct CommandForm {
     std::string_view name;
     Exit (*carryOut)(const CommandLine& line);
-    std::string_view operands;  // as the help shows them: "DIR FILE.TB"
+    std::string_view operands;  // as the help shows them: "DIR FILE.TB", "FILE.TB [FILE.TB ...]"
     std::vector<std::string_view>
         options;  // as the help shows them: "--places N" takes a value, "--no-restrict" none
     std::string_view purpose;

@@ -11,7 +11,4 @@ namespace trabeon {
 /// Carries a command out. Reasons go to standard error, one on each line.
 [[nodiscard]] Exit carryOut(const CommandLine& line);
 
-/// Writes one line to standard error.
-void complain(std::string_view sentence);
-
 }  // namespace trabeon

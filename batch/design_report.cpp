@@ -42,7 +42,7 @@ bool anyHolds(Rows rows, std::string_view words) {
                        [&](const DesignRow& row) { return note::holds(row.DefNote, words); });
 }
 
-/// Each failure once; "OK" if there is none.
+/// The failed checks, each once. "OK" if all checks passed.
 std::string verdict(Rows rows) {
     std::string text;
     for (auto words :
@@ -84,17 +84,17 @@ std::string designSummary(const BeamDesign& design) {
         std::count_if(design.rows.begin(), design.rows.end(),
                       [](const DesignRow& row) { return verdict(Rows(&row, 1)) != "OK"; });
     return std::to_string(design.rows.size()) + " sections designed; " + std::to_string(failed) +
-           " of them not OK.\n";
+           " of them are not OK.\n";
 }
 
 std::string missingDimensionsWarning(const DesignData& data) {
     const auto missing = data.missingDimensions();
     if (missing.count == 0)
         return {};
-    return "Sections without dimensions of their own: " + std::to_string(missing.count) +
+    return "Sections without dimensions: " + std::to_string(missing.count) +
            ", the first is section " + std::to_string(missing.Section) + " of member " +
            std::to_string(missing.Member) +
-           ". Each takes the values of the section before it; enter its dimensions.";
+           ". Each is designed as the section before it; enter its dimensions.";
 }
 
 }  // namespace trabeon

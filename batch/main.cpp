@@ -1,11 +1,11 @@
-// trabeon-batch: the analysis and the design without a window, for scripts and machines with no
-// display.
+// trabeon-batch: the analysis and the design for scripts and for machines without a display.
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
 #include <new>
 
 #include "batch/commands.h"
+#include "batch/messages.h"
 #include "core/store/temporary_file.h"
 
 namespace {
@@ -43,7 +43,7 @@ int main(int count, char** words) {
     } catch (const std::bad_alloc&) {
         std::fputs(outOfMemory, stderr);
     } catch (const std::exception& error) {
-        complain(std::string("The job cannot be done (") + error.what() + ").");
+        complain(std::string("The command failed (") + error.what() + ").");
     }
     if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
         complain("The output could not be written.");

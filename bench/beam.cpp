@@ -1,6 +1,6 @@
-// Writes a beam of a given number of spans into a folder as the editors would leave it before its
-// first analysis: mixed joint ends, members and loads, numbers of one to four digits, sections for
-// the design at 10 divisions, the same on every machine.
+// Writes the working files of a beam with a given number of spans, as the editors write them before
+// the first analysis. Joint types, members and loads are mixed, numbers have one to four digits,
+// and there are sections for a design with 10 divisions. The files are the same on every machine.
 #include <array>
 #include <cstdint>
 #include <cstdio>
@@ -21,7 +21,7 @@ using trabeon::working_file::member;
 using trabeon::working_file::point;
 using trabeon::working_file::udl;
 
-/// A 64-bit congruential generator, so that no library decides what the beams are.
+/// A 64-bit linear congruential generator: the beams do not depend on a library.
 class Dice {
   public:
     explicit Dice(std::uint64_t seed) : state_(seed * 2 + 1) {}
@@ -42,7 +42,7 @@ class Dice {
     std::uint64_t state_;
 };
 
-/// A whole number of hundredths as one would type it: 450 is "4.5".
+/// Hundredths as a user types them: 450 gives "4.5".
 std::string hundredths(int count) {
     auto text = std::to_string(count / 100);
     if (const int rest = count % 100; rest > 0) {
@@ -75,7 +75,7 @@ void writeUdl(ReplacingFile& file, int span, int a, int b, int w1, int w2, const
                hundredths(w1) + ',' + hundredths(w2) + ",\"" + what + "\"\r\n");
 }
 
-/// Most spans carry a uniform load over their whole length, some a trapezoid on a part of it too.
+/// Most spans have a uniform load over their whole length. Some also have a trapezoid on a part.
 void writeUdls(ReplacingFile& file, Dice& dice, int span, int length) {
     if (dice.chance(85)) {
         const int w = 50 * dice.roll(4, 120);
@@ -89,7 +89,8 @@ void writeUdls(ReplacingFile& file, Dice& dice, int span, int length) {
     }
 }
 
-/// Deep enough for the shear of any of these beams: one that fails would end the links of the rest.
+/// The sections are deep enough for the shear of all these beams: after one shear failure the
+/// design calculates no more links.
 void writeSections(ReplacingFile& file, Dice& dice, int span, int length) {
     const int depth = 50 * dice.roll(26, 34);
     const auto sizes = std::to_string(25 * dice.roll(20, 32)) + ',' + std::to_string(depth) + ',' +
@@ -115,7 +116,7 @@ void writeBeam(FileSet& files, int spans) {
         writeUdls(udls, dice, span, length);
         writeSections(sections, sizes, span, length);
     }
-    // What the user thought of last stands last, whatever its member.
+    // Loads that the user added last are last in the file, on any member.
     for (int i = 0; i < spans / 20; ++i)
         writePointLoads(points, dice, dice.roll(1, spans), 250);
 }

@@ -1,5 +1,4 @@
-// What the steps of a person's work cost in the program with its windows, and what its start costs.
-// No display is needed.
+// Measures the start of the program with windows and the steps of a user's work. Needs no display.
 #include <sys/resource.h>
 #include <QAbstractItemView>
 #include <QApplication>
@@ -25,13 +24,13 @@
 namespace trabeon {
 namespace {
 
-/// All that the windows still have to do, painting included.
+/// Processes all pending events, with painting.
 void settle() {
     QApplication::processEvents();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-/// Prints what a step costs, to its last paint.
+/// Prints the milliseconds of a step up to its last paint.
 template <class Step>
 void measure(const char* name, const Step& step) {
     const auto start = std::chrono::steady_clock::now();
@@ -41,7 +40,7 @@ void measure(const char* name, const Step& step) {
     std::printf("%s %.3f\n", name, time.count());
 }
 
-/// The same for each of several, on average.
+/// The same for a step that runs several times: prints the average.
 template <class Step>
 void measureEach(const char* name, int times, const Step& step) {
     const auto start = std::chrono::steady_clock::now();
@@ -53,8 +52,7 @@ void measureEach(const char* name, int times, const Step& step) {
     std::printf("%s %.3f\n", name, time.count() / times);
 }
 
-/// The mouse over a part of the curve: what a move costs, and what it would cost to draw the whole
-/// chart again.
+/// Measures a mouse move over a part of the curve. Measures drawing the whole chart for comparison.
 void readOff(Graph& chart) {
     QWidget& widget = *chart.Widget();
     const QPointF middle = widget.rect().center();
@@ -85,8 +83,7 @@ struct Program {
     Forms& forms = main.context().forms;
 };
 
-/// The preview holds the program until it is closed: what is to be done there waits for its first
-/// paint.
+/// The preview blocks the program until it closes, so its steps start at its first paint.
 void preview(Program& program) {
     const auto start = std::chrono::steady_clock::now();
     QTimer::singleShot(0, [&] {
@@ -102,7 +99,7 @@ void preview(Program& program) {
     program.forms.Get<frmReport>().mnufilepreview.Choose();
 }
 
-/// To the member in the middle; what the beam holds of it stays.
+/// Adds a section to the member in the middle, which keeps its other sections.
 void addSection(frmBeamDimensions& form) {
     form.optVary.Choose();
     form.cboMember.SetListIndex(form.cboMember.ListCount() / 2);
@@ -142,9 +139,9 @@ void work(const std::string& folder, const std::string& project, Unattended& ans
 }  // namespace
 }  // namespace trabeon
 
-/// `window`: an empty main window until it has painted. `start DIR`: the same of the program, in a
-/// working folder. `work DIR FILE.TB`: opens a project and goes through the steps of the work; one
-/// line each, its name and milliseconds, and at last the greatest memory in MiB.
+/// `window`: shows an empty main window and ends after its first paint. `start DIR`: the same with
+/// the program in a working folder. `work DIR FILE.TB`: opens a project and runs the steps of the
+/// work. It prints one line per step, name and milliseconds, and at the end the peak memory in MiB.
 int main(int argc, char** argv) {
     using namespace trabeon;
     qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -1,2 +1,2 @@
-// A program that does nothing: what it costs to start and end one.
+// A program that does nothing, to measure the start and end of a process.
 int main() {}

@@ -1,5 +1,5 @@
-// What the text of an analysis costs at the least: as many cells as its table and its station file
-// hold, formatted with std::to_chars and written in large blocks.
+// The minimum cost of the text of an analysis. Formats as many cells as the balance table and the
+// station file contain with std::to_chars and writes them in large blocks.
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Cells of the balance table and of the station file.
+/// The number of cells of the balance table and of the station file.
 struct CellCount {
     std::size_t table = 0, stations = 0;
 };
@@ -25,7 +25,7 @@ bool isCell(std::string_view line) {
     return !line.empty() && (line.front() == '-' || (line.front() >= '0' && line.front() <= '9'));
 }
 
-/// A cell of the table is what stands before five blanks; the label of a row is none.
+/// In the table, five blanks end each cell. The label of a row is not a cell.
 CellCount cellsOf(const std::filesystem::path& folder) {
     CellCount count;
     const auto table = trabeon::readWhole(folder / trabeon::working_file::balanceTable);
@@ -45,7 +45,7 @@ CellCount cellsOf(const std::filesystem::path& folder) {
     return count;
 }
 
-/// Moments as a relaxation has them: from thousandths to hundreds, of both signs, all digits used.
+/// Numbers like the moments of a relaxation: from thousandths to hundreds, both signs, all digits.
 std::vector<double> representativeValues() {
     std::vector<double> values(4096);
     std::uint64_t state = 1;
@@ -78,6 +78,21 @@ class BlockWriter {
         std::memcpy(at, separator.data(), separator.size());
         used_ = static_cast<std::size_t>(at - block_.data()) + separator.size();
     }
+    template <class Number>
+    void writeNumber(Number value, std::string_view separator) {
+        if (used_ + 64 > size)
+            flush();
+        char* at = block_.data() + used_;
+        at = std::to_chars(at, at + 32, value).ptr;
+        std::memcpy(at, separator.data(), separator.size());
+        used_ = static_cast<std::size_t>(at - block_.data()) + separator.size();
+    }
+    void writeText(std::string_view text, std::string_view separator) {
+        if (used_ + 64 > size)
+            flush();
+        used_ += text.copy(block_.data() + used_, text.size());
+        used_ += separator.copy(block_.data() + used_, separator.size());
+    }
     bool finish() {
         flush();
         return good_;
@@ -96,6 +111,27 @@ class BlockWriter {
     std::size_t used_ = 0;
     bool good_ = true;
 };
+
+/// Rows of comma separated values as an export has them: n in the pattern is a number with all its
+/// digits, w a whole number, t a text. `more` numbers follow, for the cells that were read.
+int writeRows(std::size_t rows, std::string_view pattern, std::size_t more, const char* name) {
+    const auto values = representativeValues();
+    BlockWriter file(name);
+    std::size_t cell = 0;
+    for (std::size_t row = 0; row < rows; ++row)
+        for (std::size_t k = 0; k < pattern.size(); ++k) {
+            const std::string_view separator = k + 1 < pattern.size() ? "," : "\r\n";
+            if (pattern[k] == 'n')
+                file.writeNumber(values[cell++ % values.size()], separator);
+            else if (pattern[k] == 'w')
+                file.writeNumber(row, separator);
+            else
+                file.writeText("right", separator);
+        }
+    for (; more > 0; --more)
+        file.writeNumber(values[cell++ % values.size()], ",");
+    return file.finish() ? 0 : 1;
+}
 
 int writeCells(CellCount count, const char* name) {
     const auto values = representativeValues();
@@ -119,6 +155,12 @@ int main(int argc, char** argv) {
     if (argc == 4)
         return writeCells(
             {std::strtoull(argv[1], nullptr, 10), std::strtoull(argv[2], nullptr, 10)}, argv[3]);
-    std::fputs("Usage: bench-floor count DIR\n       bench-floor TABLE STATIONS FILE\n", stderr);
+    if (argc == 6 && std::string_view(argv[1]) == "rows")
+        return writeRows(std::strtoull(argv[2], nullptr, 10), argv[3],
+                         std::strtoull(argv[4], nullptr, 10), argv[5]);
+    std::fputs(
+        "Usage: bench-floor count DIR\n       bench-floor TABLE STATIONS FILE\n"
+        "       bench-floor rows ROWS PATTERN MORE FILE\n",
+        stderr);
     return 2;
 }

@@ -1,4 +1,4 @@
-// Runs two commands in turn and compares them: A B A B ..., each from its start to its end.
+// Runs two commands in turn (A B A B ...), each from start to end, and compares them.
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/resource.h>
@@ -18,7 +18,7 @@ using Command = std::vector<char*>;
 
 struct Measure {
     double milliseconds = 0;
-    double processor = 0;  // milliseconds of it spent computing, in the program and in the system
+    double processor = 0;  // milliseconds of processor time, user and system
     long peakKiB = 0;
 };
 
@@ -26,7 +26,7 @@ double milliseconds(const timeval& time) {
     return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
 }
 
-/// Ends the program if the command fails: a time of something that did not run is no figure.
+/// Ends the program if the command fails, because its time would be meaningless.
 Measure runOnce(const Command& command) {
     const auto start = std::chrono::steady_clock::now();
     pid_t child = 0;
@@ -57,7 +57,7 @@ void compare(int pairs, const Command& a, const Command& b, const Command* befor
         const auto ofA = runOnce(a);
         const auto ofB = runOnce(b);
         if (i == 0)
-            continue;  // it only warmed the caches
+            continue;  // the first pair only fills the caches
         timesA.push_back(ofA.milliseconds);
         timesB.push_back(ofB.milliseconds);
         ratios.push_back(ofA.milliseconds / ofB.milliseconds);
@@ -73,10 +73,10 @@ void compare(int pairs, const Command& a, const Command& b, const Command* befor
 
 }  // namespace
 
-/// Takes two commands, A and B, and perhaps a third that is run before each A and not measured.
-/// Prints one line: the median milliseconds of A and of B, the median, lower and upper quartile of
-/// the ratios A : B of the pairs, the median ratio of processor time, and the greatest memory of A
-/// and of B in MiB.
+/// Arguments: two commands, A and B. An optional third command runs before each A and is not
+/// measured. Prints one line: the median milliseconds of A and of B; the median, lower and upper
+/// quartile of the ratio A : B of each pair; the median ratio of processor time; the peak memory of
+/// A and of B in MiB.
 int main(int argc, char** argv) {
     const int pairs = argc > 1 ? std::atoi(argv[1]) : 0;
     std::vector<Command> commands;

@@ -8,7 +8,7 @@
 
 namespace trabeon {
 
-/// Why something was not done: one sentence for the user that names the thing and the cure.
+/// Why something was not done: one sentence for the user that names the problem and the solution.
 struct Refusal {
     std::string sentence;
 };
@@ -20,24 +20,24 @@ using Objection = std::optional<Refusal>;
 class [[nodiscard]] Status {
   public:
     Status() = default;                                                // done
-    Status(Refusal refusal) : objection_(std::move(refusal)) {}        // NOLINT: a refusal is one
-    Status(Objection objection) : objection_(std::move(objection)) {}  // NOLINT: and so is this
+    Status(Refusal refusal) : objection_(std::move(refusal)) {}        // NOLINT: implicit
+    Status(Objection objection) : objection_(std::move(objection)) {}  // NOLINT: implicit
 
     [[nodiscard]] bool done() const { return !failed(); }
     [[nodiscard]] bool failed() const { return objection_.has_value(); }
-    /// Why it failed. Only if it did.
+    /// The reason. Call it only after a failure.
     [[nodiscard]] const Refusal& refusal() const { return *objection_; }
 
   private:
     Objection objection_;
 };
 
-/// The value asked for, or why there is none.
+/// The result of an operation that returns a value: the value, or the reason why there is none.
 template <class Value>
 class [[nodiscard]] Outcome {
   public:
-    Outcome(Value value) : content_(std::move(value)) {}        // NOLINT: a value is an outcome
-    Outcome(Refusal refusal) : content_(std::move(refusal)) {}  // NOLINT: and so is a refusal
+    Outcome(Value value) : content_(std::move(value)) {}        // NOLINT: implicit
+    Outcome(Refusal refusal) : content_(std::move(refusal)) {}  // NOLINT: implicit
 
     explicit operator bool() const { return content_.index() == 0; }
     Value& operator*() { return std::get<0>(content_); }

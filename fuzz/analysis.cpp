@@ -1,5 +1,5 @@
-// Any bytes as a project that is opened and analysed: refused with a message, or analysed into
-// finite results whose files stand the same after a second analysis.
+// Opens and analyses any bytes as a project. They are refused with a message, or the results are
+// finite and a second analysis writes the same files.
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -8,6 +8,8 @@
 #include <string_view>
 
 #include "core/analysis/result_files.h"
+#include "core/response/beam_response.h"
+#include "core/response/extremes.h"
 #include "core/store/file_set.h"
 #include "core/store/project_file.h"
 #include "fuzz/require.h"
@@ -20,7 +22,7 @@ namespace working_file = trabeon::working_file;
 using trabeon::fuzz::require;
 using trabeon::fuzz::sameRows;
 
-/// One working folder for the whole run, gone at its end.
+/// One working folder for the whole run. Removed at the end.
 class Folder {
   public:
     Folder() {
@@ -50,7 +52,7 @@ void unpackInto(const trabeon::Project& project, const fs::path& folder) {
     require(files.commit().done(), "the working files can be written");
 }
 
-/// The settings follow from the input's size, so that an input always does the same.
+/// The settings depend only on the size of the input, so that an input always does the same.
 trabeon::AnalysisSettings settingsFor(std::size_t size) {
     constexpr double divisions[] = {10, 1, 2, 7};
     return {divisions[size % 4], static_cast<double>(size % 13)};
@@ -69,7 +71,32 @@ void requireFinite(const trabeon::Analysis& analysis) {
     }
 }
 
-/// Nothing where the input was refused; a refusal always has a message.
+bool liesOn(const trabeon::MemberResponse& member, const trabeon::Extreme& extreme) {
+    return std::isfinite(extreme.value) && extreme.x >= 0 && extreme.x <= member.length();
+}
+
+/// The response is refused, or finite everywhere, and its extremes lie on their members.
+void requireResponse(const trabeon::Analysis& analysis) {
+    const auto response = trabeon::responseOf(analysis.loaded());
+    if (!response)
+        return require(!response.refusal().sentence.empty(), "a refusal says something");
+    for (const auto& member : response->members) {
+        using trabeon::Quantity;
+        for (const auto quantity :
+             {Quantity::moment, Quantity::shear, Quantity::rotation, Quantity::deflection}) {
+            const auto [greatest, least] = trabeon::extremesOf(member, quantity);
+            require(liesOn(member, greatest) && liesOn(member, least), "extremes lie on the span");
+            require(greatest.value >= least.value, "the greatest is not below the least");
+        }
+        require(liesOn(member, trabeon::greatestDeflection(member)), "so does the deflection");
+    }
+    for (const auto& joint : response->joints)
+        require(std::isfinite(joint.x) && std::isfinite(joint.reaction) &&
+                    std::isfinite(joint.moment) && std::isfinite(joint.rotation),
+                "joints are finite");
+}
+
+/// The analysis, or nothing if the input was refused. A refusal always has a message.
 std::optional<trabeon::Analysis> analysed(const fs::path& folder, std::size_t size) {
     int messages = 0;
     double progress = 0;
@@ -87,7 +114,7 @@ std::optional<trabeon::Analysis> analysed(const fs::path& folder, std::size_t si
     return analysis;
 }
 
-/// The files that an analysis leaves, by their one names.
+/// The texts of the result files of an analysis.
 struct Results {
     std::string points, udls, balanceTable, stations, maxima;
 };
@@ -118,6 +145,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!analysis)
         return 0;
     requireFinite(*analysis);
+    requireResponse(*analysis);
     const auto first = resultsIn(folder.path());
     require(analysed(folder.path(), size).has_value(), "a second analysis goes through");
     requireSame(first, resultsIn(folder.path()));

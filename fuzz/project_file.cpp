@@ -1,5 +1,5 @@
-// Any bytes as a project file: refused with a sentence, or taken apart so that packing and taking
-// apart again gives the same project.
+// Reads any bytes as a project file. They are refused with a sentence, or packing and reading them
+// again gives the same project.
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -14,7 +14,7 @@ using trabeon::Project;
 using trabeon::fuzz::require;
 using trabeon::fuzz::sameRows;
 
-/// A save refuses such a title; all other titles come back.
+/// False for a title that a save refuses. All other titles can be read back.
 bool canBeSaved(const trabeon::ProjectTitle& title) {
     return (title.project + title.designer + title.beamName).find_first_of("\"\r\n") ==
            std::string::npos;

@@ -1,4 +1,4 @@
-// Runs a fuzz target over every file of the folders that are named: the corpus as a plain test.
+// Runs a fuzz target over every file of the given folders. This makes the corpus a test.
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -13,7 +13,7 @@ int main(int argc, char** argv) {
     for (int i = 1; i < argc; ++i) {
         for (const auto& entry : std::filesystem::directory_iterator(argv[i])) {
             std::printf("%s\n", entry.path().filename().string().c_str());
-            std::fflush(stdout);  // the last name printed is the one that stopped the run
+            std::fflush(stdout);  // if the run stops, the last name is the cause
             const auto text = trabeon::readWhole(entry.path());
             LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(text.data()), text.size());
             ++count;

@@ -1,4 +1,4 @@
-// What a fuzz target holds to be true of every input.
+// The check that fuzz targets use.
 #pragma once
 
 #include <cstdio>
@@ -6,7 +6,7 @@
 
 namespace trabeon::fuzz {
 
-/// Stops the run, so that the input at hand is kept.
+/// Stops the run if `holds` is false, so that the fuzzer keeps the input.
 inline void require(bool holds, const char* what) {
     if (holds)
         return;

@@ -1,4 +1,4 @@
-// Whether two texts of a row file say the same.
+// Compares two texts of a row file.
 #pragma once
 
 #include <algorithm>
@@ -14,7 +14,7 @@ inline std::string_view withoutBlanks(std::string_view field) {
     return field;
 }
 
-/// Field by field; a rewrite may drop the blanks around a field that is no description.
+/// True if all fields are equal. Blanks around a field other than a description do not count.
 template <class Row>
 bool sameRows(std::string_view a, std::string_view b) {
     const auto rowsA = rowsOf<Row>(a);

@@ -28,7 +28,7 @@ ChartDriver::~ChartDriver() {
         (*restore)();
 }
 
-/// The form, which is unloaded at the end if it was not loaded.
+/// Shows and returns the form. The destructor unloads it if it was not loaded before.
 template <class Form>
 Form& ChartDriver::take() {
     Forms& forms = context_.forms;

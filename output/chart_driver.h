@@ -1,4 +1,4 @@
-// Drives the program's own chart forms, and leaves them as it found them.
+// Operates the chart forms of the program and restores them afterwards.
 #pragma once
 
 #include <functional>
@@ -14,7 +14,7 @@ struct Context;
 class ChartDriver : public ChartForms {
   public:
     explicit ChartDriver(Context& context);
-    /// Forms that it loaded are unloaded; the others show again what they showed, where they stood.
+    /// Unloads the forms that it loaded. Restores the content and the place of the others.
     ~ChartDriver() override;
 
     int ShowSingleSpan() override;
@@ -34,7 +34,7 @@ class ChartDriver : public ChartForms {
     void selectAll();
 
     Context& context_;
-    std::vector<std::function<void()>> restores_;  // the last one first
+    std::vector<std::function<void()>> restores_;  // run in reverse order
     WindowState frame_ = WindowState::Normal;
 };
 

@@ -1,4 +1,4 @@
-// The chart forms as an output drives them: each call leaves a picture on the clipboard.
+// The chart forms as an output uses them. Each Copy function puts a picture on the clipboard.
 #pragma once
 
 namespace trabeon {
@@ -10,18 +10,18 @@ class ChartForms {
     ChartForms(const ChartForms&) = delete;
     ChartForms& operator=(const ChartForms&) = delete;
 
-    /// Shows frmMoment1 and frmShear1; the number of members that they offer.
+    /// Shows frmMoment1 and frmShear1. Returns the number of members in their lists.
     virtual int ShowSingleSpan() = 0;
-    /// Plots a member, counted from 0, and copies the chart.
+    /// Plots a member, numbered from 0, and copies the chart.
     virtual void CopyMoment(int member) = 0;
     virtual void CopyShear(int member) = 0;
 
-    /// Enlarges the main window and selects all members on both continuous forms.
+    /// Maximises the main window and selects all members on both continuous forms.
     virtual void PlotContinuous() = 0;
-    /// Enlarges a continuous form and copies its chart.
+    /// Maximises a continuous form and copies its chart.
     virtual void CopyContinuousMoment() = 0;
     virtual void CopyContinuousShear() = 0;
-    /// The windows go back to their former size.
+    /// Restores the former sizes of the windows.
     virtual void RestoreWindows() = 0;
 };
 

@@ -1,4 +1,4 @@
-// A document as it stands: paragraphs, tables and pictures. Measures are points.
+// A document in memory: paragraphs, tables and pictures. All measures are in points.
 #pragma once
 
 #include <string>
@@ -22,10 +22,10 @@ struct TextRun {
 struct DocumentPicture {
     std::string png;
     double width, height;
-    double left = 0;  // where it is wanted, from the paragraph's left edge
+    double left = 0;  // wanted place from the paragraph's left edge
 };
 
-/// Text, or pictures side by side.
+/// Either text or pictures side by side.
 struct Paragraph {
     std::vector<TextRun> runs;
     std::vector<DocumentPicture> pictures;
@@ -36,7 +36,7 @@ using Cell = std::vector<TextRun>;
 struct DocumentTable {
     std::size_t columns = 0;
     std::vector<std::vector<Cell>> rows;
-    bool headed = false;  // the first row comes back at the top of each page
+    bool headed = false;  // repeats the first row at the top of each page
 };
 
 using Block = std::variant<Paragraph, DocumentTable>;

@@ -1,4 +1,4 @@
-// A document that is being typed: all goes to its end.
+// Builds a document by adding to its end.
 #pragma once
 
 #include "output/document.h"
@@ -9,20 +9,22 @@ class DocumentBuilder {
   public:
     DocumentBuilder() { document_.blocks.emplace_back(Paragraph{}); }
 
-    TextStyle style;  // of what is typed next
+    TextStyle style;  // of the next text
 
-    /// Below a picture if one stands in the paragraph.
+    /// Adds text to the current paragraph. Starts a new one if this one contains pictures.
     void type(const std::string& text);
     void endParagraph() { document_.blocks.emplace_back(Paragraph{}); }
 
-    /// Puts the clipboard's picture beside those of the paragraph; false if it holds none.
+    /// Adds the clipboard's picture to the pictures of the paragraph, `left` points from its left
+    /// edge. Returns false if the clipboard has no picture.
     bool paste(double left);
 
-    /// The last paragraph becomes a table, which `endTable` leaves.
+    /// Starts a table. It replaces the current paragraph if that is empty. Call `endTable` after
+    /// it.
     DocumentTable& beginTable(std::size_t columns);
     void endTable() { endParagraph(); }
 
-    /// The paragraph that is typed in.
+    /// The paragraph at the end of the document.
     [[nodiscard]] Paragraph& current() { return std::get<Paragraph>(document_.blocks.back()); }
     [[nodiscard]] Document& document() { return document_; }
 
@@ -30,7 +32,7 @@ class DocumentBuilder {
     Document document_;
 };
 
-/// Appends to runs of text; an empty text leaves them alone.
+/// Appends a run of text. An empty text adds nothing.
 void appendText(std::vector<TextRun>& runs, const std::string& text, const TextStyle& style);
 
 }  // namespace trabeon

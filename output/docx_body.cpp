@@ -12,7 +12,7 @@
 namespace trabeon {
 namespace {
 
-/// The widths of texts. Each text is measured once.
+/// Measures the widths of texts in type of 1 point. Keeps each result.
 class Measure {
   public:
     double operator()(const std::string& text, const TextStyle& style) {
@@ -76,8 +76,8 @@ class Body {
             write(std::get<Paragraph>(document_.blocks[i]), isTitle(i));
     }
 
-    /// Text outside of tables is a title. The title and the empty line below it stay with what
-    /// follows.
+    /// Text outside of tables is a title. It and the empty line below it stay on the page of the
+    /// next block.
     [[nodiscard]] bool isTitle(std::size_t i) const {
         const auto* paragraph = std::get_if<Paragraph>(&document_.blocks[i]);
         if (paragraph == nullptr || !paragraph->pictures.empty())
@@ -133,7 +133,7 @@ class Body {
         const auto layout = layOut(table, pageWidth(), std::ref(measure_));
         for (std::size_t i = 0; i < layout.strips.size(); ++i) {
             if (i > 0)
-                write(Paragraph{}, false);  // two tables that touch would become one
+                write(Paragraph{}, false);  // a word processor would join adjacent tables
             strip(table, layout.strips[i], layout.points);
         }
     }
@@ -192,7 +192,7 @@ class Body {
             write(run, std::min(run.style.points, points));
     }
 
-    /// The size of the paragraph mark is the height of an empty cell.
+    /// Sets the type size of the paragraph mark. It alone sets the height of an empty cell.
     void emptyCell(double points) {
         const auto paragraph = xml_.element("w:pPr");
         const auto mark = xml_.element("w:rPr");

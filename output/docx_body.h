@@ -1,4 +1,4 @@
-// The main part of an Office Open XML document: paragraphs, tables and pictures as its markup.
+// Writes the main part of an Office Open XML document: paragraphs, tables and pictures.
 #pragma once
 
 #include <QByteArray>
@@ -7,10 +7,11 @@
 
 namespace trabeon {
 
-/// Pictures are told by their number in the document, from 1: their relation is "picture1", ...
+/// The text of the main part. It refers to pictures by their number in the document, from 1:
+/// "picture1", "picture2" ...
 [[nodiscard]] QByteArray docxBody(const Document& document);
 
-/// All pictures in their order.
+/// All pictures of the document in order.
 [[nodiscard]] std::vector<const DocumentPicture*> picturesOf(const Document& document);
 
 }  // namespace trabeon

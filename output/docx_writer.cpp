@@ -60,7 +60,7 @@ QString pictureName(std::size_t number) {
     return "media/picture" + QString::number(number) + ".png";
 }
 
-/// A zip file in memory.
+/// Writes a zip file in memory.
 class Zip {
   public:
     Zip() : zip_(&buffer_), good_(zip_.open(QuaZip::mdCreate)) {}

@@ -1,4 +1,4 @@
-// A document as the bytes of an Office Open XML file (.docx).
+// Writes a document as an Office Open XML file (.docx).
 #pragma once
 
 #include <string>

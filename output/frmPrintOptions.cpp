@@ -57,7 +57,7 @@ frmPrintOptions::frmPrintOptions(Context& context)
 }
 
 void frmPrintOptions::Form_Load() {
-    SetWidth(width + 120);  // and the border
+    SetWidth(width + 120);  // plus the border
     SetHeight(5200);
 }
 
@@ -71,7 +71,7 @@ ProjectTitle frmPrintOptions::title() {
     return context_.forms.Get<frmTitle>().Title();
 }
 
-/// A table that came with the project file has no record and is taken as it is.
+/// Only for an outdated balance table. A table from the project file has no record and no remark.
 std::string frmPrintOptions::tableRemark() const {
     const auto state = tableState(context_.folder);
     return state == ResultState::outdated ? std::string(analyseAgain) : "";
@@ -91,9 +91,9 @@ void frmPrintOptions::cmdPrint_Click() {
         return;
     const WaitCursor wait;
     if (!print(printedPages(source, Kinds(), optLand.Value()), *printer))
-        warn("The print of \"" + excerpt(project) + "\" did not reach " +
-             (printer->File().empty() ? "the printer. See to the printer"
-                                      : "\"" + printer->File() + "\". Choose another file") +
+        warn("\"" + excerpt(project) + "\" could not be printed" +
+             (printer->File().empty() ? ". Check the printer"
+                                      : " to \"" + printer->File() + "\". Choose another file") +
              ", then print again.");
 }
 

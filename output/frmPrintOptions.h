@@ -1,4 +1,5 @@
-// The choice of what leaves the program as a whole document, and the three ways out.
+// The printing options: what a document contains, and the buttons for the printer and both word
+// processors.
 #pragma once
 
 #include "core/store/project_file.h"

@@ -14,7 +14,7 @@ constexpr double lineSpacing = 1.2;
 constexpr std::array<std::string_view, 7> keys{"[Enter]", "[tab]",   "[Esc]",       "[Down]",
                                                "[right]", "[enter]", "[shiftRight]"};
 
-/// The key that a text begins with; empty if it begins with none.
+/// The key at the start of a text. Empty if there is none.
 std::string_view keyAt(std::string_view text) {
     for (const auto key : keys)
         if (text.starts_with(key))
@@ -85,7 +85,7 @@ void LotusDocument::press(std::string_view key) {
         leaveTable();
 }
 
-/// A table without rows or columns is none, and what is typed goes on below.
+/// Without rows or columns it makes no table.
 void LotusDocument::CreateTable(int columns, int rows) {
     if (columns <= 0 || rows <= 0)
         return;
@@ -95,7 +95,7 @@ void LotusDocument::CreateTable(int columns, int rows) {
     row_ = column_ = 0;
 }
 
-/// A tab in the last cell of a table adds a row; no other step is ever taken back.
+/// A tab in the last cell of a table adds a row. Undo removes this row and nothing else.
 void LotusDocument::Undo() {
     if (!inTable_ || !rowAdded_)
         return;
@@ -104,7 +104,7 @@ void LotusDocument::Undo() {
     rowAdded_ = false;
 }
 
-/// Beside the picture before it if tabs lead there, else below.
+/// Pastes the picture beside the one before it if tabs came after that one, otherwise below it.
 void LotusDocument::Paste() {
     if (tabsBehindPicture_ == 0 && !builder_.current().pictures.empty()) {
         builder_.endParagraph();
@@ -132,7 +132,7 @@ void LotusDocument::tab() {
         table().rows.emplace_back(table().columns);
 }
 
-/// The lines beside a picture are passed first.
+/// Beside a picture, the cursor first moves down to the lower edge of the picture.
 void LotusDocument::enter() {
     tabsBehindPicture_ = 0;
     if (linesBesidePicture_ > 1) {

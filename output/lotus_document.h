@@ -1,5 +1,4 @@
-// Word Pro's object, for whom a document of our own is Word Pro's: the members that an output
-// calls.
+// Executes the commands for Lotus Word Pro: they build a Document.
 #pragma once
 
 #include "output/document_builder.h"
@@ -30,10 +29,10 @@ class LotusDocument : public WordProcessor {
 
     DocumentBuilder builder_;
     bool inTable_ = false;
-    std::size_t row_ = 0, column_ = 0;  // of the cell that is typed in
-    bool rowAdded_ = false;             // by the last step
+    std::size_t row_ = 0, column_ = 0;  // of the current cell
+    bool rowAdded_ = false;             // by the last tab
     int tabsBehindPicture_ = 0;
-    int linesBesidePicture_ = 0;  // that the cursor has yet to pass
+    int linesBesidePicture_ = 0;  // from the cursor to the picture's lower edge
 };
 
 }  // namespace trabeon

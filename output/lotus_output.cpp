@@ -6,15 +6,15 @@
 namespace trabeon {
 namespace {
 
-constexpr int tabsBeside = 6;    // from a picture to the place next to it
-constexpr int entersBelow = 10;  // from a pair of pictures to the line below
+constexpr int tabsBeside = 6;    // tabs from a picture to the place beside it
+constexpr int entersBelow = 10;  // from a pair of pictures to the line below it
 constexpr int entersBelowContinuous = 25;
 
 void type(WordProcessor& objWord, const std::string& text) {
     objWord.Call("Type", {{"", text}});
 }
 
-/// A field that reads like a command is typed in two goes, so that it stays text.
+/// Types a field in pieces that end at each "[". So a field such as "[tab]" is not a command.
 void typeField(const std::string& field, WordProcessor& objWord) {
     std::size_t from = 0;
     do {
@@ -24,7 +24,7 @@ void typeField(const std::string& field, WordProcessor& objWord) {
     } while (from < field.size());
 }
 
-/// The first field in bold, which may be switched on already.
+/// Types a row with its first field in bold. `isBold` says that bold is already on.
 void typeRow(const RowFields& row, bool isBold, WordProcessor& objWord) {
     for (std::size_t i = 0; i < row.size(); ++i) {
         if (i == 0 && !isBold)
@@ -60,7 +60,7 @@ void valuesTable(FieldReader& reader, int& LineCount, int Column, int Divisions,
     }
     for (int row = 1; row <= Divisions + 2 && !reader.atEnd(); ++row) {
         ++LineCount;
-        typeRow(nextRow(reader, Column), row == 1, objWord);  // the three heads leave it on
+        typeRow(nextRow(reader, Column), row == 1, objWord);  // the column titles leave bold on
     }
     objWord.Call("Undo");
     type(objWord, "[right][enter][enter]");

@@ -1,5 +1,5 @@
-// Lotus Word Pro: the words in which it is told a document, the twin of Word's. Text is keyed in
-// through `Type`, with commands such as "[tab]" in it.
+// Writes the document of a project with the commands of Lotus Word Pro. `Type` types text with keys
+// such as "[tab]" in it. Parameters are as in word_output.h.
 #pragma once
 
 #include "output/project_output.h"
@@ -8,14 +8,14 @@ namespace trabeon {
 
 void LotusWriteTitle(const std::string& Title, WordProcessor& objWord);
 
-/// A bold line.
+/// Types a bold line.
 void LotusTableTitleWrite(const std::string& Title, WordProcessor& objWord);
 
-/// A file as a table; LineCount comes back as the number of its lines.
+/// Types a file as a table. Returns the number of its lines in LineCount.
 void LotusReadandOutput(int& LineCount, int Column, const std::filesystem::path& FN,
                         WordProcessor& objWord);
 
-/// The station file as a table a member, each of a heading, the column titles and Divisions + 2
+/// Types the station file as one table per member: a heading, the column titles, Divisions + 2
 /// rows.
 void LotusReadandOutput2(int& LineCount, int Column, const std::filesystem::path& FN, int Divisions,
                          WordProcessor& objWord);

@@ -1,4 +1,4 @@
-// What a document of the project may hold: one flag for each tick of the printing options.
+// The possible parts of a project's document, one flag for each check box of the printing options.
 #pragma once
 
 namespace trabeon {

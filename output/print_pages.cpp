@@ -9,13 +9,13 @@ namespace trabeon {
 namespace {
 
 constexpr auto gap = "     ";
-constexpr int mostLines = 56;         // of a page of rows; the first line is counted as 2
-constexpr int lastTableLine = 55;     // of a page of the balance table
-constexpr std::size_t labelled = 10;  // characters of a table line that every strip repeats
+constexpr int mostLines = 56;         // per page of rows; the count starts at 2
+constexpr int lastTableLine = 55;     // per page of the balance table
+constexpr std::size_t labelled = 10;  // characters of a row label, repeated in each strip
 constexpr std::size_t landscapeStrip = 84;
 constexpr std::size_t uprightStrip = 56;
 
-/// The pen of a printer that prints line by line.
+/// Prints line by line on pages.
 class Pen {
   public:
     explicit Pen(std::vector<PrintedPage>& pages) : pages_(pages) { pages_.emplace_back(); }

@@ -1,4 +1,4 @@
-// The print of a project as pages of text: which line stands where on which page.
+// The pages of a project's print: the lines of each page and their places.
 #pragma once
 
 #include <string>
@@ -9,12 +9,12 @@
 
 namespace trabeon {
 
-/// A fixed-width face of 8 points. 55 of its lines reach from 20 mm to 196 mm, so that a page holds
-/// them in landscape too, on A4 and on Letter.
+/// For a fixed-width typeface of 8 points. 55 lines reach from 20 mm to 196 mm. They also fit on a
+/// page in landscape, on A4 and on Letter.
 inline constexpr double printLineHeight = 3.2;  // mm
 inline constexpr double printCorner = 20;       // mm: left and top of the text
 
-/// Text on a page; x and y of its top left corner in mm.
+/// A line on a page. x and y of its top left corner are in mm.
 struct PrintedLine {
     double x, y;
     std::string text;
@@ -27,27 +27,27 @@ struct PrintedPage {
     std::vector<PrintedLine> lines;
 };
 
-/// What a print is made from. Of the kinds it knows joints, members, loads and the balance table.
+/// The input of a print: joints, members, loads and the balance table.
 struct PrintSource {
     std::string headingLine;
     std::vector<JointRow> joints;
     std::vector<MemberRow> members;
     std::vector<PointRow> points;
     std::vector<UdlRow> udls;
-    std::string balanceTable;   // the file's text
-    std::string tableRemark{};  // above it, if it is not the table of this beam
+    std::string balanceTable;   // the text of the file
+    std::string tableRemark{};  // above it, if it is outdated
 };
 
-/// project, "Designer:" and designer, date and time in one line, five blanks between them.
+/// Project, "Designer:" and designer, date and time in one line, with five blanks between them.
 [[nodiscard]] std::string printHeadingLine(const std::string& project, const std::string& designer,
                                            const std::string& date, const std::string& time);
 
-/// Strips of `width` characters, each beside the row labels, that hold a table line of this length:
-/// at least 1.
+/// The number of strips of `width` characters that a table line of this length needs, at least 1.
+/// Each strip repeats the row labels.
 [[nodiscard]] std::size_t stripCount(std::size_t lineLength, std::size_t width);
 
-/// landscape is the shape of the pages of the balance table; all others are upright. A page that
-/// was begun last and holds nothing is not printed, unless it is the only one.
+/// `landscape` applies to the pages of the balance table. All other pages are in portrait. Drops an
+/// empty last page unless it is the only one.
 [[nodiscard]] std::vector<PrintedPage> printedPages(const PrintSource& source,
                                                     const OutputKinds& kinds, bool landscape);
 

@@ -1,4 +1,4 @@
-// The document of a project, in the order in which both word processors are told it.
+// Writes the document of a project, in the same order for both word processors.
 #pragma once
 
 #include <filesystem>
@@ -12,15 +12,15 @@
 
 namespace trabeon {
 
-/// The scratch copy of the balance table, as fields.
+/// Name of the scratch copy of the balance table. It contains comma-separated fields.
 inline constexpr std::string_view balanceTableScratch = "TB.tmp";
 
-/// A line above results that do not belong to the beam as it is now; empty if they do.
+/// The lines above results that do not match the current beam. Empty for results that do.
 struct OutputRemarks {
     std::string table, stations, design;
 };
 
-/// What a document is made from.
+/// The input of a document.
 struct OutputSource {
     std::filesystem::path folder;  // of the working files
     ProjectTitle title;
@@ -29,7 +29,7 @@ struct OutputSource {
     OutputRemarks remarks{};
 };
 
-/// The files that go into a document as they stand, one row a line.
+/// A file that becomes a table of the document, one row per line. `FN` is its name.
 struct FileTable {
     const char* title;
     const char* columnTitles;
@@ -37,7 +37,7 @@ struct FileTable {
     const char* FN;
 };
 
-/// What the two word processors are told alike, each in its own words.
+/// The parts of a document that both word processors write, each with its own commands.
 class OutputWriter {
   public:
     OutputWriter() = default;
@@ -48,13 +48,13 @@ class OutputWriter {
     virtual void begin() = 0;
     virtual void title(const std::string& text) = 0;
     virtual void table(const FileTable& file) = 0;
-    /// The scratch copy of the balance table, which has its own column titles.
+    /// Writes the scratch copy of the balance table, which includes its column titles.
     virtual void balanceTable(int Column) = 0;
-    /// The moments and shears at the stations. False: the output ends here.
+    /// Writes the moments and shears at the stations. Returns false if the output ends here.
     [[nodiscard]] virtual bool values() = 0;
     virtual void beginDiagrams() {}
     virtual void memberTitle(const std::string& text) = 0;
-    /// The picture on the clipboard, of the moments of a member; then that of its shears.
+    /// Pastes the picture on the clipboard: the moments of a member, then its shears.
     virtual void pasteMoment() = 0;
     virtual void pasteShear() = 0;
     virtual void pasteContinuous() = 0;
@@ -63,14 +63,14 @@ class OutputWriter {
 /// How much of a document was written: all of it, or what came before the writer ended it.
 enum class Extent { whole, part };
 
-/// Gives the document to the writer, kind by kind. Refuses if a file cannot be written.
+/// Writes the selected parts of the document in order. Refuses if a file cannot be written.
 [[nodiscard]] Outcome<Extent> writeProject(const OutputSource& source, const OutputKinds& kinds,
                                            OutputWriter& writer);
 
-/// The columns of the balance table of so many joints: the labels, and two ends a member.
+/// The number of columns of the balance table: the labels, and two ends per member.
 [[nodiscard]] int balanceTableColumns(std::size_t joints);
 
-/// The balance table as fields: the label of each line, and its cells.
+/// The balance table as comma-separated fields: the label of each line, then its cells.
 [[nodiscard]] std::string balanceTableFields(std::string_view table, int columns);
 
 }  // namespace trabeon

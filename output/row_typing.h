@@ -1,4 +1,4 @@
-// The rows of a file as the fields that are typed.
+// The rows of a file as fields to type.
 #pragma once
 
 #include <string>

@@ -10,7 +10,7 @@ namespace trabeon {
 
 namespace {
 
-/// False: the user has been told why not.
+/// Returns false if the file could not be written, after a message.
 bool saved(const Document& document, const std::string& file) {
     const WaitCursor wait;
     const auto status = writeDocument(document, file);

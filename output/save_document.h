@@ -1,4 +1,4 @@
-// What becomes of a document that is done.
+// Saves a finished document and opens it.
 #pragma once
 
 #include <filesystem>
@@ -8,12 +8,12 @@
 
 namespace trabeon {
 
-/// Writes the document as an Office Open XML file; if that fails the old file stays as it was.
+/// Writes the document as an Office Open XML file. After a failure the old file is unchanged.
 [[nodiscard]] Status writeDocument(const Document& document, const std::filesystem::path& file);
 
-/// Saves it under a name that is asked for, again if that fails, and opens it with the desktop's
-/// program for it; where there is none the user is told where it is. Nothing is left of it if the
-/// user draws back.
+/// Asks for a name, saves the document and opens it with the desktop's program for it. Asks again
+/// after a failure. Without such a program, a message names the saved file. Saves nothing if the
+/// user cancels.
 void saveAndOpen(const Document& document);
 
 }  // namespace trabeon

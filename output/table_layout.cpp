@@ -8,7 +8,7 @@ namespace {
 
 constexpr double typeStep = 0.5;
 
-/// The widths of a column's texts in type of 1 point.
+/// The widths that a column needs in type of 1 point.
 struct ColumnNeed {
     double word = 0;  // of the longest word
     double line = 0;  // of the longest text
@@ -43,7 +43,7 @@ double typeOf(const DocumentTable& table) {
     return TextStyle().points;
 }
 
-/// The columns at one size of type.
+/// The columns in one type size. Widths are in points.
 class Columns {
   public:
     Columns(const std::vector<ColumnNeed>& needs, double points, double pageWidth)
@@ -59,7 +59,7 @@ class Columns {
         return std::accumulate(least.begin(), least.end(), 0.0) <= pageWidth_;
     }
 
-    /// The room left over goes to the columns that want more than their least.
+    /// Shares the remaining width among the columns whose wanted width is above their least width.
     [[nodiscard]] TableStrip strip(std::vector<std::size_t> columns) const {
         double leastSum = 0, wantedSum = 0;
         for (const auto c : columns) {

@@ -28,7 +28,7 @@ std::size_t countIn(const Arguments& arguments, std::string_view name) {
     return 0;
 }
 
-/// The cells of a line, which commas part; the last one takes what is left over.
+/// Splits a line at its commas into cells. The last cell contains the rest of the line.
 std::vector<Cell> cellsOf(const Paragraph& line, std::size_t columns) {
     std::vector<Cell> cells(1);
     for (const auto& [text, style] : line.runs) {
@@ -164,7 +164,7 @@ void WordDocument::selectShape(const Arguments& arguments) {
 
 void WordDocument::IncrementLeft(const Arguments& arguments) {
     if (shape_ == 0 || shape_ > shapes_.size())
-        return;  // there was no picture to paste
+        return;  // the clipboard had no picture
     const auto [block, picture] = shapes_[shape_ - 1];
     std::get<Paragraph>(document().blocks[block]).pictures[picture].left +=
         numberIn(arguments.at(0).value);

@@ -1,4 +1,4 @@
-// Word's object, for whom a document of our own is Word's: the members that an output calls.
+// Executes the commands for Word: they build a Document.
 #pragma once
 
 #include <utility>
@@ -35,8 +35,8 @@ class WordDocument : public WordProcessor {
 
     DocumentBuilder builder_;
     std::size_t selectedLines_ = 0;
-    bool tableSelected_ = false;  // the table just made: the last block but one
-    std::vector<std::pair<std::size_t, std::size_t>> shapes_;  // block, picture in it
+    bool tableSelected_ = false;  // the new table, the last block but one
+    std::vector<std::pair<std::size_t, std::size_t>> shapes_;  // (block, picture in it), from 0
     std::size_t shape_ = 0;                                    // the selected one, from 1
 };
 

@@ -175,7 +175,7 @@ void WordOutput::pasteMoment() {
     ++picture_;
 }
 
-/// The picture falls on the one before it, and is moved beside it.
+/// Word pastes the picture on top of the one before it. The steps then move it beside that one.
 void WordOutput::pasteShear() {
     objWord_.Call("Selection.Paste");
     objWord_.Call("ActiveDocument.Shapes.Select", {{"", "Picture" + generatedText(picture_)}});

@@ -1,25 +1,26 @@
-// Word: the words in which it is told a document. `objWord` is the word processor; LineCount and
-// Column count the lines and the fields of a table; FN names a file of the working folder.
+// Writes the document of a project with the commands of Word. In all functions, `objWord`
+// is the word processor, LineCount the number of lines of a table, Column the number of its
+// columns, and FN the path of a working file.
 #pragma once
 
 #include "output/project_output.h"
 
 namespace trabeon {
 
-/// Sets the page up: Letter in landscape.
+/// Sets up the page: Letter in landscape.
 void Landscape(WordProcessor& objWord);
 
 void WriteTitle(const std::string& Title, WordProcessor& objWord);
 
-/// A bold line for the head of a table.
+/// Types a bold line, the head of a table.
 void TableTitleWrite(const std::string& Title, WordProcessor& objWord);
 
-/// Types a file's rows; LineCount comes back as their number and 1 for the head.
+/// Types the rows of a file. Returns their number plus 1, for the head, in LineCount.
 void ReadandOutput(int& LineCount, int Column, const std::filesystem::path& FN,
                    WordProcessor& objWord);
 
-/// Types the first member's block of the station file, Divisions + 2 rows, as a table; then the
-/// word processor closes with all that was typed, and the user is told.
+/// Types the Divisions + 2 rows of the first member in the station file as a table. Then it closes
+/// the word processor, discards the document and shows a message.
 void ReadandOutput2(int& LineCount, int Column, const std::filesystem::path& FN, int Divisions,
                     WordProcessor& objWord);
 
@@ -45,7 +46,7 @@ class WordOutput : public OutputWriter {
   private:
     const OutputSource& source_;
     WordProcessor& objWord_;
-    int picture_ = 1;  // the number of the picture that is pasted next
+    int picture_ = 1;  // number of the next picture
 };
 
 }  // namespace trabeon

@@ -1,4 +1,4 @@
-// A word processor as its callers know it: an object whose members are called by name.
+// The interface of a word processor: an object with members that are called by name.
 #pragma once
 
 #include <string>
@@ -10,7 +10,7 @@ namespace trabeon {
 
 using Value = std::variant<bool, int, double, std::string>;
 
-/// An argument with its name, or with none where its place tells what it is.
+/// An argument. The name is empty for an argument by position.
 struct Argument {
     std::string_view name;
     Value value;
@@ -18,7 +18,7 @@ struct Argument {
 
 using Arguments = std::vector<Argument>;
 
-/// Builds a document from the calls that it gets; a test's one writes them down.
+/// Builds a document from the calls. The one in the tests records them.
 class WordProcessor {
   public:
     WordProcessor() = default;
@@ -26,8 +26,8 @@ class WordProcessor {
     WordProcessor(const WordProcessor&) = delete;
     WordProcessor& operator=(const WordProcessor&) = delete;
 
-    /// Calls a member of the object ("Selection.TypeText"). A member that the object does not have
-    /// ends the program.
+    /// Calls a member of the object, for example "Selection.TypeText". An unknown member is a bug
+    /// and fails an assertion.
     virtual void Call(std::string_view member, const Arguments& arguments = {}) = 0;
 
     void Set(std::string_view property, Value value) { Call(property, {{"", std::move(value)}}); }

@@ -10,7 +10,7 @@ namespace {
 
 Refusal unprinted(const std::string& file) {
     if (file.empty())
-        return {"The report could not be printed. See to the printer, then try again."};
+        return {"The report could not be printed. Check the printer, then try again."};
     return {"The report could not be printed to \"" + file +
             "\". Choose another file, then try again."};
 }
@@ -26,7 +26,7 @@ Outcome<PrintEnd> PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, i
     const Paper& sheet = printer->Sheet();
     PageFormat format;
     format.page = {0, 0, sheet.ScaleWidth, sheet.ScaleHeight};
-    // The canvas begins where the printer can print: the margins count from the sheet's edge.
+    // The canvas starts at the printable area, but the margins count from the edge of the sheet.
     format.drawing = {leftMargin - sheet.OffsetX, topMargin - sheet.OffsetY,
                       sheet.Width - rightMargin - sheet.OffsetX,
                       sheet.Height - bottomMargin - sheet.OffsetY};
@@ -41,8 +41,8 @@ Outcome<PrintEnd> PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, i
         return unprinted(printer->File());
     if (!pages.whole)
         return Refusal{"The print ends with page " + std::to_string(pages.starts.size()) +
-                       ": what follows could not be laid out. Cut it out of the report, then "
-                       "print again."};
+                       ", because the rest could not be laid out. Cut the rest out of the report, "
+                       "then print again."};
     return PrintEnd::printed;
 }
 

@@ -1,4 +1,4 @@
-// The report on paper.
+// Prints the report.
 #pragma once
 
 #include "core/outcome.h"
@@ -9,8 +9,8 @@ class RichTextBox;
 
 enum class PrintEnd { printed, cancelled };
 
-/// Prints the whole text. The margins are twips from the edge of the sheet. Refuses if the printer
-/// does not take it, or if the text can be laid out only in part; that part is printed then.
+/// Prints the report. The margins are in twips from the edge of the sheet. Refuses if the print
+/// fails, or if only a part of the text could be laid out. This part is then printed.
 [[nodiscard]] Outcome<PrintEnd> PrintReport(RichTextBox& RTB, int leftMargin, int topMargin,
                                             int rightMargin, int bottomMargin);
 

@@ -14,7 +14,7 @@ namespace {
 constexpr std::array<const char*, 5> scales{"150", "100", "75", "50", "25"};
 constexpr int lastStep = 5;
 
-/// A button that goes off hands the focus to the list beside it.
+/// Enables or disables a button. A disabled button with the focus passes it to the list beside it.
 void enable(Button& button, bool enabled, ComboBox& list) {
     if (!enabled && button.HasFocus())
         list.SetFocus();
@@ -125,7 +125,7 @@ void frmDocPreview::setZoomButtons() {
     enable(cmdZoomOut, step_ != lastStep, cboScale);
 }
 
-/// The bars go to where the picture was left.
+/// Shows the picture of this zoom step. The scroll bars take the position that it had before.
 void frmDocPreview::showStep() {
     for (auto* each : steps_)
         each->SetVisible(each == &picture());
@@ -143,7 +143,7 @@ void frmDocPreview::VScroll1_Change() {
     picture().SetTop(-VScroll1.Value() * TwipsPerPixel);
 }
 
-/// False: a copy failed, which the user was told, or the form was closed meanwhile.
+/// Returns false if a copy failed, after a message, or if the form was closed meanwhile.
 bool frmDocPreview::copyPage() {
     for (auto* each : steps_) {
         Application::YieldToPainting();

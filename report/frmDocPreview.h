@@ -1,5 +1,5 @@
-// The report page by page, as it will be on paper, at five zoom steps. A page is drawn once, at
-// full size, and copied to a picture for each step: a change of the zoom draws nothing.
+// The print preview of the report, with five zoom steps. Each page is drawn once at full size. A
+// copy for each zoom step makes zooming fast.
 #pragma once
 
 #include <array>
@@ -39,18 +39,19 @@ class frmDocPreview : public Form {
     ScrollBar HScroll1{*this, Direction::Horizontal};
     ScrollBar VScroll1{*this, Direction::Vertical};
 
-    /// Ties the control's line breaks to the sheet; gives the line width in twips.
+    /// Breaks the lines of the control as on the sheet. Returns the line width in twips.
     int DocWYSIWYG(RichTextBox& inControl);
-    /// Counts the pages and keeps where each begins, so that going to one costs no other.
+    /// Returns the number of pages. Keeps the start of each page, so that showing one page does not
+    /// lay out the others.
     [[nodiscard]] int PageCtnProc(const PictureBox& picture);
-    /// Draws page InPage, from 1, or the last one if there are fewer.
+    /// Draws page `InPage`, from 1. A larger number draws the last page.
     void FormPreviewPage(PictureBox& picture, int InPage);
 
   protected:
     void Form_Load() override;
 
   private:
-    // Else the boxes inside would be taken for copies of it.
+    // As a PictureBox, it would select the copy constructor of the boxes inside it.
     [[nodiscard]] Container& viewport() { return picZ; }
 
     void cboPageno_Click();
@@ -84,7 +85,7 @@ class frmDocPreview : public Form {
     int step_ = 5;
     int totalPages_ = 1;
     std::vector<int> pageStarts_;
-    TwipsRect sheetText_;  // the area that the sheet gives to the text
+    TwipsRect sheetText_;  // the text area of the sheet, in twips
 };
 
 }  // namespace trabeon

@@ -1,4 +1,4 @@
-// The pages of the preview: how they are laid out, counted and drawn, and where they stand.
+// The pages of the preview: layout, count, drawing and sizes.
 #include <algorithm>
 #include <cmath>
 
@@ -11,7 +11,7 @@
 namespace trabeon {
 namespace {
 
-// The first is one and a half times the page's area.
+// Length scales of the zoom steps. Step 1, "150", has 1.5 times the area of the page.
 const std::array<double, 5> factors{std::sqrt(1.5), 1, 0.75, 0.5, 0.25};
 constexpr Colour paperWhite = 0xffffff;
 
@@ -30,7 +30,7 @@ int frmDocPreview::DocWYSIWYG(RichTextBox& inControl) {
     return width;
 }
 
-/// The sheet's text area is the target, so that the pages break as on paper.
+/// The target is the text area of the sheet, so that pages break as on paper.
 PageFormat frmDocPreview::formatFor(const PictureBox& picture) const {
     PageFormat format;
     format.page = {0, 0, picture.Width(), picture.Height()};

@@ -25,8 +25,8 @@ frmReport::frmReport(Context& context)
     mnufileexit = mnufile.Add("&Close", "", [this] { mnufileexit_Click(); });
     RTB.SetFont("Times New Roman", 8.25, true);
     RTB.SetAccessibleName("The report's pictures");
-    cmdCut.SetToolTipText("Removes what is selected");
-    cmdWP.SetToolTipText("Opens the picture that was added last in a word processor");
+    cmdCut.SetToolTipText("Removes the selection");
+    cmdWP.SetToolTipText("Opens the latest picture in a word processor");
     cmdCut.Click = [this] { cmdCut_Click(); };
     cmdWP.Click = [this] { cmdWP_Click(); };
     SetTabOrder({&RTB, &cmdCut, &cmdWP});
@@ -77,7 +77,7 @@ void frmReport::mnufileexit_Click() {
     Hide();
 }
 
-/// The dialog serves the project as well: what it held of that comes back.
+/// The project uses the same dialog. Its file name is put back afterwards.
 void frmReport::SaveReport() {
     auto& dialog = context_.CommonDialog1;
     const auto projectPath = dialog.FileName;
@@ -101,8 +101,7 @@ void frmReport::SaveReport() {
 void frmReport::cmdWP_Click() {
     const auto text = RTB.LastPictureRTF(Outside::Current().DefaultPaper(), marginTwips);
     if (text.empty()) {
-        warn(
-            "There is no picture in the report. Put one there with Add To Report, then try again.");
+        warn("The report has no picture. Add one with Add To Report, then try again.");
         return;
     }
     const auto path = freePicturePath(context_.folder);

@@ -1,4 +1,4 @@
-// The report: a scrapbook of the pictures that forms add, in a box that is locked in between.
+// The report: a text box with the pictures that other forms add. The user cannot type into it.
 #pragma once
 
 #include "forms/shared/context.h"
@@ -19,7 +19,7 @@ class frmReport : public Form {
     VerticalButton cmdWP{*this, "Send To WordPad"};
     MenuEntry mnufilepreview, mnuSave, mnufileexit;
 
-    /// Pastes the clipboard's picture at the caret; the box is unlocked for that long.
+    /// Pastes the clipboard's picture at the caret.
     void Add();
 
   protected:
@@ -36,7 +36,7 @@ class frmReport : public Form {
     void SaveReport();
 
     Context& context_;
-    std::string path_;  // of the last save
+    std::string path_;  // of the last saved report
 };
 
 }  // namespace trabeon

@@ -1,16 +1,16 @@
-// The margins of a page of the report.
+// The page margins of the report.
 #pragma once
 
 namespace trabeon {
 
 inline constexpr int twipsPerInch = 1440;
 
-// Inches; the preview's and the paper's.
+// In inches, of the preview.
 inline constexpr int gLeftMargin = 1;
 inline constexpr int gRightMargin = 1;
 inline constexpr int gTopMargin = 1;
 inline constexpr int gBottomMargin = 1;
 
-inline constexpr int marginTwips = 1440;  // of what is printed and saved, on all four sides
+inline constexpr int marginTwips = 1440;  // of the print and the file, all four sides
 
 }  // namespace trabeon

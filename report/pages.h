@@ -1,4 +1,4 @@
-// The way through a text page by page, for the count and for the print.
+// Splits a text into pages, for the page count and for the print.
 #pragma once
 
 #include <functional>
@@ -7,12 +7,12 @@
 namespace trabeon {
 
 struct Pages {
-    std::vector<int> starts;  // the position at which each page begins
-    bool whole = true;        // false: the last of them has no end, and the rest is left out
+    std::vector<int> starts;  // the text position where each page begins, from 0
+    bool whole = true;        // false if the layout of the last page found no end
 };
 
-/// `page` does what there is to do for the page that begins at a position, and gives where the next
-/// one begins. The way ends at the text's length, or where it goes no further.
+/// Calls `page` for each page with the position of its first character. `page` returns the position
+/// of the next page. Stops at `length`, or when a page does not advance.
 [[nodiscard]] Pages goThroughPages(int length, const std::function<int(int)>& page);
 
 }  // namespace trabeon

@@ -1,13 +1,12 @@
-// How the report becomes a part of the program.
+// Adds the report to the program.
 #pragma once
 
 namespace trabeon {
 
 struct Context;
 
-/// Registers the report's forms and takes up the report's place for pictures. It comes before the
-/// first form is loaded: a button made earlier stays disabled. Removes the pictures that earlier
-/// runs sent to the word processor.
+/// Registers the forms of the report and sets `Context::pasteIntoReport`. Call it before the first
+/// form is loaded: the "Add To Report" buttons of earlier forms would stay disabled.
 void takeUpReport(Context& context);
 
 }  // namespace trabeon

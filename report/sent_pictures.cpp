@@ -43,7 +43,7 @@ fs::path freePicturePath(const fs::path& folder) {
 }
 
 void lendPicture(const fs::path& path) {
-    std::error_code ignored;  // then it stays for good
+    std::error_code ignored;  // a file that stays writable is never removed
     fs::permissions(path, fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
                     fs::perm_options::remove, ignored);
 }

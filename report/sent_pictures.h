@@ -1,4 +1,4 @@
-// The files in which pictures go to the word processor.
+// The files that pass pictures to the word processor.
 #pragma once
 
 #include <filesystem>
@@ -8,16 +8,16 @@
 
 namespace trabeon {
 
-/// The first of "Picture 1.rtf", "Picture 2.rtf" ... in the folder that does not exist. A picture
-/// that was sent before may still be open in the word processor.
+/// The first path of "Picture 1.rtf", "Picture 2.rtf" ... in the folder that does not exist. An
+/// earlier picture may still be open in the word processor.
 [[nodiscard]] std::filesystem::path freePicturePath(const std::filesystem::path& folder);
 
-/// Says that another program reads this file only for now. It becomes read-only, so that what the
-/// user makes of it is saved under another name.
+/// Makes the file read-only and so marks it as lent to another program. The user then saves changes
+/// under another name.
 void lendPicture(const std::filesystem::path& path);
 
-/// Removes lent pictures that were written more than an hour ago: the other program has read them
-/// long since. Other files stay, and so does what cannot be removed.
+/// Removes lent pictures that are older than an hour, because the other program has read them by
+/// then. Other files stay. Ignores errors.
 void removeLentPictures(const std::filesystem::path& folder);
 
 }  // namespace trabeon

@@ -2,7 +2,7 @@
 """Draws every picture of the program and of its manual.
 
 Needs Pillow (Debian: python3-pil) and the Liberation fonts (Debian: fonts-liberation).
-Run it from anywhere; it writes pictures/*.gif, pictures/trabeon.* and help/*.png beside itself.
+Run it from any folder. It writes pictures/*.gif, pictures/trabeon.* and help/*.png next to this file.
 """
 
 from drawing import example, manual, windows

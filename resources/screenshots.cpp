@@ -1,5 +1,5 @@
-// Takes the manual's pictures of windows: does the first job in the program, key by key as the
-// manual tells it, then opens the larger example, and puts a picture of each window into a folder.
+// Makes the manual's pictures of windows. Types the first job of the manual into the program, then
+// opens the larger example. Saves a picture of each window.
 #include <QApplication>
 #include <QMdiSubWindow>
 #include <QMenuBar>
@@ -36,7 +36,7 @@ void settle() {
     QApplication::processEvents();
 }
 
-/// Keys go to whatever has the focus; '\n' is Enter, '\t' is Tab.
+/// Types the keys into the control with the focus. '\n' is Enter, '\t' is Tab.
 void type(const char* keys) {
     for (; *keys != 0; ++keys) {
         auto* focus = QApplication::focusWidget();
@@ -47,7 +47,7 @@ void type(const char* keys) {
     }
 }
 
-/// The 256 colours that a picture uses most are enough for a window, and make a small file.
+/// Reduces the picture to its 256 most frequent colours, which makes a small file.
 QImage withFewColours(const QImage& image) {
     std::unordered_map<QRgb, int> uses;
     for (int y = 0; y < image.height(); ++y)
@@ -90,7 +90,7 @@ class Camera {
         settle();
     }
 
-    /// A picture of the child window of that caption, whole and in front.
+    /// Saves a picture of the whole child window with this caption.
     void take(const char* caption, const char* name) {
         settle();
         for (auto* child : window().findChildren<QMdiSubWindow*>())
@@ -236,7 +236,7 @@ int run(const std::string& pictures) {
 }  // namespace
 }  // namespace trabeon
 
-/// Writes into the folder that is given, or among the manual's pages.
+/// Writes to the folder in the first argument, by default to the folder of the manual.
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_LOGGING_RULES", "*.debug=false");

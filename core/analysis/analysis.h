@@ -1,4 +1,4 @@
-// The whole analysis of a beam as one function over values.
+// The analysis of a beam as one function of values.
 #pragma once
 
 #include <functional>
@@ -34,9 +34,9 @@ struct AnalysisSettings {
 /// Refuses settings outside their limits.
 [[nodiscard]] Objection unfit(const AnalysisSettings& settings);
 
-/// Who hears of an analysis while it runs. `progress` gets 0, then 50 when the relaxation has
-/// ended, then 50 + 50 i / n when span i of n has been searched. `rowsRead` gets the rows of the
-/// folder as they were read, before the analysis sorts the loads.
+/// The functions that an analysis calls while it runs. `progress` gets 0, then 50 when the
+/// relaxation has ended, then 50 + 50 i / n when span i of n has been searched. `rowsRead` gets the
+/// rows of the folder before the analysis sorts the loads.
 struct AnalysisOutputs {
     MessageSink message;
     std::function<void(double)> progress = [](double) {};

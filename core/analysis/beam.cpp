@@ -29,7 +29,7 @@ Objection unfitSpelling(const std::vector<JointRow>& joints, const std::vector<J
     if (broken.empty())
         return std::nullopt;
     return Refusal{"Joint " + std::to_string(misspelled) + ", whose type \"" +
-                   excerpt(joints[misspelled - 1].type) + "\" was taken for " +
+                   excerpt(joints[misspelled - 1].type) + "\" is read as " +
                    std::string(nameOf(types[misspelled])) + ": " + broken.front()};
 }
 

@@ -29,14 +29,14 @@ struct CurveJoint {
     std::size_t left, right;
 };
 
-/// The points as far as the file goes.
+/// The points of a diagram, up to the end of the file.
 struct DiagramCurve {
     std::vector<CurvePoint> points;
-    std::vector<CurveJoint> joints;  // those that the file reaches; none for a single span
-    bool whole = false;  // the file has exactly the expected rows of every member asked for
+    std::vector<CurveJoint> joints;  // joints with results; empty for a single span
+    bool whole = false;  // the file has exactly the expected rows of all selected members
     /// The points to label with the greatest and the least value, from 0; 0 without points. If
-    /// several points have the value, it is the maximum of a member, else the end of a member, else
-    /// the middle one.
+    /// several points have the value, the label is at the maximum of a member, otherwise at the end
+    /// of a member, otherwise at the middle one.
     std::size_t greatest = 0, least = 0;
 };
 

@@ -22,7 +22,7 @@ PointLoad::PointLoad(const PointRow& row) : a(leadingNumber(row.a)), P(leadingNu
 Objection PointLoad::unfit() const {
     if (std::isfinite(a) && std::isfinite(P))
         return std::nullopt;
-    return Refusal{"a or P is too large a number. Enter a smaller one."};
+    return Refusal{"a or P is too large. Enter a smaller number."};
 }
 
 UdlLoad::UdlLoad(const UdlRow& row)
@@ -33,7 +33,7 @@ UdlLoad::UdlLoad(const UdlRow& row)
 
 Objection UdlLoad::unfit() const {
     if (!std::isfinite(a) || !std::isfinite(b) || !std::isfinite(w1) || !std::isfinite(w2))
-        return Refusal{"a, b, w1 or w2 is too large a number. Enter a smaller one."};
+        return Refusal{"a, b, w1 or w2 is too large. Enter a smaller number."};
     if (b == 0)
         return Refusal{"its width b is 0. Give it a width, or make it a point load."};
     return std::nullopt;

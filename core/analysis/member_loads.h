@@ -63,7 +63,7 @@ struct MemberLoads {
     }
 };
 
-/// Drops the rows whose load is 0 and those whose member is none of 1 to `members`. Sorts the rest
+/// Drops the rows whose load is 0 or whose member is not from 1 to `members`. Sorts the rest
 /// by member; rows of one member keep their order. Writes member numbers as generated text, and
 /// gives every member without a load a "Zero Load" row. Refuses a load that cannot be calculated:
 /// a number that is not finite, or a distributed load on a width of 0. The refusal names the row's

@@ -51,9 +51,7 @@ bool isFinite(const Row& row) {
 }
 
 Refusal unsettled() {
-    return {
-        "The moments do not settle: a load or a stiffness is too large a number. Use other "
-        "units."};
+    return {"The relaxation does not end: a load or a stiffness is too large. Use other units."};
 }
 
 void giveHeading(const Beam& beam, const DistributionFactors& factors, const TableSink& row) {

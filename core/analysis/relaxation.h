@@ -22,9 +22,9 @@ struct TableRow {
 /// Takes the table row by row. The cells of a row are valid during the call only.
 using TableSink = std::function<void(const TableRow&)>;
 
-/// The share of a joint's unbalance that the left and the right end of member i take, by stiffness
-/// alone; element 0 is not used. The two factors at a continuous joint add up to 1. At the joint
-/// next to a cantilever, the member on the other side takes all.
+/// The share of a joint's unbalance that the left and the right end of member i take. It depends
+/// only on stiffness; element 0 is not used. The two factors at a continuous joint add up to 1. At
+/// the joint next to a cantilever, the member on the other side takes all.
 struct DistributionFactors {
     std::vector<double> DFLeft, DFRight;
 };
@@ -32,8 +32,8 @@ struct DistributionFactors {
 [[nodiscard]] DistributionFactors distributionFactors(const Beam& beam);
 
 /// A balance row is negligible if no element is larger than this, in the moment unit of the input.
-/// The last factor makes a moment that is 0.01 on paper count as 0.01, so that its last bits do not
-/// add a cycle to the table.
+/// The last factor allows for rounding errors of a moment of 0.01, so that they do not add a cycle
+/// to the table.
 inline constexpr double balanceTolerance = 0.01 * (1 + 1e-12);
 
 /// Gives the rows "JOINT", "D.Fac", "F.E.M", "Bal..", then "C.Ovr" and "Bal.." in turn, and

@@ -34,12 +34,44 @@ char* put(char* at, std::string_view text) {
     return at + text.size();
 }
 
-void writeRow(ReplacingFile& file, const Station& station) {
+/// A text that is written as a file is.
+class WrittenText {
+  public:
+    void write(std::string_view text) { text_ += text; }
+    char* room(std::size_t) { return row_.data(); }
+    void advance(const char* end) {
+        text_.append(row_.data(), static_cast<std::size_t>(end - row_.data()));
+    }
+    std::string text() { return std::move(text_); }
+
+  private:
+    std::array<char, 4 * longestMask> row_;
+    std::string text_;
+};
+
+template <class File>
+void writeRow(File& file, const Station& station) {
     char* at = file.room(4 * longestMask);
     at = put(putThreeFigures(at, station.x), ",");
     at = put(putThreeFigures(at, station.forces.moment), ",");
     at = putThreeFigures(at, station.forces.shear);
     file.advance(put(at, "\r\n"));
+}
+
+template <class File>
+void writeAllStations(File& file, const Analysis& analysis) {
+    for (std::size_t span = 1; span <= analysis.beam.members(); ++span) {
+        file.write("Span" + printForm(span) + "\r\n");
+        const auto& maximum = analysis.maxima[span - 1];
+        bool written = false;
+        for (const auto& station : analysis.stationsOf(span)) {
+            if (!written && maximum.x <= station.x) {
+                writeRow(file, maximum);
+                written = true;
+            }
+            writeRow(file, station);
+        }
+    }
 }
 
 /// Writes a load file in normal form, and its scratch file with the same content. Files that are in
@@ -111,18 +143,13 @@ void BalanceTableWriter::write(const TableRow& row) {
 }
 
 void writeStations(ReplacingFile& file, const Analysis& analysis) {
-    for (std::size_t span = 1; span <= analysis.beam.members(); ++span) {
-        file.write("Span" + printForm(span) + "\r\n");
-        const auto& maximum = analysis.maxima[span - 1];
-        bool written = false;
-        for (const auto& station : analysis.stationsOf(span)) {
-            if (!written && maximum.x <= station.x) {
-                writeRow(file, maximum);
-                written = true;
-            }
-            writeRow(file, station);
-        }
-    }
+    writeAllStations(file, analysis);
+}
+
+std::string stationsText(const Analysis& analysis) {
+    WrittenText text;
+    writeAllStations(text, analysis);
+    return text.text();
 }
 
 void writeMaxima(ReplacingFile& file, const Analysis& analysis) {

@@ -7,7 +7,7 @@
 namespace trabeon {
 
 /// Writes the balance table row by row: the label, five blanks, then each cell and five blanks.
-/// Lines are separated by line ends; there is none after the last row.
+/// Line ends separate the lines. The last row has no line end.
 class BalanceTableWriter {
   public:
     explicit BalanceTableWriter(ReplacingFile& file) : file_(file) {}
@@ -22,6 +22,9 @@ class BalanceTableWriter {
 /// station in the mask "0.00E+00". The row of the maximum comes before the first station whose x is
 /// not below its x.
 void writeStations(ReplacingFile& file, const Analysis& analysis);
+
+/// The same as a text.
+[[nodiscard]] std::string stationsText(const Analysis& analysis);
 
 /// For each span the heading "Span #" and its number, then x in print form, moment and shear.
 void writeMaxima(ReplacingFile& file, const Analysis& analysis);

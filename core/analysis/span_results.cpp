@@ -7,8 +7,8 @@
 namespace trabeon {
 namespace {
 
-/// One span on its two joints: the end moments and whatever loads are added. The left reaction
-/// enters as its parts, each end moment's and each load's share.
+/// A simple span with its end moments and the loads that are added. The left reaction is added in
+/// parts: the share of each end moment and of each load.
 class SimpleSpan {
   public:
     /// MA and MB: what the left and the right end moment add to the moment at that end, reversed.
@@ -72,14 +72,17 @@ SectionForces FindMxSx(const LoadedBeam& loaded, std::size_t MemNo, double X_Dis
     return simple.forces();
 }
 
+double stationAt(std::size_t k, std::size_t Divisions, double Length) {
+    const double part = Length / static_cast<double>(Divisions);
+    return k == Divisions ? Length : static_cast<double>(k) * part;
+}
+
 std::vector<Station> FindMxSx(const LoadedBeam& loaded, std::size_t Divisions) {
     std::vector<Station> stations;
     stations.reserve(loaded.beam.members() * (Divisions + 1));
     for (std::size_t span = 1; span <= loaded.beam.members(); ++span) {
-        const double Length = loaded.beam.Length[span];
-        const double part = Length / static_cast<double>(Divisions);
         for (std::size_t k = 0; k <= Divisions; ++k) {
-            const double x = k == Divisions ? Length : static_cast<double>(k) * part;
+            const double x = stationAt(k, Divisions, loaded.beam.Length[span]);
             stations.push_back({x, FindMxSx(loaded, span, x)});
         }
     }

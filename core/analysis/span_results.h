@@ -28,12 +28,15 @@ struct LoadedBeam {
     const MemberLoads<PointLoad>& points;
 };
 
+/// x(k) = k × Length / Divisions for k from 0 to Divisions; the last one is at the length exactly.
+[[nodiscard]] double stationAt(std::size_t k, std::size_t Divisions, double Length);
+
 /// FindMax "Y": the forces in span MemNo, from 1, at the distance X_Dist from its left joint. They
 /// are not finite where the sums are beyond a double.
 [[nodiscard]] SectionForces FindMxSx(const LoadedBeam& loaded, std::size_t MemNo, double X_Dist);
 
 /// FindMax "N": the stations of every span, first span first. A span has Divisions + 1 of them, at
-/// x(k) = k × Length / Divisions; the last one is at the length exactly.
+/// stationAt() 0 to Divisions.
 [[nodiscard]] std::vector<Station> FindMxSx(const LoadedBeam& loaded, std::size_t Divisions);
 
 }  // namespace trabeon

@@ -25,7 +25,7 @@ struct CarriedValues {
     bool ShearFailed = false;
 };
 
-/// Designs a section with the values of the one before it, and passes its own on. A
+/// Designs a section with the values of the section before it, and sets those for the next one. A
 /// section is not calculated if its b, effective depth, fcu, fy or fyv is not above 0, if it has no
 /// station, or if a value is not a finite number. Its results are then 0, its bars and links empty,
 /// and its note is "No Data".

@@ -9,11 +9,6 @@
 namespace trabeon {
 namespace {
 
-Refusal tooLarge(std::size_t member) {
-    return {"Member " + std::to_string(member) +
-            ": its rotations or deflections are too large to be calculated. Use other units."};
-}
-
 /// The rotations of a member at its two ends. That of a free end follows from the curve.
 std::pair<double, double> endRotations(const LoadedBeam& loaded, const MemberEnds& ends,
                                        std::size_t member) {
@@ -55,12 +50,21 @@ std::vector<JointResponse> jointResponses(const LoadedBeam& loaded) {
     return joints;
 }
 
+Objection unfit(const MemberResponse& curves, std::size_t member) {
+    if (curves.isFinite())
+        return std::nullopt;
+    return Refusal{"Member " + std::to_string(member) +
+                   ": its rotations or deflections are too large to be calculated. Use other "
+                   "units."};
+}
+
 Objection unfitForResponse(const LoadedBeam& loaded) {
     if (const auto objection = objectionTo(strayLoads(loaded)))
         return objection;
     for (std::size_t member = 1; member <= loaded.beam.members(); ++member)
-        if (!MemberResponse(loaded, member).isFinite())
-            return tooLarge(member);
+        if (!isFarFromOverflow(loaded, member))
+            if (auto objection = unfit(MemberResponse(loaded, member), member))
+                return objection;
     return std::nullopt;
 }
 
@@ -71,8 +75,8 @@ Outcome<BeamResponse> responseOf(const LoadedBeam& loaded) {
     response.members.reserve(loaded.beam.members());
     for (std::size_t member = 1; member <= loaded.beam.members(); ++member) {
         response.members.emplace_back(loaded, member);
-        if (!response.members.back().isFinite())
-            return tooLarge(member);
+        if (const auto objection = unfit(response.members.back(), member))
+            return *objection;
     }
     response.joints = jointResponses(loaded);
     return response;

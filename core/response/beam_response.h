@@ -21,6 +21,9 @@ struct JointResponse {
 /// The loads must be on their members. The cost is in proportion to members and loads.
 [[nodiscard]] std::vector<JointResponse> jointResponses(const LoadedBeam& loaded);
 
+/// Refuses curves of a member, from 1, with values beyond the range of a double.
+[[nodiscard]] Objection unfit(const MemberResponse& curves, std::size_t member);
+
 /// Refuses a beam that has no response: a load that leaves its member or has a negative width, or
 /// a curve with values beyond the range of a double. The refusal names the row (its place in the
 /// normal form) or the member.

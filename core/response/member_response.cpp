@@ -51,6 +51,17 @@ double clean(double value, double dust) {
     return std::fabs(value) < dust ? 0 : value;
 }
 
+/// What the forces on a member make of the four quantities at the most, but for a small factor and
+/// the number of loads.
+SectionResponse sizesOf(const MemberEnds& ends, double L, double EI) {
+    const auto largest = [](double a, double b) { return std::max(std::fabs(a), std::fabs(b)); };
+    const double moment =
+        std::max(largest(ends.left.moment, ends.right.moment), ends.largestForce * L);
+    const double rotation =
+        std::max(largest(ends.left.rotation, ends.right.rotation), moment * L / EI);
+    return {moment, std::max(ends.largestForce, moment / L), rotation, rotation * L};
+}
+
 template <std::size_t degree>
 bool isFiniteCurve(const Bernstein<degree>& curve) {
     return std::all_of(curve.c.begin(), curve.c.end(),
@@ -62,12 +73,9 @@ bool isFiniteCurve(const Bernstein<degree>& curve) {
 MemberResponse::MemberResponse(const LoadedBeam& loaded, std::size_t member)
     : L_(loaded.beam.Length[member]), ends_(memberEnds(loaded, member)) {
     const double EI = loaded.beam.MemberE[member] * loaded.beam.MemberI[member];
-    const double moment = std::max(
-        {std::fabs(ends_.left.moment), std::fabs(ends_.right.moment), ends_.largestForce * L_});
-    const double rotation = std::max(
-        {std::fabs(ends_.left.rotation), std::fabs(ends_.right.rotation), moment * L_ / EI});
-    dust_ = {1e-12 * moment, 1e-12 * std::max(ends_.largestForce, moment / L_), 1e-14 * rotation,
-             1e-14 * rotation * L_};
+    const auto size = sizesOf(ends_, L_, EI);
+    dust_ = {1e-12 * size.moment, 1e-12 * size.shear, 1e-14 * size.rotation,
+             1e-14 * size.deflection};
     makePieces(loaded, member);
     integrateForces();
     integrateShape(EI);
@@ -161,6 +169,20 @@ bool MemberResponse::isFinite() const {
                isFiniteCurve(piece.moment) && isFiniteCurve(piece.rotation) &&
                isFiniteCurve(piece.deflection);
     });
+}
+
+bool isFarFromOverflow(const LoadedBeam& loaded, std::size_t member) {
+    constexpr double loadsAndFactors = 1e15;
+    const auto& beam = loaded.beam;
+    const auto size = sizesOf(memberEnds(loaded, member), beam.Length[member],
+                              beam.MemberE[member] * beam.MemberI[member]);
+    const auto isFar = [](double value) { return std::isfinite(loadsAndFactors * value); };
+    const auto udls = loaded.udls.on(member);
+    return isFar(size.moment) && isFar(size.shear) && isFar(size.rotation) &&
+           isFar(size.deflection) &&
+           std::all_of(udls.begin(), udls.end(), [&](const UdlLoad& load) {
+               return isFar((std::fabs(load.w1) + std::fabs(load.w2)) / load.b);
+           });
 }
 
 double valueOf(const SectionResponse& section, Quantity quantity) {

@@ -80,6 +80,10 @@ class MemberResponse {
     SectionResponse dust_;
 };
 
+/// Whether the curves of a member cannot come near the range of a double: cheaper than to calculate
+/// them. Otherwise isFinite() decides.
+[[nodiscard]] bool isFarFromOverflow(const LoadedBeam& loaded, std::size_t member);
+
 /// Of the four quantities the one asked for.
 [[nodiscard]] double valueOf(const SectionResponse& section, Quantity quantity);
 

@@ -20,13 +20,19 @@ PlaceInPiece placeAt(double s) {
     return {s, 1 - s};
 }
 
-double valueAt(Coefficients c, double s) {
+struct ValueAndSlope {
+    double value = 0, slope = 0;
+};
+
+/// By de Casteljau's algorithm, whose last but one level gives the slope.
+ValueAndSlope at(Coefficients c, double s) {
     Level level{};
     std::copy(c.begin(), c.end(), level.begin());
-    for (auto left = c.size() - 1; left > 0; --left)
+    for (auto left = c.size() - 1; left > 1; --left)
         for (std::size_t k = 0; k < left; ++k)
             level[k] = (1 - s) * level[k] + s * level[k + 1];
-    return level[0];
+    return {(1 - s) * level[0] + s * level[1],
+            static_cast<double>(c.size() - 1) * (level[1] - level[0])};
 }
 
 /// By Descartes' rule there are at most as many roots inside.
@@ -71,28 +77,30 @@ std::vector<PlaceInPiece> quadraticRoots(Coefficients coefficients) {
 
 /// The root between `low`, where the polynomial has the sign `signAtLow`, and `high`, where it has
 /// the other one: Newton's steps, and halves of the bracket where these do not gain enough.
-double followedRoot(Coefficients c, Coefficients slopes, double low, double high, int signAtLow) {
-    double s = low + (high - low) / 2, step = high - low, stepBefore = step;
+double followedRoot(Coefficients c, double low, double high, int signAtLow) {
+    double s = low + (high - low) / 2, step = high - low;
+    bool wasNewton = false;
     for (int count = 0; count < 200; ++count) {
-        const double value = valueAt(c, s);
+        const auto [value, slope] = at(c, s);
         if (value == 0)
             break;
         (signOf(value) == signAtLow ? low : high) = s;
-        const double newton = value / valueAt(slopes, s);
-        double next = s - newton;
-        if (!(next > low && next < high) || std::fabs(2 * newton) > std::fabs(stepBefore))
-            next = low + (high - low) / 2;
-        stepBefore = step;
-        step = next - s;
-        s = next;
-        if (std::fabs(step) <= epsilon * s || next <= low || next >= high)
+        const double newton = -value / slope, before = step;
+        const bool isNewton =
+            s + newton > low && s + newton < high && std::fabs(2 * newton) <= std::fabs(before);
+        step = isNewton ? newton : low + (high - low) / 2 - s;
+        s += step;
+        // Of Newton's steps each is about a constant times the square of the one before it.
+        const double next = isNewton && wasNewton ? step * (step / before) * (step / before) : step;
+        if (std::fabs(next) <= epsilon / 4 || s <= low || s >= high)
             break;
+        wasNewton = isNewton;
     }
     return s;
 }
 
 /// The polynomial rises or falls between its stationary places.
-std::vector<PlaceInPiece> rootsBetween(Coefficients c, Coefficients slopes,
+std::vector<PlaceInPiece> rootsBetween(Coefficients c,
                                        const std::vector<PlaceInPiece>& stationary) {
     std::vector<PlaceInPiece> roots;
     const double nothing = 16 * epsilon * largestOf(c);  // rounding errors of a value
@@ -100,12 +108,12 @@ std::vector<PlaceInPiece> rootsBetween(Coefficients c, Coefficients slopes,
     int signAtLow = signOf(c.front());
     const auto advance = [&](double s, int sign) {
         if (signAtLow * sign < 0)
-            roots.push_back(placeAt(followedRoot(c, slopes, low, s, signAtLow)));
+            roots.push_back(placeAt(followedRoot(c, low, s, signAtLow)));
         low = s;
         signAtLow = sign;
     };
     for (const auto& place : stationary) {
-        const double value = valueAt(c, place.fromLeft);
+        const double value = at(c, place.fromLeft).value;
         const bool touches = std::fabs(value) <= nothing;
         advance(place.fromLeft, touches ? 0 : signOf(value));
         if (touches)
@@ -121,20 +129,21 @@ std::vector<PlaceInPiece> rootsInside(Coefficients c) {
     const int changes = changesOfSign(c);
     if (changes == 0)
         return {};
-    if (c.size() == 2)
-        return {{c[0] / (c[0] - c[1]), c[1] / (c[1] - c[0])}};
+    const double first = c.front(), last = c.back();
+    const bool isStraight = c.size() == 2 || (c.size() == 3 && first - c[1] == c[1] - last);
+    if (isStraight)  // the shear under a uniform load is: round numbers stay round
+        return {{first / (first - last), last / (last - first)}};
     if (c.size() == 3)
         return quadraticRoots(c);
-    Level slopes{};
-    const auto degree = c.size() - 1;
-    for (std::size_t k = 0; k < degree; ++k)
-        slopes[k] = static_cast<double>(degree) * (c[k + 1] - c[k]);
-    const Coefficients derivative(slopes.data(), degree);
-    if (changes > 1)
-        return rootsBetween(c, derivative, rootsInside(derivative));
-    const auto first =
+    if (changes > 1) {
+        Level slopes{};
+        for (std::size_t k = 0; k + 1 < c.size(); ++k)
+            slopes[k] = c[k + 1] - c[k];
+        return rootsBetween(c, rootsInside({slopes.data(), c.size() - 1}));
+    }
+    const auto signAtLow =
         std::find_if(c.begin(), c.end(), [](double coefficient) { return coefficient != 0; });
-    return {placeAt(followedRoot(c, derivative, 0, 1, signOf(*first)))};
+    return {placeAt(followedRoot(c, 0, 1, signOf(*signAtLow)))};
 }
 
 }  // namespace trabeon

@@ -12,7 +12,7 @@ namespace {
 
 using Rows = std::vector<BeamDimensionRow>;
 
-/// Rows as they are read after they were written to a file.
+/// The rows as a file would give them back after writing.
 Rows asRead(const Rows& rows) {
     return rowsOf<BeamDimensionRow>(textOf(rows, Description::quoted));
 }

@@ -219,7 +219,7 @@ Objection holdsOtherRows(const std::filesystem::path& folder) {
     if (changed.empty())
         return std::nullopt;
     return Refusal{"The folder \"" + folder.string() + "\" contains rows (" + changed +
-                   ") that do not come from a project file or were changed since. Name another "
+                   ") that are not from a project file or have changed since. Choose another "
                    "folder, or save these rows first (trabeon-batch pack); nothing was changed."};
 }
 

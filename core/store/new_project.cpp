@@ -16,7 +16,7 @@ Status CreateNFile(const std::filesystem::path& folder) {
     for (const auto name : projectFiles)
         if (const auto text = readFile(folder / name); !text || !text->empty())
             return Refusal{'"' + (folder / name).string() +
-                           "\" cannot be emptied. It still holds rows of another project; move it "
+                           "\" cannot be emptied. It contains rows of another project; move it "
                            "away, then try again."};
     return {};
 }

@@ -1,7 +1,9 @@
 #include "core/store/output_file.h"
 
+#include <algorithm>
 #include <fstream>
 
+#include "core/store/own_files.h"
 #include "core/store/project_file.h"
 #include "core/store/working_files.h"
 
@@ -40,7 +42,7 @@ bool isDocument(const fs::path& file) {
 
 Refusal taken(const fs::path& file, std::string_view kind) {
     return {"\"" + file.string() + "\" already exists and is not a " + std::string(kind) +
-            ". Name another file; nothing was changed."};
+            ". Choose another file; nothing was changed."};
 }
 
 }  // namespace
@@ -48,9 +50,10 @@ Refusal taken(const fs::path& file, std::string_view kind) {
 Objection unfitDocumentFile(const fs::path& file, const fs::path& project) {
     std::error_code missing;
     if (fs::equivalent(file, project, missing))
-        return Refusal{"\"" + file.string() +
-                       "\" is the project itself. Name another file for the document; nothing was "
-                       "changed."};
+        return Refusal{
+            "\"" + file.string() +
+            "\" is the project itself. Choose another file for the document; nothing was "
+            "changed."};
     if (isFree(file) || isDocument(file))
         return std::nullopt;
     return taken(file, "document (.docx)");
@@ -63,6 +66,18 @@ Objection unfitProjectFile(const fs::path& file) {
     if (isProject)
         return std::nullopt;
     return taken(file, "project file");
+}
+
+Objection unfitTableFile(const fs::path& file, std::span<const std::string> starts) {
+    const auto folder = file.parent_path();
+    if (isOwnFile(file, folder.empty() ? fs::path(".") : folder))
+        return Refusal{"\"" + file.string() +
+                       "\" has the name of a working file. Name another file for the table; "
+                       "nothing was changed."};
+    const auto isTable = [&](const std::string& start) { return begins(file, start); };
+    if (isFree(file) || std::any_of(starts.begin(), starts.end(), isTable))
+        return std::nullopt;
+    return taken(file, "table of results");
 }
 
 fs::path resultFolder(const fs::path& project) {

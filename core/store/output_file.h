@@ -2,6 +2,8 @@
 #pragma once
 
 #include <filesystem>
+#include <span>
+#include <string>
 
 #include "core/outcome.h"
 
@@ -15,6 +17,12 @@ namespace trabeon {
 /// Whether a project may be written to a file. Refuses an existing file that is neither empty nor a
 /// project. A damaged project that begins with "WARNNING!" counts as a project.
 [[nodiscard]] Objection unfitProjectFile(const std::filesystem::path& file);
+
+/// Whether a table of results may be written to a file. Refuses a file with the name of a working
+/// file, and an existing file that is neither empty nor a table. A table begins with one of
+/// `starts`.
+[[nodiscard]] Objection unfitTableFile(const std::filesystem::path& file,
+                                       std::span<const std::string> starts);
 
 /// The folder for the result files of a project. It is next to the project and has its name without
 /// the ending: "a/b.TB" gives "a/b". Where that is the whole name, "." or "..", " results" is added

@@ -181,7 +181,7 @@ Objection unfitTitle(std::string_view text) {
     const auto quoted = "The title text \"" + excerpt(text) + "\" ";
     if (text.find_first_of("\"\r\n") != text.npos)
         return Refusal{quoted +
-                       "holds a double quote or a line end. Take it out, then save again."};
+                       "contains a double quote or a line end. Remove it, then save again."};
     if (const auto length = tooLong(text); !length.empty())
         return Refusal{quoted + "has " + length + ". Shorten it, then save again."};
     return std::nullopt;
@@ -210,7 +210,7 @@ Outcome<std::string> projectText(const std::filesystem::path& file) {
 Outcome<Project> checkedProject(std::string_view text, const std::filesystem::path& file) {
     auto project = unpackedProject(text);
     if (!project)
-        return Refusal{"\"" + file.string() + "\" is not a whole project file: " +
+        return Refusal{"\"" + file.string() + "\" is not a complete project file: " +
                        project.refusal().sentence + ". Correct that line; nothing was changed."};
     return project;
 }
@@ -238,7 +238,7 @@ Status writeWorkingFiles(const Project& project, const std::filesystem::path& fo
         fingerprint({project.joints, project.members, project.points, project.udls});
     record.unpackedDimensions = fingerprint(project.beamDimensions);
     record.table.reset();
-    if (!project.balanceTable.empty())  // it comes with the project, and is taken as its own
+    if (!project.balanceTable.empty())  // the project's table counts as current
         record.table =
             inputFingerprint({project.joints, project.members, project.points, project.udls});
     if (!record.stations)  // these belong to another beam, recorded or not
@@ -309,10 +309,8 @@ Outcome<std::uint64_t> packProject(const std::filesystem::path& folder, const Pr
     project->title = title;
     const auto text = packedText(*project);
     if (const auto again = unpackedProject(text); !again)
-        return Refusal{
-            "The project was not saved, because it could not be opened again: of what would "
-            "be written, " +
-            again.refusal().sentence + ". Correct that row, then save again."};
+        return Refusal{"The project was not saved, because the file could not be opened again: " +
+                       again.refusal().sentence + ". Correct this row, then save again."};
     if (const auto status = replaceFile(file, text, Survives::powerCut); status.failed())
         return status.refusal();
     return fingerprint(text);

@@ -31,8 +31,8 @@ struct Project {
 /// The text of the project file. Descriptions are in double quotes; numbers have no leading blank.
 [[nodiscard]] std::string packedText(const Project& project);
 
-/// The same for rows that may be damaged. A line that is not a whole row is written as it is, so
-/// that nothing is lost. Opening the project then names this line.
+/// The same for rows that may be damaged. A line that is not a complete row is written unchanged,
+/// so that nothing is lost. Opening the project then names this line.
 [[nodiscard]] std::string rescuedText(const Project& project);
 
 /// Splits the text of a project file into its parts. Refuses a text that lacks a heading, ends
@@ -42,7 +42,7 @@ struct Project {
 /// bytes in every character set.
 [[nodiscard]] Outcome<Project> unpackedProject(std::string_view text);
 
-/// Reads and checks a whole project file. Refuses one that cannot be read or that is UTF-16.
+/// Reads and checks a project file. Refuses one that cannot be read or that is UTF-16.
 [[nodiscard]] Outcome<Project> readProject(const std::filesystem::path& file);
 
 /// Writes the texts of a project to the six working files of a folder, all of them or none.

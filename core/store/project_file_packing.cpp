@@ -35,7 +35,7 @@ std::string packedRows(std::string_view file) {
     return textOf(rowsOf<Row>(file), Description::quoted);
 }
 
-/// The same line by line. A line that is not a whole row stays as it is.
+/// The same line by line. A line that is not a complete row stays unchanged.
 template <FileRow Row>
 std::string packedLines(std::string_view file) {
     std::string text;

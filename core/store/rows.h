@@ -23,13 +23,13 @@ concept FileRow = requires(Row row) {
     { Row::described } -> std::convertible_to<bool>;
 };
 
-/// A row of a file that an editor rewrites by way of a scratch file.
+/// A row of a file that an editor rewrites through a scratch file.
 template <class Row>
 concept EditedRow = FileRow<Row> && requires {
     { Row::scratch } -> std::convertible_to<std::string_view>;
 };
 
-/// Row k of "Joint.txt" is joint k from the left, whatever its number field says.
+/// Row k of "Joint.txt" is joint k from the left. Its number field does not matter.
 struct JointRow {
     std::string number, type, description;
 
@@ -86,8 +86,8 @@ struct BeamDimensionRow {
     static constexpr bool described = false;
 };
 
-/// Appends a field as it is, with the blank in front of a generated number. It goes into double
-/// quotes if a comma or a line end would cut it.
+/// Appends a field unchanged, with the leading blank of a generated number. Puts it into double
+/// quotes if it contains a comma or a line end.
 void appendField(std::string& text, std::string_view field);
 
 /// The same for a description. Double quotes also keep the blanks at its ends.
@@ -97,7 +97,7 @@ void appendBare(std::string& text, std::string_view description);
 /// was edited by hand. It stays bare, because quotes would cut it.
 void appendQuoted(std::string& text, std::string_view field);
 
-/// Appends a line as it is, with the line end that all files have.
+/// Appends a line unchanged, with the line end of all files.
 void appendLine(std::string& text, std::string_view line);
 
 /// How a writer puts the description. The editors and the project file quote it, others do not.

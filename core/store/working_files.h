@@ -12,7 +12,7 @@
 
 namespace trabeon {
 
-/// Every working file by its one name.
+/// The names of the working files.
 namespace working_file {
 inline constexpr std::string_view joint = "Joint.txt";
 inline constexpr std::string_view member = "Member.txt";
@@ -116,11 +116,11 @@ template <std::size_t Count>
 [[nodiscard]] Objection missing(const std::filesystem::path& folder,
                                 std::span<const std::string_view> names);
 
-/// Copies Source over Target, whole or not at all, and returns why the copy failed. Shows nothing.
+/// Copies Source over Target, completely or not at all. Shows no message.
 [[nodiscard]] Status DuplicateFile(const std::filesystem::path& Source,
                                    const std::filesystem::path& Target);
 
-/// Deletes a file. Shows nothing, also if there is none.
+/// Deletes a file. Shows no message, also if the file does not exist.
 void MurderFile(const std::filesystem::path& file);
 
 }  // namespace trabeon

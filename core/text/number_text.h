@@ -1,4 +1,4 @@
-// Numbers read from text, and text made from numbers, whatever the locale.
+// Numbers read from text, and text made from numbers. They do not depend on the locale.
 #pragma once
 
 #include <concepts>

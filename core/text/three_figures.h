@@ -1,5 +1,5 @@
-// The masks of three significant figures. Nearly the whole cost of an analysis is this text, so it
-// has a fast way.
+// The masks of three significant figures. Making this text is most of the cost of an analysis, so
+// there is a fast method.
 #pragma once
 
 namespace trabeon {

@@ -12,7 +12,7 @@ namespace {
 
 constexpr Colour darkRed = 0xA61B1B;
 
-/// Whether the section has failed, or the design could not do it.
+/// True if the section failed a check, or if the design has no result for it.
 bool needsTheUser(const DesignRow& row) {
     constexpr std::array notes{note::shearFailed, note::deflectionFailed, note::noData,
                                note::manualCalculation};

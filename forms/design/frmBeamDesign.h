@@ -1,4 +1,4 @@
-// The results of the design run, a row for each section; what failed stands out.
+// The results of the design, one row for each section. Failed sections are marked.
 #pragma once
 
 #include "forms/settings/remark.h"
@@ -14,8 +14,8 @@ class frmBeamDesign : public Form {
 
     explicit frmBeamDesign(Context& context);
 
-    /// Fills the list from "DResult.txt", and says below it if that is no design of the beam as it
-    /// is now.
+    /// Fills the list from "DResult.txt". A remark below the list says if the beam has changed
+    /// since that design.
     void AddtoListbox();
 
     ListView ListView1{*this,

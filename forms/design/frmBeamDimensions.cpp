@@ -21,6 +21,7 @@ std::size_t sectionsOf(double divisions) {
     return static_cast<std::size_t>(divisions) + 2;
 }
 
+/// A value that is not finite gives "0".
 std::string lengthText(double value) {
     return std::isfinite(value) ? bareNumber(value) : "0";
 }
@@ -34,7 +35,7 @@ frmBeamDimensions::frmBeamDimensions(Context& context)
     placeControls();
     wireBoxes();
     ListView1.SetAccessibleName("Sections");
-    ListView1.ColumnClick = nullptr;  // the list always stands in order of the members
+    ListView1.ColumnClick = nullptr;  // the list keeps the order of the members
     cmdRemove.SetEnabled(false);
     optUniform_Click();
     rows_.RowShown = [this](ListItem item, const BeamDimensionRow& row) { rowShown(item, row); };
@@ -117,7 +118,7 @@ double frmBeamDimensions::divisions() const {
     return context_.forms.InTheBackground<frmOptions>().Settings().Divisions;
 }
 
-/// The design uses the first row of a section: others are grey.
+/// The design uses the first row of a section. Later rows of the same section are grey.
 void frmBeamDimensions::rowShown(ListItem item, const BeamDimensionRow& row) {
     constexpr Colour grey = 0x8a8a8a;
     if (item.FilePosition() == 1)
@@ -151,7 +152,7 @@ void frmBeamDimensions::cmdAdd_Click() {
         warn(objection->sentence);
         return;
     }
-    if (optVary.Value() && cboSection.ListCount() == 0) {  // they were unfit at the load
+    if (optVary.Value() && cboSection.ListCount() == 0) {  // invalid at Form_Load
         cboSection.SetFocus();
         return;
     }
@@ -164,7 +165,7 @@ void frmBeamDimensions::cmdAdd_Click() {
         Adding({1, sectionsOf(Divisions)}, length);
 }
 
-/// Adds the sections behind the selected row, and then selects the one that was added last.
+/// Adds the sections after the selected row and selects the last row of the file.
 void frmBeamDimensions::Adding(const SectionRange& SelectedSection, double MemLen) {
     cmdRemove.SetEnabled(false);
     const auto position = static_cast<std::size_t>(ListView1.SelectedItem().FilePosition());
@@ -187,11 +188,11 @@ void frmBeamDimensions::Adding(const SectionRange& SelectedSection, double MemLe
     if (const auto status = addDimensions(context_.folder, position, row, SelectedSection, order);
         status.failed())
         warn(status.refusal().sentence);
-    ListView1.SetSorted(false);  // the last row of the file is looked for, not of the order shown
+    ListView1.SetSorted(false);  // SelectLast needs the file order
     rows_.Fill();
     rows_.SelectLast();
     sortList();
-    ListView1.SetSelectedItem(ListView1.SelectedItem());  // in sight at its place in the order
+    ListView1.SetSelectedItem(ListView1.SelectedItem());  // scrolls to it in the sorted list
     if (order)
         bringInSight(lastAdded);
 }

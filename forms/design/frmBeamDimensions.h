@@ -1,4 +1,4 @@
-// The size and the materials of each member at each of its sections, and the start of the design.
+// The editor for the size and materials of each section. Its Design button starts the design.
 #pragma once
 
 #include <set>
@@ -80,7 +80,7 @@ class frmBeamDimensions : public Form {
 
     Context& context_;
     RowEditor<BeamDimensionRow> rows_;
-    std::set<std::pair<double, double>> sectionsShown_;  // member and section of the rows so far
+    std::set<std::pair<double, double>> sectionsShown_;  // (member, section) of the rows so far
 };
 
 }  // namespace trabeon

@@ -1,4 +1,4 @@
-// Link area per unit length of two legs, for each size and spacing.
+// Reference table: area of links with two legs per unit length, for each bar size and spacing.
 #pragma once
 
 #include "forms/design/table_form.h"

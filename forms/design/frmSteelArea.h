@@ -1,4 +1,4 @@
-// The area of 1 to 10 bars of each size.
+// Reference table: area of 1 to 10 bars of each size.
 #pragma once
 
 #include "forms/design/table_form.h"

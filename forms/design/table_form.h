@@ -1,4 +1,4 @@
-// What the two reference tables share: a list that shows a file which is written anew at each load.
+// The base class of the two reference tables. Each load writes the table's file and lists it.
 #pragma once
 
 #include <filesystem>
@@ -22,7 +22,7 @@ class TableForm : public Form {
 
     void Form_Resize() override;
 
-    /// Writes the file, then shows it line by line.
+    /// Calls `write`, then shows the file in the list, one line per item.
     void BuildTable(Status (*write)(const std::filesystem::path& folder), std::string_view file);
 
     static constexpr int margin = 120;

@@ -13,8 +13,8 @@ namespace {
 // Twips.
 constexpr double beamLeft = 100;
 constexpr double beamAboveBottom = 400;
-// The headings print two tabs where the rows print one. So beside the stops at which the columns
-// begin there are some that only a heading reaches: a number is wider than the way to them.
+// A heading prints two tabs where a row prints one. So there are extra stops between the columns.
+// Only a heading reaches them, because a number is wider than the gap before them.
 const std::vector<double> tabStops{500,  1000, 1250, 1700, 2000, 2500,
                                    3100, 3600, 4050, 4350, 4800, 5100};
 
@@ -36,7 +36,7 @@ void drawDisc(PictureBox& picture, double x, double y) {
         picture.Circle(x, y, half / 2.0, QBColor(4));
 }
 
-/// A value that cannot be a number shows as it stands in the file.
+/// A value that is not finite is shown as in the file.
 std::string masked(const std::string& field) {
     const double value = leadingNumber(field);
     return std::isfinite(value) ? threeFigures(value) : field;

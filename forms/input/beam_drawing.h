@@ -1,4 +1,4 @@
-// The beam as entered: a line to scale with a symbol for each joint, and a table of the members.
+// Draws the beam as entered: a line to scale, a symbol for each joint, a table of the members.
 #pragma once
 
 #include <string_view>
@@ -9,16 +9,16 @@
 
 namespace trabeon {
 
-/// One joint symbol at (x, y); a text that is none of the four types draws nothing.
+/// Draws one joint symbol at (x, y) in twips. A text that is not a joint type draws nothing.
 void DrawJoint(PictureBox& picture, std::string_view JType, double x, double y);
 
-/// The beam line and its joints on a picture of this size in twips, 400 above its bottom edge. The
-/// lengths are to scale but for the first, which begins at 100. Without a length to scale by
-/// nothing is drawn; joints end where their rows do.
+/// Draws the beam line and its joints on a picture of this size in twips, 400 above the bottom
+/// edge. The lengths are to scale. The first member looks shorter, because the line begins at x =
+/// 100. Draws nothing if the total length is not above 0 or not finite.
 void drawBeam(PictureBox& picture, double width, double height, const std::vector<JointRow>& joints,
               const std::vector<MemberRow>& members);
 
-/// E, I and L of each member from the top of the picture on, two members to a line.
+/// Prints E, I and L of each member from the top of the picture, two members per line.
 void printMembers(PictureBox& picture, const std::vector<MemberRow>& members);
 
 }  // namespace trabeon

@@ -13,7 +13,6 @@ frmDiagram::frmDiagram(Context& context) : Form("Joints and Members Diagram"), c
     picContBeam.SetAccessibleName("Joints and members of the beam");
     cmdReport.Move(0, 0, 1215, 375);
     cmdReport.Click = [this] { cmdReport_Click(); };
-    offerReport(context, cmdReport);
 }
 
 void frmDiagram::Form_Load() {

@@ -1,4 +1,4 @@
-// The picture of the beam as entered, drawn afresh from the files at each change of size.
+// The diagram of the structure. Each resize reads the files and draws it again.
 #pragma once
 
 #include "forms/shared/context.h"

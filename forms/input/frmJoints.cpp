@@ -69,7 +69,7 @@ void frmJoints::cmdBackJoint_Click() {
     step(jointNames.size() - 1);
 }
 
-/// The types form a ring.
+/// Selects another joint type. After the last type comes the first.
 void frmJoints::step(std::size_t forward) {
     const auto* const now = std::find(jointNames.begin(), jointNames.end(), lblJoint.Caption());
     const auto position = static_cast<std::size_t>(now - jointNames.begin());

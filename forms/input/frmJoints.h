@@ -1,9 +1,9 @@
-// The line of joints of the beam, from left to right.
+// The editor for the joints of the beam, from left to right.
 #pragma once
 
 #include "forms/shared/row_editor.h"
 #include "toolkit/controls/frame.h"
-#include "toolkit/controls/web_browser.h"
+#include "toolkit/controls/picture_view.h"
 #include "toolkit/windows/form.h"
 
 namespace trabeon {
@@ -16,7 +16,7 @@ class frmJoints : public Form {
 
     Frame Frame1{*this};
     Label lblJoint{Frame1, "Cantilever"};
-    WebBrowser WebJoint{Frame1};
+    PictureView WebJoint{Frame1};
     Button cmdBackJoint{Frame1, "< &Back"};
     Button cmdNextJoint{Frame1, "&Next >"};
     Label lblDescription{*this, "Joint Description"};

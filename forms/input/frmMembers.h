@@ -1,4 +1,4 @@
-// The spans of the beam, from left to right: E, I and L in the user's own units.
+// The editor for the members of the beam, from left to right. E, I and L are in the user's units.
 #pragma once
 
 #include "forms/shared/row_editor.h"

@@ -1,4 +1,4 @@
-// The point loads of the beam, each on a member at a distance from its left end.
+// The editor for point loads. Each acts on a member at a distance from its left end.
 #pragma once
 
 #include "forms/input/load_form.h"

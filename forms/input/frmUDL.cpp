@@ -81,7 +81,7 @@ void frmUDL::cboMember_KeyPress(int& keyAscii) {
     if (keyAscii != 'M' && keyAscii != 'm')
         return;
     txtUdlA.SetFocus();
-    keyAscii = 0;  // else the list would go to its next entry with that letter
+    keyAscii = 0;  // otherwise the list selects its next entry with this letter
 }
 
 void frmUDL::txtUdlA_KeyPress(int& keyAscii) {

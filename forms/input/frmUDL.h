@@ -1,4 +1,4 @@
-// The distributed loads of the beam: trapezoids, of which the uniform load is one.
+// The editor for distributed loads. Each is a trapezoid; a uniform load has equal ends.
 #pragma once
 
 #include "forms/input/load_form.h"

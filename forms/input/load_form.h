@@ -1,5 +1,5 @@
-// What the two load editors share: the choice of a member, the list of load rows, the buttons, and
-// the sketch of the load that is being typed.
+// The base class of the two load editors: the list of members, the list of load rows, the buttons
+// and the sketch of the load in the boxes.
 #pragma once
 
 #include "core/store/member_length.h"
@@ -22,20 +22,20 @@ class LoadForm : public Form {
     Button cmdReport{*this, "Add To Repor&t"};
     ListView ListView1;
 
-    /// Shows the rows that an analysis has put into normal form and written to the file.
+    /// Shows the rows in normal form that an analysis has written to the file.
     void Refill(const std::vector<Row>& rows) {
         rows_.Unsort();
         rows_.Show(rows);
     }
 
   protected:
-    /// What differs between the two.
+    /// The differences between the two editors.
     struct Kind {
         const char* caption;
         const char* memberCaption;
-        const char* row;  // what the status line calls one
+        const char* row;  // name of a row in the status line
         std::vector<ListColumn> columns;
-        int buttonsTop;  // twips: where the row of buttons stands, the list below it
+        int buttonsTop;  // twips; the list is below the buttons
     };
 
     LoadForm(Context& context, const Kind& kind, PictureBox& sketch, TextBox& description)
@@ -56,10 +56,9 @@ class LoadForm : public Form {
         ListView1.SetAccessibleName("Loads");
         cmdRemove.Click = [this] { cmdRemove_Click(); };
         cmdReport.Click = [this] { cmdReport_Click(); };
-        offerReport(context, cmdReport);
     }
 
-    /// Before the form shows: the members to choose from, and the rows.
+    /// Fills the two lists with the members and the load rows.
     void FillFromFiles() {
         fillMembers(context_, cboMember);
         if (cboMember.ListCount() > 0)
@@ -73,7 +72,7 @@ class LoadForm : public Form {
                        ScaleHeight() - listTop_ - margin);
     }
 
-    /// The member that is chosen, from 1; 0 if there is none.
+    /// The number of the selected member, from 1. 0 if none is selected.
     [[nodiscard]] std::size_t member() const {
         return static_cast<std::size_t>(cboMember.ListIndex() + 1);
     }
@@ -82,10 +81,10 @@ class LoadForm : public Form {
         return generatedText(cboMember.ListIndex() + 1);
     }
 
-    /// 0 if no member is chosen.
+    /// The length of the selected member. 0 if none is selected.
     [[nodiscard]] double chosenLength() const { return memberLength(context_.folder, member()); }
 
-    /// A load needs a member to stand on: without one the focus goes to where it is chosen.
+    /// True if no member is selected. Then it also moves the focus to the list of members.
     [[nodiscard]] bool lacksMember() {
         if (member() > 0)
             return false;

@@ -16,7 +16,7 @@ constexpr double memberWide = memberRight - memberLeft;
 constexpr double hatchPitch = memberWide / 100;
 constexpr double greatestHeight = 600;
 constexpr double pictureRight = 3135;
-// Nothing that lies further out can be painted; the picture ends long before.
+// A limit for coordinates, in twips, far outside every picture. Larger values cannot be painted.
 constexpr double farOut = 1e9;
 
 const std::string gap(8, ' ');
@@ -38,10 +38,10 @@ void printMember(PictureBox& picture, const SketchedMember& member) {
     picture.PrintLine("L = " + printForm(member.L) + gap + "Member " + printForm(member.number));
 }
 
-/// A distributed load on the picture.
+/// A distributed load in the picture, in twips.
 struct Trapezoid {
-    double X1, X2;  // where it starts and ends
-    double h1, h2;  // its heights there
+    double X1, X2;  // left and right end
+    double h1, h2;  // height at each end
 };
 
 double heightAt(const Trapezoid& load, double x) {
@@ -51,7 +51,7 @@ double heightAt(const Trapezoid& load, double x) {
     return (load.h2 - load.h1) * (x - load.X1) / width + load.h1;
 }
 
-/// One upright line every hundredth of the member, as far as the picture goes.
+/// Draws a vertical line at every hundredth of the member's length, inside the picture.
 void hatch(PictureBox& picture, const Trapezoid& load) {
     const double roundingDust = 1e-6;
     const double last = std::min(load.X2, pictureRight) + roundingDust;

@@ -1,4 +1,4 @@
-// The sketches of a load on its member: the member is always the same length on the screen.
+// Sketches of a load on its member. The member has the same length on the screen for any L.
 #pragma once
 
 #include <cstddef>
@@ -8,13 +8,13 @@
 
 namespace trabeon {
 
-/// The member under a load: its number from 1, and its length.
+/// The loaded member: its number from 1 and its length in the user's unit.
 struct SketchedMember {
     std::size_t number;
     double L;
 };
 
-/// A load as it is typed.
+/// The texts of the boxes of a point load.
 struct PointTexts {
     std::string a, P;
 };
@@ -22,12 +22,12 @@ struct UdlTexts {
     std::string a, b, w1, w2;
 };
 
-/// Makes the picture one of an arrow at the distance a, pointing down whatever the sign of P.
-/// Without a length to scale by, or with a place that cannot be drawn, the picture is left empty.
+/// Draws an arrow at the distance a. It points down for any sign of P. The picture stays empty if
+/// the length is not above 0 or if the arrow is too far outside.
 void sketchPointLoad(PictureBox& picture, const SketchedMember& member, const PointTexts& load);
 
-/// Makes the picture one of a hatched trapezoid from a to a + b whose greater intensity is always
-/// 600 twips high; it shows sizes, not signs. Left empty as above.
+/// Draws a hatched trapezoid from a to a + b. The greater intensity is 600 twips high. The sketch
+/// ignores signs. The picture stays empty in the same cases.
 void sketchUdl(PictureBox& picture, const SketchedMember& member, const UdlTexts& load);
 
 }  // namespace trabeon

@@ -1,4 +1,4 @@
-// The project's title data: its three boxes are the only place where they live.
+// The title of the project. Its three boxes are the only place that keeps it.
 #pragma once
 
 #include "core/store/project_file.h"

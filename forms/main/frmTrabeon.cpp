@@ -50,12 +50,12 @@ bool frmTrabeon::Start() {
     }
     const auto recovered = recoverRows(context_.folder);
     if (!recovered) {
-        warn("The rows of the last run, which ended without Exit, cannot be kept: " +
+        warn("The last run ended without Exit. Its rows cannot be saved: " +
              recovered.refusal().sentence);
         return false;
     }
     if (const auto status = CreateNFile(context_.folder); status.failed()) {
-        warn("The rows of the last run cannot be emptied: " + status.refusal().sentence);
+        warn("The working files of the last run cannot be emptied: " + status.refusal().sentence);
         return false;
     }
     startUntitled();
@@ -71,7 +71,7 @@ bool frmTrabeon::takeFolder() {
         warn("Trabeon is already running.");
         return false;
     }
-    if (taken.failed())  // a command of trabeon-batch is soon done
+    if (taken.failed())  // a command of trabeon-batch ends soon
         taken = lock_.take(context_.folder, std::chrono::seconds(3));
     if (taken.failed())
         warn(taken.refusal().sentence);
@@ -80,7 +80,7 @@ bool frmTrabeon::takeFolder() {
 
 bool frmTrabeon::folderIsWritable() const {
     const auto probe = context_.folder / "Writable.tmp";
-    if (replaceFile(probe, "x").failed())  // a full disk takes an empty file
+    if (replaceFile(probe, "x").failed())  // not empty: a full disk accepts an empty file
         return false;
     MurderFile(probe);
     return true;
@@ -114,7 +114,7 @@ bool frmTrabeon::FileSave() {
     }
 }
 
-/// Yes without a question if the file is as this run left it.
+/// Answers Yes without a question if the file has not changed since this run read or wrote it.
 Answer frmTrabeon::answerAboutDisk() const {
     const auto& file = context_.CommonDialog1.FileName;
     const auto state = file == projectFile_ ? comparedWithDisk(file, projectOnDisk_) : OnDisk::same;
@@ -234,7 +234,7 @@ std::optional<ProjectTitle> frmTrabeon::loadedTitle() const {
     return form == nullptr ? std::nullopt : std::optional(form->Title());
 }
 
-/// The project that stays open keeps its title, and counts no more as changed by that.
+/// Puts the title back for the project that stays open. This does not count as a change.
 void frmTrabeon::keepOpen(const std::optional<ProjectTitle>& title) {
     if (!title)
         return;

@@ -1,5 +1,4 @@
-// The main window: the menu that leads to every form, the commands of the File menu, start-up and
-// exit.
+// The main window: the menu, the commands of the File menu, start and exit.
 #pragma once
 
 #include <optional>
@@ -16,24 +15,25 @@ class Placement;
 
 class frmTrabeon {
   public:
-    /// The folder holds the working files, the pictures and the pages.
+    /// `folder` contains the working files, the pictures and the manual.
     explicit frmTrabeon(const std::filesystem::path& folder);
 
-    /// The start-up sequence; false if the program must end at once, which the user was told.
+    /// Starts the program. Returns false if it must end at once; a message has then given the
+    /// reason.
     [[nodiscard]] bool Start();
 
-    /// Asks whether to save if the flag is 1. On return a flag of 0 means go on, 1 that the user
-    /// drew back.
+    /// Asks whether to save if `dataChanged` is 1. It is still 1 afterwards if the user cancelled.
     void SaveChanges();
 
-    /// Writes the project to its path and clears the flag. If another program has changed or taken
-    /// away the file since it was opened or saved, the user is asked first. False if it was not
-    /// written: the user knows why, the old file is unchanged and the flag stays at 1.
+    /// Writes the project to its path and sets `dataChanged` to 0. Asks first if another program
+    /// has changed, moved or deleted the file since it was opened or saved. Returns false if it did
+    /// not write: a message has given the reason, the old file is unchanged and `dataChanged`
+    /// stays 1.
     bool FileSave();
-    /// Asks for a path and saves there; if that fails the project keeps its former path and name.
+    /// Asks for a path and saves there. If this fails, the project keeps its old path and name.
     void FileSaveAs();
-    /// Asks for a path and unpacks the project. False if the user drew back or the file was
-    /// refused: the open project then stays as it was.
+    /// Asks for a path and unpacks the project. Returns false if the user cancelled or the file was
+    /// refused. The open project then stays unchanged.
     bool FileOpen();
 
     void mnuNew_Click();
@@ -72,11 +72,11 @@ class frmTrabeon {
     MdiWindow window_;
     Forms forms_;
     Context context_;
-    std::string projectFile_;          // the open project's, empty while it has none
-    std::uint64_t projectOnDisk_ = 0;  // its fingerprint as this run has read or written it
+    std::string projectFile_;          // of the open project; empty if it has no file
+    std::uint64_t projectOnDisk_ = 0;  // its fingerprint when last read or written
 };
 
-/// Moves a window to the middle of the screen, or of the form that is given; its size stays.
+/// Moves a window to the middle of `vParent`, or of the screen if that is null. Keeps its size.
 void CenterForm(Placement& frm, const Placement* vParent = nullptr);
 
 }  // namespace trabeon

@@ -12,7 +12,7 @@ void frmTrabeon::addMenus() {
     context_.mnuSingle.SetEnabled(false);
 }
 
-/// An entry that shows a form, and does nothing else.
+/// Adds a menu entry that shows a form.
 MenuEntry frmTrabeon::addShow(Menu menu, const char* caption, const char* form, const char* key) {
     return menu.Add(caption, key, [this, form] {
         if (forms_.IsRegistered(form))

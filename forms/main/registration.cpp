@@ -25,7 +25,7 @@
 namespace trabeon {
 namespace {
 
-/// The lists show the rows in normal form. Their windows do not come up.
+/// Fills the lists of the two load editors with the rows in normal form. Hides both windows.
 void refillLoads(Forms& forms, const Analysis& analysis) {
     auto& point = forms.Get<frmPoint>();
     auto& udl = forms.Get<frmUDL>();

@@ -1,11 +1,11 @@
-// The list of the program's forms. A new form gets its line here.
+// The list of the program's forms. Each form has a line here.
 #pragma once
 
 #include "forms/shared/context.h"
 
 namespace trabeon {
 
-/// Registers every form but those of the report and of the print, and sets `Context::refillLoads` and
+/// Registers all forms except those of `report` and `output`. Sets `Context::refillLoads` and
 /// `Context::rowsChanged`.
 void registerForms(Context& context);
 

@@ -1,4 +1,4 @@
-// The diagram of any run of members, laid end to end.
+// The base class of the two continuous diagrams: the selected members, drawn end to end.
 #pragma once
 
 #include "forms/results/diagram.h"

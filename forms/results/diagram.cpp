@@ -17,7 +17,7 @@ int pointCountOf(std::size_t count) {
         std::min(count, static_cast<std::size_t>(std::numeric_limits<int>::max())));
 }
 
-/// The number alone, or both where the members that meet are no neighbours.
+/// The joint's number. Two numbers if the members that meet are not neighbours in the beam.
 std::string labelOf(const CurveJoint& joint) {
     if (joint.left == 0 || joint.right == 0 || joint.left == joint.right)
         return std::to_string(std::max(joint.left, joint.right));
@@ -52,7 +52,6 @@ Diagram::Diagram(Context& context, const char* caption, const DiagramKind& kind,
     cmdReport.SetWidth(1425);
     cmdPlot.Click = [this] { cmdPlot_Click(); };
     cmdReport.Click = [this] { cmdReport_Click(); };
-    offerReport(context, cmdReport);
 }
 
 std::vector<std::string> Diagram::memberItems(const char* blanks) const {
@@ -85,7 +84,7 @@ void Diagram::draw(const DiagramCurve& curve, std::size_t count,
         (context_.forms.InTheBackground<frmOptions>().*kind_.option).Caption() == "Option A";
     const double sign = isA ? 1 : -1;
     chart.SetPointCount(pointCountOf(count));
-    chart.SetPointIndex(1);  // empties the chart, in case the file has not one row to draw
+    chart.SetPointIndex(1);  // empties the chart, in case the file has no rows
     chart.SetValueFactor(sign);
     chart.SetMarks(marksOf(curve));
     chart.SetExtremes(pointCountOf(curve.greatest + 1), pointCountOf(curve.least + 1));
@@ -102,7 +101,6 @@ void Diagram::draw(const DiagramCurve& curve, std::size_t count,
     }
     std::size_t done = 0;
     for (const auto& point : curve.points) {
-        chart.SetAutoAdvance(false);
         chart.SetPointCount(pointCountOf(count));
         chart.SetPointIndex(pointCountOf(++done));
         chart.SetPointValue(sign * point.value);

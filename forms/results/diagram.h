@@ -1,5 +1,5 @@
-// What the four diagram forms have in common: a chart with the sign of its option, the buttons Plot
-// and Add To Report, and the members to choose from.
+// The base class of the four diagram forms: the chart, its sign by the plotting option, the buttons
+// Plot and Add To Report, and the members to select from.
 #pragma once
 
 #include "core/analysis/diagram_curve.h"
@@ -8,14 +8,14 @@
 
 namespace trabeon {
 
-/// What makes a moment diagram differ from a shear diagram.
+/// The differences between a moment diagram and a shear diagram.
 struct DiagramKind {
     const char* title;
     const char* value;   // title of the value axis
     const char* symbol;  // the value in the readout
     StationField field;
-    Label frmOptions::*option;  // its caption tells which way up to draw
-    const char* sideA;          // the same in plain words
+    Label frmOptions::*option;  // its caption selects side A or B
+    const char* sideA;          // the note on the chart for each side
     const char* sideB;
 };
 
@@ -33,18 +33,18 @@ class Diagram : public Form {
 
     virtual void cmdPlot_Click() = 0;
 
-    /// "Member", `blanks` and the number, for each member of the beam.
+    /// One text for each member of the beam: "Member", `blanks` and the number.
     [[nodiscard]] std::vector<std::string> memberItems(const char* blanks) const;
     [[nodiscard]] std::size_t rowsPerMember() const;
-    /// The result files as they are now.
+    /// Reads the result files. Members count from 1.
     [[nodiscard]] DiagramCurve spanOf(std::size_t member) const;
     [[nodiscard]] DiagramCurve beamOf(const std::vector<std::size_t>& members) const;
 
-    /// What the note begins with: the member, where the diagram is that of one.
+    /// The beginning of the note on the chart. A diagram of one member names the member.
     [[nodiscard]] virtual std::string subject() const { return {}; }
 
-    /// Gives the chart the curve point by point, of which `count` were asked for, and calls
-    /// `pointDone` with the points so far.
+    /// Gives the curve to the chart point by point. `count` is the number of points that a complete
+    /// curve has. Calls `pointDone` with the number of points drawn so far.
     void draw(const DiagramCurve& curve, std::size_t count,
               const std::function<void(std::size_t)>& pointDone = {});
 

@@ -16,7 +16,7 @@ namespace {
 
 constexpr Colour grey = 0xC0C0C0;
 
-/// Moves a bar at the screen's pace: at once to 0, 50 and 100, in between when a while has passed.
+/// Moves a progress bar at most every 33 ms, and always at 0, 50 and 100.
 class PacedProgress {
   public:
     explicit PacedProgress(ProgressBar& bar) : bar_(bar) {}

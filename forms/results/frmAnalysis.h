@@ -5,7 +5,7 @@
 #include "forms/shared/context.h"
 #include "toolkit/controls/button.h"
 #include "toolkit/controls/progress_bar.h"
-#include "toolkit/controls/text_view.h"
+#include "toolkit/controls/text_table.h"
 #include "toolkit/windows/form.h"
 
 namespace trabeon {
@@ -16,12 +16,12 @@ class frmAnalysis : public Form {
 
     explicit frmAnalysis(Context& context);
 
-    /// Shows "TB.txt" as it stands in the working folder.
+    /// Shows "TB.txt" of the working folder.
     void ShowTable();
 
     Button cmdAnalyse{*this, "&Analyse"};
     ProgressBar PBAnalysis{*this};
-    TextView txtTBResults{*this};
+    TextTable txtTBResults{*this};
 
   protected:
     void Form_Load() override;

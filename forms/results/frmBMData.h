@@ -1,4 +1,4 @@
-// The bending moments of one member.
+// The value table of bending moments of one member.
 #pragma once
 
 #include "forms/results/frmMoment1.h"

@@ -1,4 +1,4 @@
-// The shear forces of one member.
+// The value table of shear forces of one member.
 #pragma once
 
 #include "forms/results/frmShear1.h"

@@ -1,4 +1,4 @@
-// The diagram of one member, with its value table beside it.
+// The base class of the two diagrams of one member. Each opens a value table.
 #pragma once
 
 #include <optional>
@@ -13,10 +13,11 @@ class SingleSpanDiagram : public Diagram {
   public:
     ComboBox cboMember{*this};
 
-    /// Left and top of the value table that the present plot took away.
+    /// Left and top, in twips, of the value table that the latest plot closed. Empty if none was
+    /// open.
     [[nodiscard]] std::optional<std::pair<int, int>> tablePlace() const { return tablePlace_; }
 
-    /// Shows no member's curve, as before the first choice; the value table is loaded anew.
+    /// Clears the chart and the selection, and loads the value table again.
     void Empty();
 
   protected:

@@ -10,7 +10,7 @@
 namespace trabeon {
 namespace {
 
-/// In plain decimals, but for a number that has none.
+/// Generated number text. A text that is not a finite number stays as it is.
 std::string distanceText(std::string_view text) {
     const double x = leadingNumber(text);
     return std::isfinite(x) ? generatedText(x) : std::string(text);

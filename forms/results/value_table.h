@@ -1,4 +1,4 @@
-// The stations of the member chosen on a diagram form, as text.
+// The base class of the value tables: the stations of the member that a diagram form shows.
 #pragma once
 
 #include "core/store/station_reader.h"
@@ -19,12 +19,12 @@ class ValueTable : public Form {
     void Form_Load() override;
     void Form_Resize() override;
 
-    /// The form whose member is listed.
+    /// The diagram form that selects the member.
     [[nodiscard]] virtual SingleSpanDiagram& diagram() const = 0;
     [[nodiscard]] Context& context() const { return context_; }
 
   private:
-    /// The rows of the member; the one of the maximum is marked.
+    /// Lists the rows of the member and marks the row of its maximum.
     void fill(std::size_t rowsPerMember);
 
     Context& context_;

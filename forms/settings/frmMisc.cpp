@@ -22,7 +22,7 @@ frmMisc::frmMisc(Context& context) : Form("Miscellaneous Properties") {
 void frmMisc::placeControls() {
     placeInputs({240, 240, 2100, 450},
                 {{lblCover, txtCover, 1200}, {Label3, txtLinks, 1200}, {Label1, txthagg, 1200}});
-    // "agg" stands as the index of "h", lower and smaller.
+    // "agg" is the subscript of "h": lower and smaller.
     Label1.Move(Label1.Left(), Label1.Top(), 105, Label1.Height());
     Label2.SetFont("Arial", 7.5, false);
     Label2.Move(Label1.Left() + Label1.Width(), Label1.Top() + 60, 600, Label1.Height());

@@ -1,4 +1,4 @@
-// The properties that all sections of the beam have in common. Its controls are their only store.
+// The properties that are common to all sections of the beam. Only its controls keep them.
 #pragma once
 
 #include "core/design/misc_properties.h"
@@ -17,7 +17,7 @@ class frmMisc : public Form {
 
     explicit frmMisc(Context& context);
 
-    /// As typed, in mm: a text that is no number counts as 0.
+    /// The values of the boxes, lengths in mm. A text that is not a number counts as 0.
     [[nodiscard]] MiscProperties Properties() const;
 
     Label lblCover{*this, "Cover"};

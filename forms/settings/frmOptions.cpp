@@ -74,7 +74,7 @@ void frmOptions::cmdChangeS_Click() {
     toggle(lblSOption, WebShear, "SBot.gif", "STop.gif");
 }
 
-void frmOptions::toggle(Label& option, WebBrowser& picture, const char* pictureA,
+void frmOptions::toggle(Label& option, PictureView& picture, const char* pictureA,
                         const char* pictureB) {
     DisablePlot(context_);
     const bool toB = option.Caption() == "Option A";
@@ -91,7 +91,7 @@ void frmOptions::cmdOptionsOK_Click() {
     Hide();
 }
 
-void frmOptions::show(WebBrowser& picture, const char* file) {
+void frmOptions::show(PictureView& picture, const char* file) {
     picture.Navigate((context_.folder / file).string());
 }
 

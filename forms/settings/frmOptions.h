@@ -1,4 +1,4 @@
-// The settings that shape the results. Its controls are the only store of them.
+// The settings of the analysis and of the diagrams. Only its controls keep them.
 #pragma once
 
 #include "core/analysis/analysis.h"
@@ -6,8 +6,8 @@
 #include "toolkit/controls/button.h"
 #include "toolkit/controls/frame.h"
 #include "toolkit/controls/label.h"
+#include "toolkit/controls/picture_view.h"
 #include "toolkit/controls/text_box.h"
-#include "toolkit/controls/web_browser.h"
 #include "toolkit/windows/form.h"
 
 namespace trabeon {
@@ -18,7 +18,7 @@ class frmOptions : public Form {
 
     explicit frmOptions(Context& context);
 
-    /// Equal parts of each span as typed; places that are no number are not a number here either.
+    /// The values of the boxes. Decimal places that are not a whole number give NaN.
     [[nodiscard]] AnalysisSettings Settings() const;
 
     Frame fmOptions{*this, ""};
@@ -30,11 +30,11 @@ class frmOptions : public Form {
     Label lblPlaces2{fmOptions, "Decimal Places"};
     Label lblBMD{fmOptions, "&Bending Moment Diagram"};
     Label lblMOption{fmOptions, "Option B"};
-    WebBrowser WebMoment{fmOptions};
+    PictureView WebMoment{fmOptions};
     Button cmdChangeM{fmOptions, "Change"};
     Label lblSFD{fmOptions, "&Shear Force Diagram"};
     Label lblSOption{fmOptions, "Option B"};
-    WebBrowser WebShear{fmOptions};
+    PictureView WebShear{fmOptions};
     Button cmdChangeS{fmOptions, "Change"};
     Button cmdOptionsOK{*this, "&Ok"};
 
@@ -46,14 +46,14 @@ class frmOptions : public Form {
     void cmdChangeM_Click();
     void cmdChangeS_Click();
     void cmdOptionsOK_Click();
-    void toggle(Label& option, WebBrowser& picture, const char* pictureA, const char* pictureB);
-    void show(WebBrowser& picture, const char* file);
+    void toggle(Label& option, PictureView& picture, const char* pictureA, const char* pictureB);
+    void show(PictureView& picture, const char* file);
 
     Context& context_;
 };
 
-/// Withdraws all results after a change of an option: the two diagram menus go off, and the forms
-/// that show results are unloaded. The result files stay.
+/// Hides all results after a change of an option. Disables the two diagram menus and unloads the
+/// forms that show results. The result files stay.
 void DisablePlot(Context& context);
 
 }  // namespace trabeon

@@ -1,4 +1,4 @@
-// What the result windows say beside results that do not belong to the beam as it is now.
+// The remark on results that do not match the current beam.
 #pragma once
 
 #include <string>
@@ -8,21 +8,21 @@
 
 namespace trabeon {
 
-/// Of the stations, with the divisions of the options; empty if they are current.
+/// The remark on the stations. Empty if they match the rows and the divisions of the options.
 [[nodiscard]] std::string stationsRemark(Context& context);
 
-/// Of the design, with the options and the properties that are set now.
+/// The remark on the design. Empty if it matches the rows, the options and the properties.
 [[nodiscard]] std::string designRemark(Context& context);
 
-/// A strip below a list, seen only while it says something.
+/// A strip below a list. It is visible only while it has a remark.
 class RemarkStrip {
   public:
     explicit RemarkStrip(Container& parent);
 
     void Say(const std::string& remark);
-    /// The height to leave free at the lower edge, in twips: 0 while there is no remark.
+    /// The height that the strip needs, in twips. 0 without a remark.
     [[nodiscard]] int Height() const;
-    /// To the lower edge of a form of this inner size, in twips.
+    /// Moves the strip to the lower edge of a form of this inner size, in twips.
     void Place(int width, int height);
 
     Label lblRemark;

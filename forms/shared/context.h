@@ -1,5 +1,5 @@
-// What the forms of one run share: the working folder, the record of unsaved changes, the file
-// dialogs, the menu entries that an analysis opens, and the registry of forms.
+// The objects that all forms of one run share: the working folder, the flag for unsaved changes,
+// the file dialogs, the menu entries that an analysis enables, and the registry of forms.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +17,7 @@ namespace trabeon {
 
 struct Analysis;
 
-/// 1 while the project has changes that are not saved.
+/// 1 while the project has unsaved changes, otherwise 0.
 class ChangedFlag {
   public:
     std::function<void()> onChange;
@@ -27,13 +27,13 @@ class ChangedFlag {
             onChange();
         return *this;
     }
-    operator int() const { return value_; }  // NOLINT: it is a number to all forms
+    operator int() const { return value_; }  // NOLINT: all forms use it as a number
 
   private:
     int value_ = 0;
 };
 
-/// An answer that holds as long as no file of it changes.
+/// A cached text. `files` is the fingerprint of the files that it depends on.
 struct KeptAnswer {
     std::uint64_t files = 0;
     std::string text;
@@ -45,16 +45,15 @@ struct Context {
     CommonDialog CommonDialog1;  // serves all file dialogs
     MenuEntry mnuContinuous, mnuSingle;
     Forms& forms;
-    // What bring back the content of windows that were closed, the last one last. New, Open and
-    // Exit forget them.
+    // The windows that closing has emptied, the latest last: what it held, and how to bring it
+    // back. New, Open and Exit clear this list.
     std::vector<std::pair<std::string, std::function<void()>>> closedWindows{};
     KeptAnswer stationsRemark{};
-    // Shows the load rows that an analysis has put into normal form.
+    // Shows the load rows in normal form after an analysis.
     std::function<void(const Analysis&)> refillLoads{};
-    // Shows what follows from the rows anew, in the windows that calculate it themselves. An editor
-    // calls it when it has written its rows.
+    // Calculates again what windows show of the rows. An editor calls it after it has written rows.
     std::function<void()> rowsChanged{};
-    // Pastes the clipboard's picture into the report; the report takes this place up at start.
+    // Pastes the clipboard's picture into the report. `report` sets it at the start of the program.
     std::function<void()> pasteIntoReport{};
 };
 

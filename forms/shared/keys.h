@@ -1,4 +1,4 @@
-// Which keys a text box takes.
+// The keys that a text box accepts.
 #pragma once
 
 #include <string_view>
@@ -13,10 +13,10 @@ inline constexpr int enterKey = 13;
 inline constexpr std::string_view plainNumber = "0123456789.";
 inline constexpr std::string_view signedNumber = "0123456789.-";
 
-/// Drops a key that is neither Backspace nor one of these characters.
+/// Sets `keyAscii` to 0 if the key is neither Backspace nor one of the characters in `passing`.
 void keepKeys(int& keyAscii, std::string_view passing);
 
-/// The same for a box that hands the focus on: Enter moves it first, and is then dropped.
+/// The same, but Enter first moves the focus to `next`. Enter is then dropped as well.
 void keepKeys(int& keyAscii, std::string_view passing, Control& next);
 
 }  // namespace trabeon

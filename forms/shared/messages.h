@@ -1,4 +1,4 @@
-// The program's own message box: one OK button, an exclamation mark, the title "Trabeon".
+// A message box with an OK button, an exclamation mark and the title "Trabeon".
 #pragma once
 
 #include <string>

@@ -1,5 +1,5 @@
-// What the row editors share: a list that shows a row file in its order, Add behind the selected
-// row, Remove, sorting for the eyes only, and when cmdRemove can be pressed.
+// Common parts of the row editors: a list of the rows of a file, Add after the selected row,
+// Remove, and cmdRemove's enabled state. A click on a column title sorts the list but not the file.
 #pragma once
 
 #include <cmath>
@@ -18,20 +18,20 @@
 
 namespace trabeon {
 
-/// A row shows in the list as a noun and its first field as a number, then its other fields in file
+/// The list shows a row as a noun and the number in its first field, then the other fields in file
 /// order.
 template <class Row>
 class RowEditor {
   public:
-    /// What differs between the editors.
+    /// The differences between the editors.
     struct Kind {
-        std::string noun;     // "Joint ", in front of the number
-        Numbering numbering;  // of the rows that a Remove leaves
-        std::string row;      // "Point load", what the status line calls a row
+        std::string noun;     // before the number: "Joint "
+        Numbering numbering;  // of the rows after a Remove
+        std::string row;      // the name of a row in the status line: "Point load"
     };
 
-    /// Takes over the events of the list. `description` is the box that goes back to "None" with
-    /// each Add and Remove; null if the rows have none.
+    /// Handles the events of the list. Each Add and Remove puts "None" into `description`. It is
+    /// null if the rows have no description.
     RowEditor(Context& context, ListView& list, Button& cmdRemove, TextBox* description, Kind kind)
         : context_(context),
           list_(list),
@@ -43,13 +43,13 @@ class RowEditor {
         list_.ColumnClick = [this](int column) { ListView1_ColumnClick(column); };
     }
 
-    /// A row of the file was added to the list, to be coloured and the like.
+    /// Called for each row that the list shows, for example to colour it.
     std::function<void(ListItem item, const Row& row)> RowShown;
 
     /// Shows the rows of the file.
     void Fill() { Show(readRows<Row>(context_.folder)); }
 
-    /// Shows these rows, which stand in the file.
+    /// Shows these rows. They must be the rows of the file.
     void Show(const std::vector<Row>& rows) {
         list_.ListItems.Clear();
         for (const auto& row : rows) {
@@ -66,19 +66,19 @@ class RowEditor {
             list_.SetSelectedItem(list_.ListItems(list_.ListItems.Count()));
     }
 
-    /// The list shows the file's order again; the next click on a title sorts rising.
+    /// Shows the file order again. The next click on a column title sorts in rising order.
     void Unsort() {
         list_.SetSortOrder(ListSortOrder::Falling);
         list_.SetSorted(false);
     }
 
-    /// The number that a row added now gets where rows are numbered.
+    /// The number of the next row, for rows that are numbered.
     [[nodiscard]] std::string NextNumber() const {
         return generatedText(list_.ListItems.Count() + 1);
     }
 
-    /// Puts the row behind the selected one and then selects the last. False if it could not be
-    /// written: the user was told, and the rows stand as they did.
+    /// Adds the row after the selected one and selects the last row. Returns false if the file
+    /// could not be written: a message has given the reason and the rows are unchanged.
     bool Add(const Row& row) {
         Unsort();
         cmdRemove_.SetEnabled(false);
@@ -93,7 +93,7 @@ class RowEditor {
         return true;
     }
 
-    /// Takes the selected row away, without a question.
+    /// Removes the selected row without a question.
     void Remove() {
         const auto position = static_cast<std::size_t>(list_.SelectedItem().FilePosition());
         const auto name = hasRows() ? nameOf(position) : "";
@@ -127,15 +127,16 @@ class RowEditor {
         list_.SetSorted(true);
     }
 
-    /// Joints and members have numbers of their own; loads and sections have that of their member.
+    /// Joints and members have numbers. Loads and sections have the number of their member.
     [[nodiscard]] bool isNumbered() const { return kind_.numbering == Numbering::fromOne; }
 
-    /// What the status line calls a row that is added: "Joint 4", or "Point load".
+    /// The name of a new row in the status line: "Joint 4" or "Point load".
     [[nodiscard]] std::string nameOf(const Row& row) const {
         return isNumbered() ? kind_.row + shownNumber(row.*Row::fields.front()) : kind_.row;
     }
 
-    /// What it calls the selected row, at a position of the file from 1: "Joint 3", or "row 3".
+    /// The name of the selected row in the status line: "Joint 3", or "row 3" with its position in
+    /// the file, from 1.
     [[nodiscard]] std::string nameOf(std::size_t position) const {
         return isNumbered() ? kind_.row + list_.SelectedItem().Text().substr(kind_.noun.size())
                             : "row " + std::to_string(position);
@@ -163,8 +164,8 @@ class RowEditor {
             selectIfNone(*description_);
     }
 
-    /// A number field as generated number text. One too large for a number, in a file that was
-    /// edited by hand, shows as it stands.
+    /// A number field as generated number text. A file edited by hand can contain a number that is
+    /// too large; it is shown as in the file.
     [[nodiscard]] static std::string shownNumber(const std::string& field) {
         const double number = leadingNumber(field);
         return std::isfinite(number) ? generatedText(number) : ' ' + field;

@@ -1,4 +1,4 @@
-// The status line of the main window: what just happened, and what the project holds.
+// The status line of the main window: the latest event and the size of the project.
 #pragma once
 
 #include <string>
@@ -11,30 +11,31 @@ namespace trabeon {
 
 class TextBox;
 
-/// Shows the latest event, until the next one.
+/// Shows an event until the next one.
 void say(const Context& context, const std::string& event);
 
-/// Tells that closing a window has emptied it, and keeps what brings its content back.
+/// Says that closing a window has emptied it. Keeps `bringBack` for `bringBackClosed`.
 void sayEmptied(Context& context, const std::string& what, std::function<void()> bringBack);
 
-/// Brings back the content of the window that was closed last, if any.
+/// Restores the content of the window that was closed last, if there is one.
 void bringBackClosed(Context& context);
 
-/// Shows the number of joints and members, the length of the beam, and "Changed" while the flag is
-/// 1. To be called when rows or the flag have changed.
+/// Shows the number of joints and members, the length of the beam, and "Changed" if `dataChanged`
+/// is
+/// 1. Call it after a change of the rows or of the flag.
 void showSummary(const Context& context);
 
-/// Which keys a number box takes, and where Enter moves the focus.
+/// The keys that a number box accepts, and where Enter moves the focus.
 struct NumberKeys {
     const char* name;  // of the box, for the status line
     std::string_view passing;
     Control* next = nullptr;
 };
 
-/// Gives a box its keys. A key that is dropped is named in the status line.
+/// Lets the box accept only these keys. The status line names a key that it drops.
 void takeNumbers(const Context& context, TextBox& box, const NumberKeys& keys);
 
-/// Drops a key that the box does not take, and says so.
+/// Drops a key that the box does not accept, and says so in the status line.
 void keepKeysAndSay(const Context& context, int& keyAscii, const NumberKeys& keys);
 
 }  // namespace trabeon

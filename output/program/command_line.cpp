@@ -80,13 +80,15 @@ std::string reportHelp() {
                "Analyses and designs a project and writes its document. Needs no display.\n\n") +
            usage +
            "\n    Example: trabeon-report examples/two-span-floor-beam.TB --out beam.docx\n\n" +
-           "--out FILE       the document; replaces only a document\n"
+           "--out FILE       the document; replaces no file except a document\n"
            "--divisions N    equal parts of each span, 1 to 10000 (default 10)\n"
            "--places N       decimal places of the position of a maximum, 0 to 12 (default 3)\n"
            "--kinds K,K,...  what the document contains (default: everything), of\n"
            "                 " +
            allKinds() +
-           "\n\nExit code: 0 done; 1 refused (standard error says why); 2 wrong usage.\n";
+           "\n\nExit code: 0 done\n"
+           "           1 refused (standard error gives the reason)\n"
+           "           2 wrong command line\n";
 }
 
 Outcome<ReportCommand> readReportCommand(const std::vector<std::string>& words) {
@@ -100,8 +102,8 @@ Outcome<ReportCommand> readReportCommand(const std::vector<std::string>& words) 
         }
         if (!word.starts_with("--")) {
             if (!command.file.empty())
-                return Refusal{"One project at a time: \"" + excerpt(word) +
-                               "\" is one too many. " + usage};
+                return Refusal{"Give only one project, without \"" + excerpt(word) + "\". " +
+                               usage};
             command.file = word;
             continue;
         }

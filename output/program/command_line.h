@@ -1,4 +1,4 @@
-// The words of trabeon-report's command line.
+// The command line of trabeon-report.
 #pragma once
 
 #include <string>
@@ -19,7 +19,7 @@ struct ReportCommand {
 
 [[nodiscard]] std::string reportHelp();
 
-/// Reads the words behind the program's name; refuses with one line that says what is wrong.
+/// Reads the arguments after the program's name. The refusal is one line that says what is wrong.
 [[nodiscard]] Outcome<ReportCommand> readReportCommand(const std::vector<std::string>& words);
 
 }  // namespace trabeon

@@ -1,4 +1,4 @@
-// trabeon-report: the document of a project on a machine without a display.
+// trabeon-report: writes the document of a project. Needs no display.
 #include <QTemporaryDir>
 #include <cstdio>
 #include <deque>
@@ -39,7 +39,7 @@ Status analyseProject(const std::filesystem::path& folder, const AnalysisSetting
     return {};
 }
 
-/// A project that has no dimensions is not designed.
+/// Does nothing for a project without beam dimensions.
 Status designProject(const std::filesystem::path& folder, double Divisions) {
     if (readWhole(folder / working_file::beamDimensions).empty())
         return {};
@@ -84,7 +84,7 @@ Status makeReport(const ReportCommand& command, const std::filesystem::path& fol
     return writeDocument(objWord.document(), command.out);
 }
 
-/// What the toolkit has to say of a machine without a display is nothing to the user.
+/// Shows errors of Qt only. Its warnings about a machine without a display do not help the user.
 void keepQuiet(QtMsgType type, const QMessageLogContext&, const QString& text) {
     if (type == QtCriticalMsg || type == QtFatalMsg)
         std::fprintf(stderr, "%s\n", text.toStdString().c_str());
@@ -92,7 +92,7 @@ void keepQuiet(QtMsgType type, const QMessageLogContext&, const QString& text) {
 
 constexpr auto screenFile = "screen.json";
 
-/// The folder that the program works in. It goes with the run, also when a signal ends it.
+/// The temporary working folder. Removed at the end of the run, also after a signal.
 class WorkFolder {
   public:
     WorkFolder() {
@@ -106,11 +106,11 @@ class WorkFolder {
     [[nodiscard]] std::filesystem::path path() const { return folder_.path().toStdString(); }
 
   private:
-    std::deque<RemovedAtSignal> swept_;  // lives longer than the folder
+    std::deque<RemovedAtSignal> swept_;  // must outlive the folder
     QTemporaryDir folder_;
 };
 
-/// A screen in memory, on which an enlarged window has the shape of the page.
+/// A screen in memory. On it, a maximised window has the proportions of the page.
 void makeScreen(const QString& file) {
     constexpr auto screen = R"({"screens":[{"name":"report","x":0,"y":0,"width":1024,"height":640,)"
                             R"("logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})";
@@ -121,7 +121,8 @@ void makeScreen(const QString& file) {
 int run(const ReportCommand& command, int& argc, char** argv) {
     const WorkFolder work;
     if (!work.folder().isValid()) {
-        std::fprintf(stderr, "No temporary folder can be made (%s). Make room, then try again.\n",
+        std::fprintf(stderr,
+                     "A temporary folder could not be created (%s). Free space, then try again.\n",
                      work.folder().errorString().toStdString().c_str());
         return 1;
     }
@@ -153,6 +154,6 @@ int main(int argc, char** argv) try {
     }
     return run(*command, argc, argv);
 } catch (const std::exception& error) {
-    std::fprintf(stderr, "The document cannot be made (%s).\n", error.what());
+    std::fprintf(stderr, "The document could not be made (%s).\n", error.what());
     return 1;
 }

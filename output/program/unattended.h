@@ -1,5 +1,5 @@
-// The way out of a program that nobody watches: messages go to standard error, the clipboard is its
-// own, and nobody is asked.
+// The outside of a program without a user: messages go to standard error, the clipboard is in
+// memory, and questions have fixed answers.
 #pragma once
 
 #include <QImage>
@@ -12,7 +12,7 @@ namespace trabeon {
 
 class Unattended : public Outside {
   public:
-    std::string file;  // the answer to every file dialog; empty: drawn back
+    std::string file;  // the answer to every file dialog; empty means Cancel
 
     Answer MsgBox(const std::string& text, int, const std::string&) override {
         std::fprintf(stderr, "%s\n", text.c_str());

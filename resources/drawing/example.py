@@ -39,7 +39,8 @@ def example_beam():
 
 
 def example_panel(sheet, top, title, points, factor, lift, values):
-    """One diagram of the example: `factor` is that of the option, values are (x, value, text)."""
+    """One diagram of the example. `factor` is 1 for option A and -1 for option B. Values are (x, value,
+    text, dx, dy, anchor)."""
     base = top + (96 if factor * lift < 0 else 84)
     big = [(example_x(x), base - factor * lift * v) for x, v in points]
     sheet.fill([(example_x(0), base)] + big + [(example_x(12), base)], SKY)
@@ -77,7 +78,7 @@ def example_diagrams():
 
 
 def section(sheet, x, title, top_bars, bottom_bars, words):
-    """A section of 225 x 400 mm, half a pixel to the millimetre, bars as (count, size)."""
+    """A section of 225 x 400 mm at 0.5 pixels per mm. Bars are (count, size)."""
     scale, top = 0.5, 40
     width, depth = 225 * scale, 400 * scale
     sheet.text(x + width / 2, 16, title, 14, bold=True)

@@ -1,4 +1,4 @@
-"""The pictures of the manual but for its worked example."""
+"""The pictures of the manual, except those of its worked example."""
 
 from math import pi
 

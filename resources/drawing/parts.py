@@ -4,7 +4,7 @@ from drawing.sheet import BLUE, GREY, INK, PALE, RED, ROSE, SKY, WHITE
 
 
 def beam(sheet, x1, x2, y, depth=12, broken=""):
-    """A beam about the level y; `broken` holds L or R for an end that goes on beyond the picture."""
+    """A beam at height y. `broken` contains L or R for an end that continues outside the picture."""
     top, bottom = y - depth / 2, y + depth / 2
     sheet.box(x1, top, x2, bottom, PALE)
     sheet.line([(x1, top), (x2, top)], 2)
@@ -32,7 +32,7 @@ def triangle(sheet, x, y, height=20, half=13, inside=WHITE):
 
 
 def wall(sheet, x, y, half=34):
-    """A wall whose face stands at x, the beam on its right."""
+    """A wall with its face at x. The beam is on the right."""
     at = y - half + 4
     while at <= y + half:
         sheet.line([(x, at), (x - 9, at + 8)], 1.2, GREY)
@@ -41,7 +41,7 @@ def wall(sheet, x, y, half=34):
 
 
 def spread(sheet, x1, x2, y, height1, height2=None, colour=RED, pitch=16):
-    """A distributed load that stands on the level y."""
+    """A distributed load with its lower edge at y."""
     height2 = height1 if height2 is None else height2
     sheet.fill([(x1, y), (x1, y - height1), (x2, y - height2), (x2, y)], ROSE)
     sheet.line([(x1, y - height1), (x2, y - height2)], 1.5, colour)
@@ -56,7 +56,7 @@ def spread(sheet, x1, x2, y, height1, height2=None, colour=RED, pitch=16):
 
 
 def support(sheet, x, y, pinned=False, size=1.0):
-    """A small support with its tip at (x, y), as the diagram of the program draws it."""
+    """A small support with its tip at (x, y), as in the program's diagram of the structure."""
     triangle(sheet, x, y, 15 * size, 10 * size)
     if pinned:
         sheet.disc(x, y, 4 * size, RED)
@@ -68,7 +68,7 @@ def curve(sheet, function, x1, x2, width=2, colour=BLUE, steps=80):
 
 
 def area(sheet, function, x1, x2, base, steps=120, colour=BLUE, inside=SKY, ends=True):
-    """The diagram of a function of 0 to 1, in pixels downward from the base line."""
+    """The diagram of a function on 0 to 1. Its values are pixels downward from the base line."""
     points = [(x1 + (x2 - x1) * k / steps, base + function(k / steps)) for k in range(steps + 1)]
     sheet.fill([(x1, base)] + points + [(x2, base)], inside)
     sheet.line(([(x1, base)] if ends else []) + points + ([(x2, base)] if ends else []), 2, colour)

@@ -1,8 +1,8 @@
 """The sheet that every picture is drawn on.
 
-Shapes are drawn at eight times their size and reduced, which smooths their edges; words are set
-afterwards at their real size, which keeps them crisp. Measures are in pixels of the finished
-picture, x to the right and y downward.
+Shapes are drawn at eight times their size and then reduced, which smooths their edges. Text is drawn
+afterwards at its real size, which keeps it sharp. Measures are in pixels of the finished picture, x to
+the right and y downward.
 """
 
 from math import atan2, cos, pi, sin
@@ -33,7 +33,7 @@ def font(size, bold=False):
 
 
 class Sheet:
-    """A white picture of the given size that is drawn on and then saved as GIF or PNG."""
+    """A white picture of the given size. It is saved as GIF or PNG."""
 
     def __init__(self, width, height, background=WHITE):
         self.size = (width, height)
@@ -61,7 +61,7 @@ class Sheet:
         self.disc(x, y, radius - width, inside)
 
     def line(self, points, width=1.5, colour=INK):
-        """Joins the points; upright and level pieces are boxes, so they stay sharp."""
+        """Joins the points. Vertical and horizontal pieces are boxes, so that they stay sharp."""
         for (x1, y1), (x2, y2) in zip(points, points[1:]):
             half = width / 2
             if abs(x1 - x2) < 1e-9:
@@ -88,7 +88,7 @@ class Sheet:
             at += dash + gap
 
     def head(self, x, y, angle, size=7, colour=INK):
-        """An arrow's head with its tip at (x, y), pointing along the angle."""
+        """The head of an arrow with its tip at (x, y). It points in the direction of the angle."""
         points = [(x, y)]
         for side in (-1, 1):
             points.append((x - size * cos(angle) + side * size * 0.42 * sin(angle),
@@ -103,7 +103,7 @@ class Sheet:
         self.head(x2, y2, angle, size, colour)
 
     def turn(self, x, y, radius, start, end, width=2, colour=BLUE, size=8):
-        """A curved arrow about (x, y) from one angle to the other, in degrees; rising is clockwise."""
+        """A curved arrow around (x, y) between two angles in degrees. Rising angles are clockwise."""
         steps = 40
         sense = 1 if end > start else -1
         last = end - sense * size / radius * 40
@@ -116,7 +116,7 @@ class Sheet:
         self.head(x + radius * cos(t), y + radius * sin(t), t + sense * (pi / 2 - 0.2), size, colour)
 
     def text(self, x, y, words, size=13, anchor="mm", bold=False, colour=INK):
-        """Sets words at their real size; the anchor is Pillow's: lm, mm, rm."""
+        """Draws text at its real size. The anchor is one of Pillow's: lm, mm, rm."""
         self.words.append((x, y, words, size, anchor, bold, colour))
 
     def dimension(self, x1, x2, y, words, colour=GREY, size=12):

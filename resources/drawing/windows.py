@@ -1,4 +1,4 @@
-"""What the windows show: the joint types, the sign options, and the icon."""
+"""The pictures in the windows: the joint types, the sign options and the icon."""
 
 from PIL import Image, ImageDraw
 
@@ -86,7 +86,7 @@ def conventions():
                [(49, 75, "shear")])
 
 
-# The icon: a beam over two spans with its moment diagram
+# The icon: a beam of two spans with its moment diagram
 
 ICON_ROUND = 44
 ICON_BEAM = (28, 92, 228, 112)
@@ -95,7 +95,7 @@ ICON_ARROWS = (44, 86, 128, 170, 212)
 
 
 def icon_curve(steps=24):
-    """The moment of two equal spans under a uniform load, sagging downward."""
+    """The moment of two equal spans under a uniform load. Sagging is downward."""
     points = []
     for span in (0, 1):
         for k in range(steps + 1):

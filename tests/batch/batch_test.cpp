@@ -339,7 +339,7 @@ TEST_F(Design, RefusesStationsAndTellsOfATableOfAnEarlierState) {
 
 TEST_F(Design, RefusesWhatDoesNotFitAndNamesMissingDimensions) {
     EXPECT_EQ(Run().err,
-              "The stations do not fit the beam: \"BM.txt\" must have 12 rows for each of 0 "
+              "The stations do not match the beam: \"BM.txt\" must have 12 rows for each of 0 "
               "members. Analyse the beam first, with the same --divisions.\n");
     Prepare("two-span-floor-beam");
     const auto before = folder.contents();
@@ -357,8 +357,8 @@ TEST_F(Design, RefusesWhatDoesNotFitAndNamesMissingDimensions) {
     const auto answer = Run();
     EXPECT_EQ(answer.exit, 0);
     EXPECT_EQ(answer.err,
-              "Sections without dimensions of their own: 23, the first is section 2 of member 1. "
-              "Each takes the values of the section before it; enter its dimensions.\n");
+              "Sections without dimensions: 23, the first is section 2 of member 1. "
+              "Each is designed as the section before it; enter its dimensions.\n");
 }
 
 TEST(CommandLine, WrongUsageIsOneLineAndExitCodeTwo) {
@@ -376,8 +376,8 @@ TEST(CommandLine, WrongUsageIsOneLineAndExitCodeTwo) {
         {{"unpack", "a", "b", "--out", "c"},
          "\"unpack\" has no option --out. Usage: trabeon-batch unpack FILE.TB DIR"},
         {{"run", "a", "--out"},
-         "A value is missing after --out. Usage: trabeon-batch run FILE.TB [--divisions N] "
-         "[--places N] [--out DIR]"},
+         "A value is missing after --out. Usage: trabeon-batch run FILE.TB [FILE.TB ...] "
+         "[--divisions N] [--places N] [--out DIR]"},
         {{"analyse", ".", "--places", "few"}, "--places takes a number, not \"few\"."},
         {{std::string(10'000, '\xE4')},
          "There is no command \"" + readable(std::string(77, '\xE4')) +

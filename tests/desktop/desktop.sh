@@ -1,6 +1,5 @@
-# What a job at the window needs; sourced by the scripts beside it. A copy of the program, a screen
-# (Xvfb, openbox) and keys from outside. Arguments: the folder of the built program, and perhaps
-# "no-browser".
+# Functions for the scripts beside it: a copy of the program, a screen (Xvfb, openbox), keys and clicks.
+# Arguments: the folder of the built program, and optionally "no-browser".
 set -euo pipefail
 
 built=$1 browser=${2:-}
@@ -15,20 +14,20 @@ fail() {
     cat "$work/errors" >&2
     exit 1
 }
-# Waits until a condition holds; everything here happens on its own time.
+# Waits until a command succeeds.
 until_true() {
     for _ in $(seq 600); do "$@" >/dev/null 2>&1 && return 0; sleep 0.05; done
     fail "waited in vain for: $*"
 }
 key() { xdotool key --clearmodifiers --delay 40 "$@"; }
 type_text() { xdotool type --clearmodifiers --delay 8 "$1"; }
-# A place in the window in front, in pixels from its inner corner.
+# Clicks at a place in the active window, in pixels from its inner corner.
 click() { xdotool mousemove --window "$(xdotool getactivewindow)" "$1" "$2" click 1; }
 window() { xdotool search --onlyvisible --name "^$1\$"; }
 active() { xdotool getactivewindow getwindowname | grep -qx "$1"; }
 rows_of_first_span() { [ "$(grep -c '^' <(sed -n '2,/^Span 2 /p' "$program/BM.txt"))" -eq "$1" ]; }
 
-# Returns when the window manager manages windows: one that shows earlier may never get the keyboard.
+# Returns when the window manager is ready. An earlier window may never get the keyboard.
 start_screen() {
     mkfifo "$work/display" "$work/managed"
     Xvfb -noreset -displayfd 3 -screen 0 1366x768x24 3> "$work/display" >/dev/null 2>&1 &
@@ -38,19 +37,19 @@ start_screen() {
     read -r < "$work/managed"
 }
 
-# To be run in the background. Finds no browser but the one below.
+# Runs the program. Call it in the background. The program finds only the browser below.
 trabeon() { PATH=$work/bin exec "$program/trabeon" 2>> "$work/errors"; }
 
-# The browser notes what it is given. With "no-browser" there is none.
+# The browser only records its argument. With "no-browser" there is no browser.
 start_program() {
     cp -r "$built" "$program"
-    rm -f "$program"/*.lock  # of a copy that may be running where it was built
+    rm -f "$program"/*.lock  # of a program that may run in the build folder
     mkdir "$work/bin"
     if [ "$browser" != no-browser ]; then
         printf '#!/bin/sh\necho "$1" >> "%s/opened"\n' "$work" > "$work/bin/xdg-open"
         chmod +x "$work/bin/xdg-open"
     fi
-    export ASAN_OPTIONS=detect_leaks=0  # the X11 side of the platform leaks; leaks are looked for offscreen
+    export ASAN_OPTIONS=detect_leaks=0  # the X11 platform leaks; tests offscreen check for leaks
     export XDG_RUNTIME_DIR=$work HOME=$work QT_QPA_PLATFORM=xcb
     start_screen
 
@@ -76,7 +75,7 @@ open_example() {
 }
 
 asked_after() { active "Save Trabeon File" && [ "$(xdotool getactivewindow)" != "$1" ]; }
-save_as() {  # what it is called, and how that is typed
+save_as() {  # arguments: the name, and the command that types the path
     key alt+f a
     until_true active "Save Trabeon File"
     key ctrl+a

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# A job as a person does it: start, open an example, analyse, change an option, analyse again, try a
-# second copy, save under a name, leave. Arguments: the folder of the built program, and perhaps
-# "no-browser": the manual then comes up in a window of the program, and must leave it the keyboard.
+# A job with the real window: start, open an example, analyse, start a second copy, change an option,
+# analyse again, save under a name, leave. Arguments: the folder of the built program, and optionally
+# "no-browser". The manual then opens in a window of the program, which must not take the keyboard.
 . "$(dirname "$0")/desktop.sh"
 
 start_program
@@ -35,5 +35,5 @@ grep -q '^Final ' "$work/job.TB" || fail "the saved project has no table"
 
 leave
 test ! -e "$program/Joint.txt" || fail "the working files were left behind"
-test -e "$program/BeamDim.txt" || fail "the beam dimensions went"
+test -e "$program/BeamDim.txt" || fail "the beam dimensions are gone"
 echo "The job was done."

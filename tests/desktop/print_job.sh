@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
-# A report on paper as a person makes it: a diagram is added seven times, the report looked at in the
-# preview, printed from there. The system's default printer is a queue of a print server of this
-# script's own, on loopback, which keeps what it is sent. What arrives has as many pages as the
-# preview told, and sharp pictures. The first argument is the folder of the built program.
+# Prints a report with the real window: adds a diagram seven times, opens the preview and prints from it.
+# The script starts a print server on loopback, which keeps the print. The print must have as many pages
+# as the preview shows, and sharp pictures. The first argument is the folder of the built program.
 for tool in cupsd pdfinfo pdfimages; do
     PATH=$PATH:/usr/sbin command -v $tool >/dev/null || { echo "SKIPPED: needs cups-daemon and poppler-utils"; exit 77; }
 done
@@ -28,11 +27,11 @@ start_print_server() {
     until_true bash -c ": <> /dev/tcp/127.0.0.1/$port"
     export CUPS_SERVER=127.0.0.1:$port
 }
-# The windows of the program in sight: the main window, and an open menu.
+# Checks the number of visible windows: the main window and an open menu.
 windows() { [ "$(xdotool search --onlyvisible --class trabeon | wc -l)" -eq "$1" ]; }
 open_preview() {
-    until_true windows 1  # a click while the menu of the main window is open would only close it
-    click 597 53  # the menu of the report, which is beside the diagram
+    until_true windows 1  # with an open menu, a click would only close the menu
+    click 597 53  # the menu of the report, beside the diagram
     until_true windows 2
     key Down Return
     until_true active "Print Preview"
@@ -47,7 +46,7 @@ for _ in 1 2 3 4 5 6 7; do key alt+d c b alt+a; done
 key alt+r v
 open_preview
 
-click 480 24  # how many pages there are
+click 480 24  # the number of pages
 key ctrl+a ctrl+c
 click 40 24  # Print
 until_true test -s "$work/printed.pdf"

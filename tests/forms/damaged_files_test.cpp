@@ -89,7 +89,7 @@ TEST_F(DamagedFiles, ProjectsAreRefusedWithTheLineOrOpenedAndUsed) {
     opener.file = (folder / "Damaged.TB").string();
     const auto* wanted = std::getenv("TRABEON_MUTATIONS");
     const unsigned count = wanted == nullptr ? 1000 : static_cast<unsigned>(std::atoi(wanted));
-    const std::regex refusal("\".*Damaged\\.TB\" is not a whole project file: line [0-9]+: .*");
+    const std::regex refusal("\".*Damaged\\.TB\" is not a complete project file: line [0-9]+: .*");
     unsigned refused = 0, opened = 0;
     for (unsigned i = 0; i < count && !HasFailure(); ++i) {
         SCOPED_TRACE("mutation " + std::to_string(i));

@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
-# Installs the program into a folder, moves that, and does from there what a user does: the three
-# programs run on the folder's own libraries, the program says when it has no display, and the
-# desktop's entry finds it.
-# Arguments: cmake, and the folder of the build.
+# Installs the program into a folder and moves the folder. Then the three programs must run with the
+# libraries in the folder, the program must say that there is no display, and the desktop entry must find
+# it. Arguments: cmake, and the build folder.
 set -euo pipefail
 
 work=$(mktemp -d)
@@ -48,7 +47,7 @@ if command -v desktop-file-validate > /dev/null; then desktop-file-validate "$he
 entry=$XDG_DATA_HOME/applications/trabeon.desktop
 test -e "$entry" -a -e "$XDG_DATA_HOME/icons/hicolor/256x256/apps/trabeon.png" || fail "no entry"
 
-# A starter hands the entry's place on where its line says %k.
+# A desktop replaces %k in the entry by the path of the entry.
 printf '#!/bin/sh\necho started > "%s/started"\n' "$work" > "$here/trabeon"
 line=$(sed -n 's/^Exec=//p' "$here/trabeon.desktop" | sed 's/\\\\/\\/g')
 for file in "$here/trabeon.desktop" "$entry"; do

@@ -1,19 +1,18 @@
 #!/usr/bin/env python3
-"""Checks the manual's pages against each other and against the program.
+"""Compares the pages of the manual with each other and with the program.
 
     check_pages.py PAGES PICTURES EXAMPLE_PROJECTS trabeon-batch
 
-Every link must lead to a page and a place in it. Every page and the contents must link to each
-other. Every picture must exist, in the size that the page gives. Pictures and typed lines must fit
-the window that shows the pages where there is no browser. The workings on all pages must give
-their results, and every other number of the two examples must come from the program or from such a
-working. The marks:
+Every link must lead to an existing page and place. Every page and the contents must link to each other.
+Every picture must exist in the size that the page gives. Pictures and lines of code must fit into the
+manual's window. Each calculation on a page must give its result. All other numbers of the two examples
+must come from the program or from such a calculation. These marks select the checks:
 
-    data-file="five/BM.txt"       the lines or rows are in that result file, in this order;
-                                  data-columns="1 2" if the page shows only these fields
-    class="sum"                   the cells after the first are a chain "working = result": all
-                                  sides agree to the last digit of the result; <i> is a remark
-    data-of="five/BM.txt 2 0 1"   the program has the same result in the cell that the rest names
+    data-file="five/BM.txt"       the lines or rows are in this result file, in this order;
+                                  data-columns="1 2" selects the fields that the page shows
+    class="sum"                   the cells after the first are a chain "calculation = result";
+                                  all sides agree to the last digit of the result; <i> is a remark
+    data-of="five/BM.txt 2 0 1"   the program has the same result in this cell
 """
 import math
 import re
@@ -27,7 +26,7 @@ from urllib.parse import unquote
 
 PAGES, PICTURES, PROJECTS, BATCH = Path(sys.argv[1]), Path(sys.argv[2]), sys.argv[3], sys.argv[4]
 CONTENTS = "Contents and Index.htm"
-TOLERANCES = {"0.01", "0.0001", "8110"}  # and the number of the standard
+TOLERANCES = {"0.01", "0.0001", "8110"}  # 8110 is the number of the standard
 WIDEST_PICTURE, LONGEST_LINE = 720, 90  # pixels and characters that fit the window of 840 pixels
 failures = []
 
@@ -53,7 +52,7 @@ class Element:
         return {"sup": f"**({words})", "i": ""}.get(self.tag, words)
 
     def marked(self, *marks):
-        """Whether this or something around it carries one of the marks."""
+        """True if this element or one around it has one of the marks."""
         own = set(self.attributes) | set((self.attributes.get("class") or "").split())
         return bool(own & set(marks)) or (self.parent is not None and self.parent.marked(*marks))
 
@@ -129,7 +128,7 @@ LITERAL = re.compile(r"([+-]?\d+(?:\.\d+)?(?:E[+-]\d+)?)(?![\d.]* *[*/(+])")
 
 
 def formula(text):
-    """The text as an expression, or None if it is none."""
+    """The text as a Python expression. None if it is not an expression."""
     for sign, code in (("×", "*"), ("−", "-"), ("²", "**2"), ("³", "**3")):
         text = text.replace(sign, code)
     text = re.sub(r"√(\d+)", r"√(\1)", text).replace("√", "sqrt")
@@ -143,7 +142,7 @@ def last_unit(literal):
 
 
 def check_sum(where, text):
-    """Returns the result's text."""
+    """Checks a chain "calculation = result". Returns the text of the result."""
     result = None
     for piece in text.split(";"):
         *sides, last = [s.strip() for s in piece.split("=")]
@@ -160,7 +159,7 @@ def check_sum(where, text):
 
 
 class Results:
-    """The program's results for the projects, as rows of fields by "project/file"."""
+    """The results of the program for the projects: rows of fields by "project/file"."""
 
     def __init__(self, folder):
         self.rows, self.texts = {}, {}
@@ -171,6 +170,9 @@ class Results:
             self.run("unpack", file, out)
             self.run("analyse", out)
             self.run("design", out, *options)
+            for table in ("members", "reactions"):
+                rows = self.run("export", file, table).splitlines()
+                self.rows[f"{name}/{table}"] = [self.fields(row) for row in rows if row]
             for path in out.glob("*.txt"):
                 text = path.read_text()
                 self.texts[name] += text
@@ -188,13 +190,13 @@ class Results:
         return [" ".join(p.strip(' "').split()) for p in parts]
 
     def cell(self, address):
-        """The first cell that fits: of TB.txt by row and end, of BM.txt and DResult.txt by
-        member, x and column."""
+        """The cell at an address: row and member end in TB.txt; member, x and column in BM.txt and
+        DResult.txt; first column and place in the row in an exported table."""
         file, *keys = address.split()
         at, block = int(keys.pop()), 0
         for row in self.rows[file]:
             block += row[0] == "Span"
-            found = row[:1] if file.endswith("TB.txt") else row[:2]
+            found = row[:2] if file.endswith(("BM.txt", "DResult.txt")) else row[:1]
             if file.endswith("BM.txt"):
                 found = [str(block), row[0]]
             if found == keys:
@@ -228,7 +230,7 @@ def check_rows(where, element, results):
 
 
 def check_sums(page, results):
-    """Returns the numbers of the workings."""
+    """Checks the calculations of a page. Returns all numbers in them."""
     known = set()
     for row in page.root.all("tr", "p"):
         if row.attributes.get("class") == "sum":
@@ -268,7 +270,7 @@ def main():
         results = Results(folder)
         for page in pages:
             check_page(page, results)
-    print("\n".join(failures) or f"{len(pages)} pages hold.")
+    print("\n".join(failures) or f"{len(pages)} pages checked.")
     return 1 if failures else 0
 
 

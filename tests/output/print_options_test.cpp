@@ -112,7 +112,7 @@ TEST_F(PrintOptions, ADrawnBackPrintDoesNothingAndAFailedOneSaysSo) {
     Click(form.cmdPrint);
     const auto pdf = (folder / "no such folder" / "print.pdf").string();
     outside.ExpectPrinter("Untitled", pdf);
-    outside.ExpectMsgBox("The print of \"Untitled\" did not reach \"" + pdf +
+    outside.ExpectMsgBox("\"Untitled\" could not be printed to \"" + pdf +
                          "\". Choose another file, then print again.");
     Click(form.cmdPrint);
 }

@@ -1,17 +1,16 @@
 #!/usr/bin/env python3
-"""A slow, plain second way from the working files of a beam to its result files.
+"""A second, simple and slow implementation of the analysis.
 
     analyse.py IN OUT [--divisions N] [--places P]
 
-reads Joint.txt, Member.txt, Point.txt and Udl.txt of the folder IN and leaves in the folder OUT
-what an analysis leaves: Point.txt and Udl.txt in normal form with their twins Point.tmp and
-Udl.tmp, the balance table TB.txt, the stations BM.txt and the maxima BMMax.txt. If the beam breaks
-a rule it prints the messages, one a line in their order, writes nothing and ends with 1.
+It reads Joint.txt, Member.txt, Point.txt and Udl.txt of the folder IN. It writes the files of an analysis
+to the folder OUT: Point.txt and Udl.txt in normal form with their copies Point.tmp and Udl.tmp, the
+balance table TB.txt, the stations BM.txt and the maxima BMMax.txt. If the beam breaks a rule, it prints
+the messages in order, one per line, writes nothing and ends with 1.
 
-It shares nothing with the program, so that the two can be held against each other byte for byte.
-Sums of forces and moments are doubles. Fixed-end moments of distributed loads are exact fractions
-of the doubles read, rounded once at the end: there the closed forms subtract numbers that are far
-larger than what is left. Number texts are made with decimal numbers.
+It shares no code with the program, so that both can be compared byte by byte. Sums of forces and moments
+are doubles. Fixed-end moments of distributed loads are exact fractions, rounded once at the end, because
+the closed forms subtract large numbers with a small difference. Number texts use decimal numbers.
 """
 import argparse
 import math
@@ -35,7 +34,7 @@ def number(text):
 
 
 def decimal15(value):
-    """The decimal value at 15 significant digits, ties away from zero, zero without a sign."""
+    """The decimal value at 15 significant digits. Ties go away from zero. Zero has no sign."""
     rounded = Context(prec=15, rounding=ROUND_HALF_UP).create_decimal(Decimal(value))
     return rounded if rounded else Decimal(0)
 
@@ -64,7 +63,7 @@ def printed(value):
 
 
 def rounded_form(value, plus=""):
-    """Three significant figures, as 1.23E+01; `plus` is the sign of a value that is not negative."""
+    """Three significant figures, as 1.23E+01. `plus` is the sign of values of 0 or more."""
     value = Context(prec=3, rounding=ROUND_HALF_UP).create_decimal(decimal15(value))
     if not value:
         return plus + "0.00E+00"
@@ -82,7 +81,7 @@ def percent(factor):
 # ---------------------------------------------------------------- working files
 
 def read_rows(folder, name, width):
-    """Rows of `width` text fields, taken field by field; a file that is missing has no rows."""
+    """Rows of `width` text fields. A missing file has no rows."""
     try:
         with open(os.path.join(folder, name), encoding="latin-1", newline="") as file:
             text = file.read().replace("\r\n", "\n")
@@ -122,7 +121,7 @@ def description(text):
 
 
 def normal_form(rows, members, load_fields, zero_row):
-    """Rows with a load, by member, in their former order; a zero row for a member without one."""
+    """The rows with a load, sorted by member, otherwise in file order. A member without a load gets a zero row."""
     loaded = [row for row in rows if any(number(row[k]) != 0 for k in load_fields)]
     normal = []
     for member in range(1, members + 1):
@@ -180,7 +179,7 @@ def member_messages(joints, members):
 
 
 def undefined_messages(joints, members, points, udls):
-    """What no result is defined for."""
+    """The messages on input without a defined result."""
     messages = []
     for i, row in enumerate(joints, 1):
         if row[1][:3].lower() not in ("can", "pin", "con", "fix"):
@@ -203,7 +202,7 @@ def undefined_messages(joints, members, points, udls):
 # ---------------------------------------------------------------- moment distribution
 
 def fixed_end_moments_of_udl(load, length):
-    """Integrals of w x (L - x)^2 / L^2 and w x^2 (L - x) / L^2 over the load, as fractions."""
+    """The integrals of w x (L - x)^2 / L^2 and w x^2 (L - x) / L^2 over the load, as fractions."""
     a, b, w1, w2 = map(Fraction, load)
     L, e = Fraction(length), a + b
 
@@ -224,7 +223,7 @@ def fixed_end_moments_of_udl(load, length):
 
 
 def fixed_end_moments(beam):
-    """By member end; index 0 is unused. Clockwise is positive."""
+    """The fixed-end moment of each member end. Index 0 is unused. Clockwise is positive."""
     n = len(beam.lengths)
     terms = [[0.0] for _ in range(2 * n + 2)]
     for m in range(1, n + 1):
@@ -260,7 +259,7 @@ def fixed_end_moments(beam):
 
 
 def distribution_factors(beam):
-    """Left and right factor of each member; index 0 is unused."""
+    """The distribution factor of each member end. Index 0 is unused."""
     n = len(beam.lengths)
     K = [0.0] + beam.stiffness + [0.0]
     left, right = [0.0] * (n + 2), [0.0] * (n + 2)
@@ -331,12 +330,12 @@ def table_text(table):
 # ---------------------------------------------------------------- stations
 
 def total(sum_as_built, terms):
-    """A sum below 1e-12 of the largest of its terms is rounding dust."""
+    """The sum. It is 0 if it is below 1e-12 of its largest term, because then it is a rounding error."""
     return 0.0 if abs(sum_as_built) < 1e-12 * max(map(abs, terms)) else sum_as_built
 
 
 def moment_and_shear(beam, final, i, x):
-    """At x of span i: sagging moment, and downward load to the left less the left reaction."""
+    """At x of span i: the sagging moment, and the downward load on the left minus the left reaction."""
     L = beam.lengths[i - 1]
     near = 1e-12 * L
     built_in = beam.joints[i - 1] == "can" and beam.joints[i] == "fix"
@@ -394,7 +393,7 @@ def sign(text):
 
 
 def maximum(stations, length, correct_to, evaluate):
-    """x, moment and shear of the maximum; `stations` and `evaluate` give rounded texts."""
+    """x, moment and shear of the maximum. `stations` and `evaluate` return rounded texts."""
     moment, shear = start_moment, start_shear = evaluate(0.0)
     left_x, _, left_shear = stations[0]
     running = sign(left_shear)
@@ -420,7 +419,7 @@ def maximum(stations, length, correct_to, evaluate):
 
 
 def station_files(beam, final, divisions, places):
-    """The texts of the stations with each span's maximum among them, and of the maxima alone."""
+    """The text of the stations with the maximum of each span, and the text of the maxima."""
     spans, maxima = "", ""
     for i, length in enumerate(beam.lengths, 1):
         def evaluate(x):
@@ -439,7 +438,7 @@ def station_files(beam, final, divisions, places):
 # ---------------------------------------------------------------- the whole
 
 def analyse(folder, divisions, places):
-    """Messages, and the texts of the result files by name; the second is empty with any message."""
+    """The messages, and the texts of the result files by name. With a message there are no files."""
     joints = read_rows(folder, "Joint.txt", 3)
     members = read_rows(folder, "Member.txt", 5)
     messages = joint_messages([row[1] for row in joints])

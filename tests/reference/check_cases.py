@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Holds the result files of every golden case against the second way to them.
+"""Compares the result files of every golden case with those of analyse.py.
 
-Usage: check_cases.py CASES [TRABEON_BATCH]; with the program it also compares a few hundred random
-uniform beams, cell by cell in the files.
+Usage: check_cases.py CASES [TRABEON_BATCH]. With the program it also compares the files of a few hundred
+random beams.
 """
 import os
 import random
@@ -49,7 +49,7 @@ def write_random_beam(folder, source):
 
 
 def beams_that_differ(program, count):
-    """Beams with a file in which more than one line differs; one may, by a tie in the last digit."""
+    """The beams with a file in which more than one line differs. One may, by a tie in the last digit."""
     source = random.Random(8110)
     different = []
     for number in range(count):

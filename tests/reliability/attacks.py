@@ -1,18 +1,18 @@
 #!/usr/bin/env python3
-"""Puts obstacles where the programs read and write, and counts what held.
+"""Replaces files of the programs by obstacles and counts the failures.
 
     attacks.py BUILD [EVERY]
 
-For each command and each file that it writes or reads: a folder, a pipe, a device, a link to nothing,
-a write-protected file in the place of that file, and a link to somebody else's file that a forged
-"Unfinished.set" asks to put there. What must hold:
+For each command it replaces each file that the command reads or writes by a folder, a pipe, a device, a
+link to nothing or a write-protected file. A forged "Unfinished.set" also asks for a link to another
+user's file in its place. These rules must hold:
 
-  - the command ends, with 0 or with 1 and a sentence that names the file;
-  - somebody else's file and the obstacle are as they were;
-  - no temporary file is left.
+  - The command ends with 0, or with 1 and a sentence that names the file.
+  - The other user's file and the obstacle are unchanged.
+  - No temporary file is left.
 
-Ends with a table, and with 1 if anything did not hold. Devices are made where that is allowed. With
-EVERY only each EVERYth attack is tried.
+Prints a table. The exit code is 1 if a rule was broken. Makes devices only if the system allows it. With
+EVERY it tries only every EVERYth attack.
 """
 
 import itertools
@@ -76,12 +76,12 @@ def prepare(batch, folder):
 
 
 def attacked(command, begin, folder, name, obstacle):
-    """What did not hold, empty if all did; None where the obstacle cannot be made."""
+    """The rule that was broken. Empty if none was, None if the obstacle could not be made."""
     shutil.rmtree(folder, ignore_errors=True)
     shutil.copytree(begin, folder)
     target, victim = folder / name, folder / "victim"
     victim.write_bytes(b"somebody's")
-    planted = f"{name}.{'0' * 16}.new"  # and a set that asks to put it into the file's place
+    planted = f"{name}.{'0' * 16}.new"  # the forged set asks to rename this link to the file's name
     os.symlink(victim, folder / planted)
     (folder / "Unfinished.set").write_text(planted + "\n")
     try:
@@ -113,7 +113,7 @@ def attacked(command, begin, folder, name, obstacle):
 def main():
     build, every = pathlib.Path(sys.argv[1]).resolve(), int([*sys.argv, 1][2])
     batch = build / "batch" / "trabeon-batch"
-    report = build / "report" / "output" / "trabeon-report"
+    report = build / "output" / "trabeon-report"
     commands = [
         Command("unpack", batch, "unpack", LARGE, "DIR"),
         Command("analyse", batch, "analyse", "DIR", "--divisions", "20"),

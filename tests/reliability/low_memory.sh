@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Each program does its job with more and more memory, from what the loader needs to what the job
-# needs: it says that memory has run out, or does the whole job. The argument is a build folder.
+# Runs each program with more and more memory, from what the loader needs to what the job needs. The
+# program must say that memory has run out, or do the whole job. The argument is a build folder.
 set -euo pipefail
 
 build=$(cd "$1" && pwd)
@@ -10,10 +10,10 @@ trap 'rm -rf "$work"' EXIT
 export QT_QPA_PLATFORM=offscreen
 fail() { echo "FAILED: $*" >&2; exit 1; }
 
-grow() {  # what the job makes, the least memory in KiB, and the command
+grow() {  # arguments: the output file, the least memory in KiB, the command
     local made=$1 room=$2 told=0 status=0 whole
     shift 2
-    cp "$example" "$work/Example.TB"  # the windows' job opens it, and saves it changed
+    cp "$example" "$work/Example.TB"  # window_job opens it and saves changes to it
     "$@" > /dev/null 2>&1 || fail "$1 does not work"
     whole=$(stat -c %s "$made")
     while :; do
@@ -24,7 +24,7 @@ grow() {  # what the job makes, the least memory in KiB, and the command
         [ $status -ne 0 ] || break
         if [ $status -eq 1 ] && tail -n 1 "$work/said" | grep -q "^There is not enough memory to go on\. "; then
             told=$((told + 1))
-        elif [ $status -ne 127 ]; then  # the loader's own answer
+        elif [ $status -ne 127 ]; then  # the exit code of the loader
             fail "$1 with $room KiB ends with $status: $(cat "$work/said")"
         fi
         room=$((room + room / 40))

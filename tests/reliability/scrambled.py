@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Scrambles working files at random and gives them to each command of trabeon-batch.
+"""Damages working files at random and gives them to each command of trabeon-batch.
 
     scrambled.py BUILD [--count N]
 
-A command does its work, or is refused with a sentence and leaves the files as they were. Same seeds,
-same scrambles.
+A command must do its work, or refuse with a sentence and leave the files unchanged. A seed always makes
+the same damage.
 """
 
 import argparse
@@ -22,7 +22,7 @@ COMMANDS = ["analyse", "design", "tables", "pack"]
 
 
 def scrambled(text, dice):
-    """The text with some of its bytes replaced, lost or doubled."""
+    """The text with some of its bytes replaced, removed or doubled."""
     for _ in range(dice.randint(1, 4)):
         begin = dice.randrange(len(text) + 1)
         end = min(len(text), begin + dice.choice([0, 1, 1, 3, 20, 400]))
@@ -57,7 +57,8 @@ def main():
                 result = run(command, folder, *([project] if command == "pack" else []))
                 after = {path.name: path.read_bytes() for path in folder.iterdir()}
                 refused = result.returncode == 1 and len(result.stderr) > 20
-                # Done all the same: a section is too small, or the packed table is of an earlier state.
+                # With these messages it has still written its files: a section is too small, or the
+                # packed table is outdated.
                 weak = b"Please Increase" in result.stderr or b"was written" in result.stderr
                 if result.returncode != 0 and (not refused or before != after and not weak):
                     print(f"seed {seed}, {command}: {result.returncode} {result.stderr!r}")

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# On a real file system of 256 KiB with more and more room left, a command that is refused names the
-# file and changes none. The first argument is a build folder. Ends with 77 where no file system may
-# be mounted.
+# Runs commands on a real file system of 256 KiB with more and more free space. A command that fails must
+# name the file and change no file. The first argument is a build folder. The exit code is 77 if the
+# system does not allow a mount.
 set -euo pipefail
 
 build=$(cd "$1" && pwd)
@@ -22,7 +22,7 @@ fail() {
     cat "$work/said" >&2
     exit 1
 }
-# An older project with its results, then ballast until so many KiB are left.
+# Writes an older project with its results, then fills the disk until $room KiB are free.
 prepare() {
     rm -rf "${disk:?}"/*
     "$batch" unpack "$examples/two-span-floor-beam.TB" "$disk"
@@ -45,7 +45,7 @@ for room in 0 4 8 12 16 20 24 32 48 64 96; do
             continue
         fi
         grep -q "\"$disk.*could not be written (No space left on device)" "$work/said" ||
-            fail "$command says nothing of it"
+            fail "$command does not report the full disk"
         for file in "$work/before"/*; do
             cmp -s "$file" "$disk/${file##*/}" || fail "$command changed ${file##*/}"
         done

@@ -1,19 +1,19 @@
 #!/usr/bin/env python3
-"""Kills the programs at every step of their jobs, fills the disk under them, and counts what survived.
+"""Kills the programs at every step of their jobs, fills their disk, and counts the failures.
 
     survival.py BUILD [--points N] [--jobs NAME ...]
 
-BUILD is a build folder. A job is done once for each step (a file opened, half written, closed,
-renamed, removed), or for N steps evenly spread over it: killed there, and once more with a disk that
-is full from there on. What must hold:
+BUILD is a build folder. A step of a job is a file opened, half written, closed, renamed or removed. For
+each step, or for N steps spread evenly, the job runs again: it is killed at this step, ended by a signal
+there, or has a full disk from there. These rules must hold:
 
-  - every file is whole: absent, as it was, or as a job without a fault leaves it at some time;
-  - files that change as one are all old or all new, once the next start has finished that;
-  - after a kill the same command does its work, or the program starts again and "Recovered.TB"
-    holds every row that the killed run had in its files;
-  - a full disk is told in a sentence that names the file.
+  - Every file is complete: absent, old, or as in some state of a job without a fault.
+  - Files that change together are all old or all new after the next start.
+  - After a kill the same command does its work, or the program starts again and "Recovered.TB" contains
+    every row of the killed run.
+  - A sentence reports the full disk and names the file.
 
-Ends with a table, and with 1 if anything did not hold.
+Prints a table. The exit code is 1 if a rule was broken.
 """
 
 import argparse
@@ -33,11 +33,11 @@ TIMEOUT = 60
 
 
 class Broken(Exception):
-    """What did not hold."""
+    """A rule was broken."""
 
 
 def files(folder):
-    """Every working file and project of a folder, but not what a killed run was writing."""
+    """All working files and projects of a folder, without the temporary files of a killed run."""
     return {
         path.name: path.read_bytes()
         for path in folder.iterdir()
@@ -46,7 +46,7 @@ def files(folder):
 
 
 def finished(folder):
-    """The same as the next start finds them: a set of files that was killed half-way is finished."""
+    """The same files after the next start, which finishes an incomplete set of files."""
     found, unfinished = files(folder), folder / "Unfinished.set"
     for name in unfinished.read_text().split() if unfinished.exists() else []:
         fresh = folder / name
@@ -56,7 +56,7 @@ def finished(folder):
 
 
 def rows(text, width):
-    """The rows of a file, as the field reader has them."""
+    """The rows of a file, split as the field reader does."""
     fields, at = [], 0
     while at < len(text):
         while text[at : at + 1] == b" ":
@@ -79,7 +79,7 @@ class Programs:
     def __init__(self, build):
         self.batch = build / "batch" / "trabeon-batch"
         self.window = build / "tests" / "reliability" / "window_job"
-        self.report = build / "report" / "output" / "trabeon-report"
+        self.report = build / "output" / "trabeon-report"
         self.faults = build / "tests" / "reliability" / "libfaults.so"
 
     def environment(self, folder, kind="", at=0, record=""):
@@ -109,7 +109,7 @@ class Programs:
 
 
 class Job:
-    """What is done in a folder, and what must hold behind a fault."""
+    """A job in a folder, and the checks after a fault."""
 
     faults = "killed", "terminated", "filled"
 
@@ -121,7 +121,7 @@ class Job:
 
 
 class BatchJob(Job):
-    """A command of trabeon-batch on a folder that holds an older project and its results."""
+    """A command of trabeon-batch on a folder with an older project and its results."""
 
     def __init__(self, programs, name, *words):
         super().__init__(programs)
@@ -132,7 +132,7 @@ class BatchJob(Job):
         for command in ("unpack", SMALL, folder), ("analyse", folder):
             self.programs.run([batch, *command], folder)
         shutil.copy(SMALL, folder / "Job.TB")
-        if self.name not in ("unpack", "run", "design", "pack"):  # rows changed by hand are told
+        if self.name not in ("unpack", "run", "design", "pack"):  # these refuse rows changed by hand
             with open(folder / "Udl.txt", "ab") as loads:
                 loads.write(b' 2,1,2,5,7,"one more"\r\n')
         self.begin = files(folder)
@@ -142,7 +142,7 @@ class BatchJob(Job):
         return [self.programs.batch, *words]
 
     def checkAfterKill(self, folder, before, final):
-        """Its files changed as one, and the command that was killed can be given again."""
+        """Its files changed together, and the same command works when it is given again."""
         if self.name in ("unpack", "analyse") and before not in (self.begin, final):
             raise Broken("some files are old and some are new")
         if self.programs.run(self.command(folder), folder).returncode != 0:
@@ -154,11 +154,11 @@ class BatchJob(Job):
         if result.returncode != 1:
             raise Broken(f"ended with {result.returncode}")
         check_whole(left, allowed)
-        check_told(folder, result.stderr)
+        check_reported(folder, result.stderr)
 
 
 class ReportJob(Job):
-    """trabeon-report, which works in a temporary folder; a signal must not leave that."""
+    """trabeon-report. After a signal it must remove its temporary folder."""
 
     name, faults = "report", ("terminated",)
 
@@ -187,7 +187,7 @@ class WindowJob(Job):
         return [self.programs.window, folder]
 
     def checkAfterKill(self, folder, before, final):
-        """The program starts again, and what it recovers is what the killed run had."""
+        """The program starts again and recovers the rows of the killed run."""
         had = {name: before.get(name, b"") for name in INPUTS}
         wanted = {name: rows(text, INPUTS[name]) for name, text in had.items()}
         self.startAgain(folder)
@@ -207,19 +207,19 @@ class WindowJob(Job):
             raise Broken(f"the next start says {result.stdout!r}")
 
     def checkFullDisk(self, folder, result, left, allowed):
-        """Of the rows any may be missing that could not be added, but each is whole."""
+        """Rows that could not be added may be missing, but each row is complete."""
         for name, width in INPUTS.items():
             rows(left.get(name, b""), width)
         if result.returncode not in (0, 1):
             raise Broken(f"ended with {result.returncode}")
         if result.returncode == 1 or b"flag 1" in result.stdout:
-            check_told(folder, result.stdout)
+            check_reported(folder, result.stdout)
 
 
-def check_told(folder, said):
+def check_reported(folder, said):
     sentences = b"could not be written", b"cannot write there", b"does not confirm"
     if not any(sentence in said for sentence in sentences):
-        raise Broken(f"no sentence tells of the full disk: {said!r}")
+        raise Broken(f"no sentence reports the full disk: {said!r}")
     if str(folder).encode() not in said:
         raise Broken(f"the sentence names no file: {said!r}")
 
@@ -236,8 +236,8 @@ def check_whole(found, allowed):
 
 
 def check_flushed(calls):
-    """A saved project is on the disk before it takes its place, and its folder afterwards; no working
-    file waits for the disk."""
+    """A saved project is flushed to the disk before it is renamed, and its folder afterwards. Working files
+    are not flushed."""
     for at, call in enumerate(calls):
         what, name = call.split(" ", 1)
         if what == "rename" and name.endswith(".TB"):
@@ -249,7 +249,7 @@ def check_flushed(calls):
 
 
 class Trial:
-    """One job, done again and again from the same beginning."""
+    """One job. It runs many times from the same start."""
 
     def __init__(self, job, home):
         self.job, self.folder = job, home / "folder"
@@ -278,7 +278,7 @@ class Trial:
         return self.job.run(self.folder, kind, at, record)
 
     def killed(self, at):
-        """False: the job came to its end before that step."""
+        """False if the job ended before that step."""
         result = self.run("kill", at)
         if result.returncode == 0:
             return False
@@ -291,7 +291,7 @@ class Trial:
         return True
 
     def terminated(self, at):
-        """As killed(), but the process may tidy up: nothing of what it was writing is left."""
+        """Like killed(), but with a signal that the process can handle: it must leave no temporary file."""
         result = self.run("term", at)
         if result.returncode == 0:
             return False
@@ -306,7 +306,7 @@ class Trial:
         return True
 
     def filled(self, at):
-        """False: the job needed no room any more."""
+        """False if the job needed no more space."""
         result = self.run("full", at)
         found = files(self.folder)
         if result.returncode == 0 and found == self.final:
@@ -322,17 +322,17 @@ def chosen(steps, points):
 
 
 def judge(trial, points):
-    told, broken = [0, 0, 0], []
+    counts, broken = [0, 0, 0], []
     for at in chosen(trial.steps, points):
         for which, name in enumerate(Job.faults):
             if name not in trial.job.faults:
                 continue
             act = getattr(trial, name)
             try:
-                told[which] += act(at)
+                counts[which] += act(at)
             except (Broken, subprocess.TimeoutExpired) as what:
                 broken.append(f"{trial.job.name}, {name} at step {at}: {what}")
-    return trial.steps, told, broken
+    return trial.steps, counts, broken
 
 
 def main():
@@ -358,11 +358,11 @@ def main():
         if arguments.jobs and job.name not in arguments.jobs:
             continue
         with tempfile.TemporaryDirectory() as home:
-            steps, told, broken = judge(Trial(job, pathlib.Path(home)), arguments.points)
-        counts = "".join(f"{count:8}" for count in (steps, *told, len(broken)))
-        print(f"{job.name:10}{counts}", flush=True)
+            steps, counts, broken = judge(Trial(job, pathlib.Path(home)), arguments.points)
+        line = "".join(f"{count:8}" for count in (steps, *counts, len(broken)))
+        print(f"{job.name:10}{line}", flush=True)
         print("".join(f"  {line}\n" for line in broken), end="")
-        failed = failed or bool(broken) or not any(told)
+        failed = failed or bool(broken) or not any(counts)
     return int(failed)
 
 

@@ -106,9 +106,10 @@ TEST_F(PageTest, APrintThatEndsEarlyIsTold) {
         box.Paste();
     const auto stuck = Print(box);
     ASSERT_FALSE(stuck);
-    EXPECT_EQ(stuck.refusal().sentence,
-              "The print ends with page 2: what follows could not be laid out. Cut it out of the "
-              "report, then print again.");
+    EXPECT_EQ(
+        stuck.refusal().sentence,
+        "The print ends with page 2, because the rest could not be laid out. Cut the rest out "
+        "of the report, then print again.");
     EXPECT_EQ(PrintedPages(), 2);
 
     EXPECT_FALSE(Print(box, "missing/out.pdf"));

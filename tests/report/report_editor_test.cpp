@@ -176,8 +176,7 @@ TEST_F(ReportEditor, ASaveThatFailsIsToldAndLeavesTheOldFile) {
 }
 
 TEST_F(ReportEditor, TheWordProcessorGetsThePictureThatWasAddedLast) {
-    outside.ExpectMsgBox(
-        "There is no picture in the report. Put one there with Add To Report, then try again.");
+    outside.ExpectMsgBox("The report has no picture. Add one with Add To Report, then try again.");
     Click(Report().cmdWP);
     Add(100, 50);
     Select(0, 0);

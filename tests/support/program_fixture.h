@@ -11,6 +11,7 @@
 #include "forms/main/frmTrabeon.h"
 #include "tests/support/scripted_outside.h"
 #include "tests/support/temporary_folder.h"
+#include "toolkit/controls/control.h"
 
 namespace trabeon::test {
 
@@ -24,19 +25,24 @@ class ProgramTest : public testing::Test {
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
     }
 
-    /// Chooses an entry by its captions, as "&File|&New"; it must be there and enabled.
-    void Choose(const QString& path) {
+    /// The entry of a path of captions, as "File|New"; null if it is not there.
+    QAction* Entry(const QString& path) {
+        QAction* entry = nullptr;
         auto actions = menuBar().actions();
         for (const auto& caption : path.split('|')) {
             const auto found = std::find_if(actions.begin(), actions.end(), [&](auto* action) {
-                return action->text() == caption && action->isEnabled();
+                return action->text().remove('&') == QString(caption).remove('&');
             });
-            ASSERT_NE(found, actions.end()) << path.toStdString();
-            if ((*found)->menu() == nullptr)
-                (*found)->trigger();
-            else
-                actions = (*found)->menu()->actions();
+            entry = found == actions.end() ? nullptr : *found;
+            actions = entry && entry->menu() ? entry->menu()->actions() : QList<QAction*>();
         }
+        return entry;
+    }
+    /// Chooses an entry; it must be there and enabled.
+    void Choose(const QString& path) {
+        auto* entry = Entry(path);
+        ASSERT_TRUE(entry != nullptr && entry->isEnabled()) << path.toStdString();
+        entry->trigger();
     }
 
     static void Type(Control& control, const QString& keys) {

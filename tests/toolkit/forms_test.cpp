@@ -217,7 +217,7 @@ TEST_F(FormsTest, TheWindowMenuListsTheFormsInSight) {
 
 TEST_F(FormsTest, WindowsFillTheirPlaceAndGoBackToTheirSize) {
     const int width = First().Width(), narrow = window.Width();
-    First().Maximize();
+    First().SetState(WindowState::Maximized);
     Settle();
     EXPECT_EQ(First().State(), WindowState::Maximized);
     EXPECT_GE(First().Width(), window.ScaleWidth());

@@ -22,7 +22,6 @@ class DrawTest : public ControlsTest {
     }
 
     void Feed(int index, int count, double x, double y) {
-        graph.SetAutoAdvance(false);
         graph.SetPointCount(count);
         graph.SetPointIndex(index);
         graph.SetPointValue(y);

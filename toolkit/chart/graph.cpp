@@ -27,10 +27,6 @@ GraphPlot& Graph::Inner() const {
     return *static_cast<GraphPlot*>(Widget());
 }
 
-void Graph::SetAutoAdvance(bool advances) {
-    autoAdvance_ = advances;
-}
-
 // Room is made as points are written: a count may be far beyond what ever comes.
 void Graph::SetPointCount(int count) {
     GraphPlot& plot = Inner();
@@ -70,8 +66,6 @@ void Graph::SetPointX(double x) {
         return;
     point->x = x;
     Inner().shown = std::max(Inner().shown, index_);
-    if (autoAdvance_)
-        index_ = std::min(index_ + 1, PointCount());
 }
 
 void Graph::SetDrawAction(DrawActions action) {

@@ -22,7 +22,6 @@ class Graph : public Control {
     Graph(Container& parent, const GraphTitles& titles);
     ~Graph() override;
 
-    void SetAutoAdvance(bool advances);  // 1: writing a point's x moves PointIndex on
     // 30: the chart holds that many points. Those written so far stay.
     void SetPointCount(int count);
     int PointCount() const;
@@ -66,7 +65,6 @@ class Graph : public Control {
     GraphPlot& Inner() const;
     GraphPoint* Addressed();  // null while there are no points
 
-    bool autoAdvance_ = false;
     int index_ = 1;
 };
 

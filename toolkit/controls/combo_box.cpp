@@ -39,10 +39,6 @@ void ComboBox::AddItem(const std::string& text) {
     Inner(*this).setCurrentIndex(chosen);  // the widget chooses its first entry by itself
 }
 
-void ComboBox::Clear() {
-    Inner(*this).clear();
-}
-
 int ComboBox::ListCount() const {
     return Inner(*this).count();
 }

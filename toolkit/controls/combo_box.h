@@ -17,7 +17,6 @@ class ComboBox : public Control {
     std::function<void()> Click;
 
     void AddItem(const std::string& text);  // chooses nothing
-    void Clear();                           // fires nothing
     int ListCount() const;
     std::string List(int index) const;
     int ListIndex() const;

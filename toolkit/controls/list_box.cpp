@@ -94,12 +94,6 @@ void ListBox::AddItem(const std::string& text) {
     item->setToolTip(item->text());
 }
 
-void ListBox::Clear() {
-    muted_ = true;
-    Inner(*this).clear();
-    muted_ = false;
-}
-
 int ListBox::ListCount() const {
     return Inner(*this).count();
 }

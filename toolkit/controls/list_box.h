@@ -18,7 +18,6 @@ class ListBox : public Control {
     std::function<void()> Click;
 
     void AddItem(const std::string& text);
-    void Clear();  // fires nothing
     int ListCount() const;
     std::string List(int index) const;
     bool Selected(int index) const;

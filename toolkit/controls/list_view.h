@@ -82,11 +82,9 @@ class ListView : public Control {
 
     // Rows show sorted as text by the column of the key while Sorted is on; when it goes off they
     // stay in the order they have.
-    int SortKey() const { return sortKey_; }
     void SetSortKey(int column);
     ListSortOrder SortOrder() const { return sortOrder_; }
     void SetSortOrder(ListSortOrder order);
-    bool Sorted() const { return sorted_; }
     void SetSorted(bool sorted);
 
     // Several rows can be selected, to be copied with Ctrl+C as lines of tab-separated text.

@@ -131,10 +131,6 @@ void RichTextBox::SetSelText(const std::string& text) {
     Inner().setTextCursor(cursor);
 }
 
-std::string RichTextBox::SelText() const {
-    return Inner().textCursor().selectedText().toStdString();
-}
-
 void RichTextBox::SetSelection(int start, int length) {
     QTextCursor cursor = Inner().textCursor();
     cursor.setPosition(std::clamp(start, 0, TextLength()));

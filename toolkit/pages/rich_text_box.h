@@ -40,7 +40,6 @@ class RichTextBox : public Control {
     // Sets the text that is selected, locked or not; a picture whose line is left empty takes the
     // line with it.
     void SetSelText(const std::string& text);
-    std::string SelText() const;
     void SetSelection(int start, int length);
 
     std::string Text() const;

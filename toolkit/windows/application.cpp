@@ -81,10 +81,6 @@ int Application::Run() {
     return QApplication::exec();
 }
 
-void Application::Yield() {
-    QApplication::processEvents();
-}
-
 void Application::YieldToPainting() {
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }

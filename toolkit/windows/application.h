@@ -22,8 +22,6 @@ class Application {
     static std::string Folder();
     // Handles events until Outside::End or until the last window has closed.
     int Run();
-    // Lets the windows repaint and answer in the middle of a long handler.
-    static void Yield();
     // Lets the windows repaint; keys and clicks wait until the handler has ended.
     static void YieldToPainting();
 

@@ -227,10 +227,6 @@ bool Form::Visible() const {
     return Widget()->isVisible();
 }
 
-void Form::Maximize() {
-    Widget()->showMaximized();
-}
-
 WindowState Form::State() const {
     return StateOf(*Widget());
 }

@@ -46,7 +46,6 @@ class Form : public Placement, public Container {
     // The form stays loaded and keeps what its controls hold. In Form_Load: it will not come up.
     void Hide();
     bool Visible() const;
-    void Maximize();
     WindowState State() const;
     // A child fills the frame's inside, or goes back to its own size.
     void SetState(WindowState state);

@@ -40,8 +40,7 @@ inline std::vector<Force> forcesOn(const RelaxedBeam& beam, std::size_t member, 
 /// The moments over the joints, sagging positive: at a clamped or continuous joint the rotations
 /// of the simple spans beside it must close; over the root of a cantilever the moment is known.
 inline std::vector<double> jointMoments(const RelaxedBeam& beam) {
-    const auto& [Supports, EndCount, SupportType, MemberE, MemberI, Length, Stiffness] =
-        beam.beam;
+    const auto& [Supports, EndCount, SupportType, MemberE, MemberI, Length, Stiffness] = beam.beam;
     const auto n = Supports - 1;
     const bool free[] = {SupportType[1] == Joint::cantilever,
                          SupportType[Supports] == Joint::cantilever};

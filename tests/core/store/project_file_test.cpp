@@ -126,7 +126,7 @@ TEST_F(ProjectFile, RefusedOnesNameTheLineAndChangeNothing) {
     };
     for (const auto& [text, sentence] : rows) {
         const auto refusal = Refusal(text);
-        EXPECT_NE(refusal.find("a.TB\" is not a whole project file: " + std::string(sentence)),
+        EXPECT_NE(refusal.find("a.TB\" is not a complete project file: " + std::string(sentence)),
                   std::string::npos)
             << refusal << " where expected: " << sentence;
         EXPECT_EQ(work.contents(), before);

@@ -1,4 +1,4 @@
-#include "toolkit/controls/web_browser.h"
+#include "toolkit/controls/picture_view.h"
 
 #include <QImage>
 #include <QPainter>
@@ -38,16 +38,16 @@ StillPicture& Inner(const Control& control) {
 
 }  // namespace
 
-WebBrowser::WebBrowser(Container& parent) : Control(new StillPicture(parent.Canvas())) {}
+PictureView::PictureView(Container& parent) : Control(new StillPicture(parent.Canvas())) {}
 
-void WebBrowser::Navigate(const std::string& path) {
+void PictureView::Navigate(const std::string& path) {
     // In full colour: a palette picture cannot be scaled smoothly.
     Inner(*this).picture =
         QImage(QString::fromStdString(path)).convertToFormat(QImage::Format_ARGB32_Premultiplied);
     Inner(*this).update();
 }
 
-bool WebBrowser::HasPicture() const {
+bool PictureView::HasPicture() const {
     return !Inner(*this).picture.isNull();
 }
 
