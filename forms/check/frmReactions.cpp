@@ -74,7 +74,6 @@ frmReactions::frmReactions(Context& context)
     lvwJoints.Click = [this] { highlight({BeamPart::Kind::joint, rowOf(lvwJoints)}); };
     lvwMembers.Click = [this] { highlight({BeamPart::Kind::member, rowOf(lvwMembers)}); };
     cmdReport.Click = [this] { cmdReport_Click(); };
-    offerReport(context, cmdReport);
     SetTabOrder({&lvwJoints, &lvwMembers, &cmdReport});
 }
 
@@ -110,7 +109,7 @@ void frmReactions::Refresh() {
     else
         lblRefusal.SetCaption(answer.refusal().sentence);
     sketch_ = answer_ ? sketchOf(answer_->relaxed.beam, answer_->response) : BeamSketch();
-    cmdReport.SetEnabled(answer_ && context_.pasteIntoReport);
+    cmdReport.SetEnabled(answer_.has_value());
     fillJoints();
     fillMembers();
     choose(selected_.kind == BeamPart::Kind::none ? BeamPart{BeamPart::Kind::joint, 1} : selected_);

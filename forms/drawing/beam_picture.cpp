@@ -63,7 +63,7 @@ PictureRows rowsOf(const BeamSketch& sketch, double scale, double height, double
 BeamPicture::BeamPicture(const BeamSketch& sketch, const PictureSpace& space,
                          const BeamPart& selected) {
     LabelRoom labels(space.width);
-    Stage stage{drawing_, labels, space.measure, selected, {}, space.width};
+    Stage stage{drawing_, labels, space.measure, selected, {}, space.width, space.height};
     stage.left = space.margin;
     stage.scale = std::max(1.0, space.width - 2 * space.margin) / sketch.joints.back().x;
     stage.rows = rowsOf(sketch, stage.scale, space.height, stage.textHeight());

@@ -2,6 +2,9 @@
 // deflected shape. As shapes, for any surface.
 #pragma once
 
+#include <utility>
+#include <vector>
+
 #include "forms/drawing/beam_sketch.h"
 #include "forms/drawing/stage.h"
 
@@ -20,7 +23,8 @@ class BeamPicture {
     /// these to those of supports. Only the selected part is in the highlight colour.
     BeamPicture(const BeamSketch& sketch, const PictureSpace& space, const BeamPart& selected = {});
 
-    [[nodiscard]] const Drawing& drawing() const { return drawing_; }
+    [[nodiscard]] const Drawing& drawing() const& { return drawing_; }
+    [[nodiscard]] Drawing drawing() && { return std::move(drawing_); }
 
     /// The joint or the member at a place. A joint is below the beam's line, around its support.
     [[nodiscard]] BeamPart partAt(double x, double y) const;

@@ -36,7 +36,8 @@ bool putLabel(const Stage& stage, const std::string& text, const DrawnPoint& at,
               const LabelStyle& style) {
     const auto [left, right] = spanOf(stage, text, at.x, style);
     const Box box{left - betweenLabels, at.y, right + betweenLabels, at.y + stage.textHeight()};
-    if (!stage.labels.isFree(box))
+    const bool inside = box.top >= 0 && box.bottom <= stage.height && right <= stage.width;
+    if (!inside || !stage.labels.isFree(box))
         return false;
     stage.labels.take(box);
     stage.drawing.push_back(TextShape{{left, at.y}, text, style.colour, style.bold});

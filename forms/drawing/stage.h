@@ -42,7 +42,7 @@ struct Stage {
     const TextMeasure& measure;
     BeamPart selected;
     PictureRows rows;
-    double width = 0;
+    double width = 0, height = 0;
     double left = 0, scale = 1;  // the beam's left end, and pixels for one unit of length
 
     [[nodiscard]] double place(double x) const { return left + scale * x; }
@@ -73,7 +73,8 @@ struct LabelSpan {
 [[nodiscard]] LabelSpan spanOf(const Stage& stage, const std::string& text, double x,
                                const LabelStyle& style);
 
-/// Puts a label at x with its top at y. False if there is no room: then it is left out.
+/// Puts a label at x with its top at y. False if there is no room in the picture: then it
+/// is left out.
 bool putLabel(const Stage& stage, const std::string& text, const DrawnPoint& at,
               const LabelStyle& style);
 
