@@ -18,7 +18,7 @@ int main(int argc, char** argv) try {
     const auto folder = Application::Folder();
     Application::SetIcon((std::filesystem::path(folder) / "trabeon.png").string());
     frmTrabeon program(folder);
-    takeUpReport(program.context());
+    registerReport(program.context());
     program.context().forms.Register<frmPrintOptions>(program.context());
     if (!program.Start())
         return 0;

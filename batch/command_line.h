@@ -31,7 +31,7 @@ struct CommandLine {
 /// A command as users call it, and the function that carries it out.
 struct CommandForm {
     std::string_view name;
-    Exit (*carryOut)(const CommandLine& line);
+    Exit (*execute)(const CommandLine& line);
     std::string_view operands;  // as the help shows them: "DIR FILE.TB", "FILE.TB [FILE.TB ...]"
     std::vector<std::string_view>
         options;  // as the help shows them: "--places N" takes a value, "--no-restrict" none

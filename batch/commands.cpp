@@ -66,9 +66,9 @@ const std::vector<CommandForm>& commands() {
     return forms;
 }
 
-Exit carryOut(const CommandLine& line) {
+Exit execute(const CommandLine& line) {
     if (line.command != nullptr)
-        return line.command->carryOut(line);
+        return line.command->execute(line);
     std::fputs(helpText(commands()).c_str(), stdout);
     return Exit::done;
 }

@@ -9,6 +9,6 @@ namespace trabeon {
 [[nodiscard]] const std::vector<CommandForm>& commands();
 
 /// Carries a command out. Reasons go to standard error, one on each line.
-[[nodiscard]] Exit carryOut(const CommandLine& line);
+[[nodiscard]] Exit execute(const CommandLine& line);
 
 }  // namespace trabeon

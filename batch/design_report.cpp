@@ -37,9 +37,9 @@ std::string upperBars(const DesignRow& row) {
     return withoutBlanks(row.MomentRein.substr(row.MomentRein.find('&') + 1));
 }
 
-bool anyHolds(Rows rows, std::string_view words) {
+bool anyContains(Rows rows, std::string_view words) {
     return std::any_of(rows.begin(), rows.end(),
-                       [&](const DesignRow& row) { return note::holds(row.DefNote, words); });
+                       [&](const DesignRow& row) { return note::contains(row.DefNote, words); });
 }
 
 /// The failed checks, each once. "OK" if all checks passed.
@@ -47,7 +47,7 @@ std::string verdict(Rows rows) {
     std::string text;
     for (auto words :
          {note::noData, note::shearFailed, note::deflectionFailed, note::manualCalculation}) {
-        if (!anyHolds(rows, words))
+        if (!anyContains(rows, words))
             continue;
         words.remove_prefix(words.find_first_not_of(' '));
         text += (text.empty() ? "" : ", ") + std::string(words);

@@ -132,10 +132,10 @@ std::vector<std::string> startsOfTables() {
     return starts;
 }
 
-Objection unfit(const ExportSettings& settings, const std::optional<std::string>& out) {
-    if (auto objection = unfit(settings.analysis))
+Objection checkSettings(const ExportSettings& settings, const std::optional<std::string>& out) {
+    if (auto objection = checkSettings(settings.analysis))
         return objection;
-    if (auto objection = unfitForDesign(settings.analysis.Divisions, settings.misc))
+    if (auto objection = checkDesignSettings(settings.analysis.Divisions, settings.misc))
         return objection;
     return out ? unfitTableFile(*out, startsOfTables()) : Objection();
 }
@@ -185,7 +185,7 @@ Exit exportCommand(const CommandLine& line) {
     if (!settings)
         return wrongUsage(settings.refusal());
     const auto out = line.option("--out");
-    if (const auto objection = unfit(*settings, out))
+    if (const auto objection = checkSettings(*settings, out))
         return refused(*objection);
     const std::vector files(line.operands.begin(), line.operands.end() - 1);
     Output output(out);

@@ -44,7 +44,7 @@ Outcome<RelaxedBeam> beamWithResponse(const Project& project) {
         return messages.refusal();
     if (objection)
         return *objection;
-    if (const auto unfit = unfitForResponse(beam->loaded()))
+    if (const auto unfit = checkResponseSettings(beam->loaded()))
         return *unfit;
     return std::move(*beam);
 }

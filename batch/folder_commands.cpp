@@ -23,7 +23,7 @@ Objection outdated(const fs::path& file, ResultState state) {
 }
 
 /// The design reads any station file. A user who has not analysed the beam must know it.
-Objection unfitStations(const DesignData& data) {
+Objection checkStations(const DesignData& data) {
     if (data.NumofMem() > 0 && data.stationsFit())
         return std::nullopt;
     return Refusal{"The stations do not match the beam: \"BM.txt\" must have " +
@@ -54,7 +54,7 @@ Exit designCommand(const CommandLine& line) {
     if (!misc)
         return wrongUsage(misc.refusal());
     const fs::path folder = line.operands[0];
-    if (const auto objection = unfitForDesign(Divisions, *misc))
+    if (const auto objection = checkDesignSettings(Divisions, *misc))
         return refused(*objection);
     FolderLock lock;
     if (const auto status = enter(folder, lock); status.failed())
@@ -62,7 +62,7 @@ Exit designCommand(const CommandLine& line) {
     const auto data = readDesignData(folder, Divisions);
     if (!data)
         return refused(data.refusal());
-    if (const auto objection = unfitStations(*data))
+    if (const auto objection = checkStations(*data))
         return refused(*objection);
     if (const auto input = readFiles(folder, inputFiles); !input)
         return refused(input.refusal());
@@ -101,7 +101,7 @@ Exit packCommand(const CommandLine& line) {
         return refused(status.refusal());
     if (std::error_code unknown; !fs::exists(folder / working_file::joint, unknown))
         return refused({"\"" + folder.string() + "\" contains no beam: it has no Joint.txt."});
-    if (const auto objection = unfitProjectFile(line.operands[1]))
+    if (const auto objection = checkProjectFile(line.operands[1]))
         return refused(*objection);
     const auto kept = titleIn(folder);
     const ProjectTitle title{line.option("--title").value_or(kept.project),

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <condition_variable>
 #include <cstddef>
+#include <exception>
 #include <functional>
 #include <mutex>
 #include <optional>
@@ -14,65 +15,93 @@
 namespace trabeon {
 
 /// Does work(0) to work(count - 1) on all cores that this process may use, and calls take(result)
-/// in the order of the numbers, on the thread of the caller. `work` must not throw. Only some
-/// results wait at a time, so memory does not grow with the count.
+/// in the order of the numbers, on the thread of the caller. Only some results wait at a time, so
+/// memory does not grow with the count. An exception of `work` ends everything and reaches the
+/// caller.
 template <class Result>
 class InOrder {
   public:
     using Work = std::function<Result(std::size_t)>;
-    using Take = std::function<void(Result)>;
+    using Take = std::function<void(const Result&)>;
 
     static void run(std::size_t count, const Work& work, const Take& take) {
         const std::size_t cores = std::max(1U, std::thread::hardware_concurrency());
         if (const auto workers = std::min(count, cores); workers > 1)
-            InOrder(count, workers * waitingPerWorker, work).run(workers, take);
+            InOrder(count, workers, work).run(workers, take);
         else
             for (std::size_t i = 0; i < count; ++i)
                 take(work(i));
     }
 
   private:
-    static constexpr std::size_t waitingPerWorker = 16;
+    /// Results of neighbours, which pass from thread to thread together: a switch of threads costs
+    /// as much as a small project.
+    using Group = std::vector<Result>;
+    static constexpr std::size_t largestGroup = 32;
+    static constexpr std::size_t waitingGroups = 4;  // for each worker
 
-    InOrder(std::size_t count, std::size_t waiting, const Work& work)
-        : count_(count), work_(work), results_(waiting) {}
+    InOrder(std::size_t count, std::size_t workers, const Work& work)
+        : count_(count),
+          groupSize_(std::clamp<std::size_t>(count / workers / 8, 1, largestGroup)),
+          groups_((count + groupSize_ - 1) / groupSize_),
+          work_(work),
+          results_(workers * waitingGroups) {}
 
     void run(std::size_t workers, const Take& take) {
         const Joined threads(*this, workers);
-        for (std::size_t i = 0; i < count_; ++i)
-            take(threads.none() ? work_(i) : next(i));
+        for (std::size_t group = 0; group < groups_; ++group)
+            for (const auto& result : threads.none() ? resultsOf(group) : next(group))
+                take(result);
     }
 
-    Result next(std::size_t i) {
+    [[nodiscard]] Group resultsOf(std::size_t group) const {
+        Group results;
+        const auto end = std::min(count_, (group + 1) * groupSize_);
+        for (auto i = group * groupSize_; i < end; ++i)
+            results.push_back(work_(i));
+        return results;
+    }
+
+    Group next(std::size_t group) {
         std::unique_lock lock(mutex_);
-        auto& place = results_[i % results_.size()];
+        auto& place = results_[group % results_.size()];
         arrived_.wait(lock, [&] { return place.has_value(); });
-        Result result = std::move(*place);
+        if (failure_)
+            std::rethrow_exception(failure_);
+        Group results = std::move(*place);
         place.reset();
         ++taken_;
         freed_.notify_all();
-        return result;
+        return results;
     }
 
     void workOn() {
         std::unique_lock lock(mutex_);
         while (true) {
             freed_.wait(lock,
-                        [&] { return begun_ == count_ || begun_ < taken_ + results_.size(); });
-            if (begun_ == count_)
+                        [&] { return begun_ == groups_ || begun_ < taken_ + results_.size(); });
+            if (begun_ == groups_)
                 return;
-            const auto i = begun_++;
+            const auto group = begun_++;
             lock.unlock();
-            auto result = work_(i);
+            Group results;
+            std::exception_ptr failure;
+            try {
+                results = resultsOf(group);
+            } catch (...) {
+                failure = std::current_exception();
+            }
             lock.lock();
-            results_[i % results_.size()] = std::move(result);
+            if (failure)
+                failure_ = failure;
+            results_[group % results_.size()] = std::move(results);
             arrived_.notify_one();
         }
     }
 
     void stop() {
         const std::lock_guard lock(mutex_);
-        begun_ = count_;
+        begun_ = groups_;
         freed_.notify_all();
     }
 
@@ -100,9 +129,10 @@ class InOrder {
         std::vector<std::thread> threads_;
     };
 
-    std::size_t count_, begun_ = 0, taken_ = 0;
+    std::size_t count_, groupSize_, groups_, begun_ = 0, taken_ = 0;  // begun and taken: groups
     const Work& work_;
-    std::vector<std::optional<Result>> results_;  // of number i at i modulo the size
+    std::vector<std::optional<Group>> results_;  // of a group at its number modulo the size
+    std::exception_ptr failure_;
     std::mutex mutex_;
     std::condition_variable arrived_, freed_;
 };

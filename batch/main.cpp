@@ -27,7 +27,7 @@ constexpr auto outOfMemory =
 Exit run(const std::vector<std::string>& words) {
     const auto line = readCommandLine(words, commands());
     if (line)
-        return carryOut(*line);
+        return execute(*line);
     complain("trabeon-batch: " + line.refusal().sentence);
     return Exit::usage;
 }

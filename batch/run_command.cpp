@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 /// From this many members on an analysis shows its progress.
 constexpr std::size_t manyMembers = 1000;
 /// The balance table of more members than this stays in its file.
-constexpr std::size_t mostMembersShown = 20;
+constexpr std::size_t maxMembersShown = 20;
 
 std::size_t terminalWidth() {
     winsize size{};
@@ -59,7 +59,7 @@ std::string analysisText(const ProjectTitle& title, const Analysis& analysis,
                 readable(title.designer) + "\n\n";
     const auto file = folder / working_file::balanceTable;
     const auto members = analysis.beam.members();
-    if (members <= mostMembersShown)
+    if (members <= maxMembersShown)
         text += "Balance table (clockwise positive)\n" +
                 balanceTableStrips(readWhole(file), terminalWidth()) + '\n';
     else
@@ -81,7 +81,7 @@ void addDesign(Answer& answer, const fs::path& folder, const AnalysisSettings& s
     const auto design = designBeam(*data, {});
     if (const auto status = writeDesign(folder, design, settings.Divisions, {}); status.failed())
         return answer.refuse(status.refusal());
-    const bool few = data->NumofMem() <= mostMembersShown;
+    const bool few = data->NumofMem() <= maxMembersShown;
     answer.out += '\n' + (few ? designTable(design, data->NumofMem()) : designSummary(design));
     if (design.ShearFailed)
         answer.refuse({std::string(shearFailureSentence)});
@@ -147,7 +147,7 @@ Exit runCommand(const CommandLine& line) {
     const auto settings = settingsOf(line);
     if (!settings)
         return wrongUsage(settings.refusal());
-    if (const auto objection = unfit(*settings))
+    if (const auto objection = checkSettings(*settings))
         return refused(*objection);
     const auto jobs = jobsOf(line);
     const auto earlier = sharedFolders(jobs);

@@ -29,7 +29,7 @@ Status enter(const fs::path& folder, FolderLock& lock) {
 }
 
 Outcome<Project> unpackInto(const std::string& file, const fs::path& folder, FolderLock& lock) {
-    if (const auto objection = unfitForProject(file, folder))
+    if (const auto objection = checkProjectName(file, folder))
         return *objection;
     auto project = readProject(file);
     if (!project)
@@ -41,7 +41,7 @@ Outcome<Project> unpackInto(const std::string& file, const fs::path& folder, Fol
                        "\" cannot be created. Choose another one."};
     if (const auto status = enter(folder, lock); status.failed())
         return status.refusal();
-    if (const auto objection = holdsOtherRows(folder))
+    if (const auto objection = checkRowsAreSaved(folder))
         return *objection;
     if (const auto status = writeWorkingFiles(*project, folder); status.failed())
         return status.refusal();

@@ -73,7 +73,7 @@ void readOff(Graph& chart) {
 
 struct Program {
     explicit Program(const std::string& folder) : main(folder) {
-        takeUpReport(main.context());
+        registerReport(main.context());
         forms.Register<frmPrintOptions>(main.context());
         if (!main.Start())
             std::exit(1);

@@ -24,7 +24,9 @@ constexpr int width = 5400;
 
 bool print(const std::vector<PrintedPage>& pages, Printer& printer) {
     for (const auto& page : pages) {
-        printer.NewPage(page.landscape ? Orientation::Landscape : Orientation::Portrait);
+        printer.SetOrientation(page.landscape ? Orientation::Landscape : Orientation::Portrait);
+        if (!printer.NewPage())
+            return false;
         for (const auto& [x, y, text] : page.lines)
             printer.Print(x, y, text);
     }

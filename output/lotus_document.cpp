@@ -72,7 +72,7 @@ void LotusDocument::typeText(const std::string& text) {
         appendText(table().rows[row_][column_], text, builder_.style);
         return;
     }
-    tabsBehindPicture_ = linesBesidePicture_ = 0;
+    tabsAfterPicture_ = linesBesidePicture_ = 0;
     builder_.type(text);
 }
 
@@ -106,22 +106,22 @@ void LotusDocument::Undo() {
 
 /// Pastes the picture beside the one before it if tabs came after that one, otherwise below it.
 void LotusDocument::Paste() {
-    if (tabsBehindPicture_ == 0 && !builder_.current().pictures.empty()) {
+    if (tabsAfterPicture_ == 0 && !builder_.current().pictures.empty()) {
         builder_.endParagraph();
         linesBesidePicture_ = 0;
     }
-    if (builder_.paste(tabsBehindPicture_ * tabStop)) {
+    if (builder_.paste(tabsAfterPicture_ * tabStop)) {
         const double line = builder_.style.points * lineSpacing;
         const int lines =
             static_cast<int>(std::ceil(builder_.current().pictures.back().height / line));
         linesBesidePicture_ = std::max(linesBesidePicture_, lines);
     }
-    tabsBehindPicture_ = 0;
+    tabsAfterPicture_ = 0;
 }
 
 void LotusDocument::tab() {
     if (!inTable_) {
-        ++tabsBehindPicture_;
+        ++tabsAfterPicture_;
         return;
     }
     if (++column_ < table().columns)
@@ -134,7 +134,7 @@ void LotusDocument::tab() {
 
 /// Beside a picture, the cursor first moves down to the lower edge of the picture.
 void LotusDocument::enter() {
-    tabsBehindPicture_ = 0;
+    tabsAfterPicture_ = 0;
     if (linesBesidePicture_ > 1) {
         --linesBesidePicture_;
         return;

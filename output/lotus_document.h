@@ -31,7 +31,7 @@ class LotusDocument : public WordProcessor {
     bool inTable_ = false;
     std::size_t row_ = 0, column_ = 0;  // of the current cell
     bool rowAdded_ = false;             // by the last tab
-    int tabsBehindPicture_ = 0;
+    int tabsAfterPicture_ = 0;
     int linesBesidePicture_ = 0;  // from the cursor to the picture's lower edge
 };
 

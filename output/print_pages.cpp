@@ -9,7 +9,7 @@ namespace trabeon {
 namespace {
 
 constexpr auto gap = "     ";
-constexpr int mostLines = 56;         // per page of rows; the count starts at 2
+constexpr int maxLines = 56;          // per page of rows; the count starts at 2
 constexpr int lastTableLine = 55;     // per page of the balance table
 constexpr std::size_t labelled = 10;  // characters of a row label, repeated in each strip
 constexpr std::size_t landscapeStrip = 84;
@@ -48,16 +48,16 @@ class Print {
     template <class Row>
     void list(const char* title, const std::vector<Row>& rows) {
         pen_.print(title);
-        NewLine(LineCount);
+        NewLine(LineCount_);
         for (const Row& row : rows) {
             pen_.print(textOf(row));
-            NewLine(LineCount);
+            NewLine(LineCount_);
         }
     }
 
     void heading() {
         pen_.print(source_.headingLine);
-        NewLine(LineCount);
+        NewLine(LineCount_);
     }
 
     void balanceTable(bool landscape) {
@@ -76,18 +76,18 @@ class Print {
     void newPage() { pen_.newPage(); }
 
   private:
-    void NewLine(int& lineCount) {
-        if (++lineCount <= mostLines)
+    void NewLine(int& LineCount) {
+        if (++LineCount <= maxLines)
             return;
         pen_.newPage();
-        lineCount = 2;
+        LineCount = 2;
         pen_.print(source_.headingLine);
-        NewLine(lineCount);
+        NewLine(LineCount);
     }
 
     void beginStrip(const std::string& pageLine) {
         pen_.toCorner();
-        LineCount = 2;
+        LineCount_ = 2;
         pen_.print(source_.headingLine);
         pen_.print(pageLine);
     }
@@ -99,7 +99,7 @@ class Print {
             const auto from = std::min((page - 1) * width + labelled, line.size());
             pen_.print(std::string(line.substr(0, labelled)) +
                        std::string(line.substr(from, width)));
-            if (++LineCount < lastTableLine)
+            if (++LineCount_ < lastTableLine)
                 continue;
             pen_.newPage();
             beginStrip(pageLine);
@@ -118,7 +118,7 @@ class Print {
 
     const PrintSource& source_;
     Pen pen_;
-    int LineCount = 2;
+    int LineCount_ = 2;
 };
 
 }  // namespace

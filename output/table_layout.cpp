@@ -50,42 +50,42 @@ class Columns {
         : pageWidth_(pageWidth) {
         for (const auto& need : needs) {
             const double margins = 2 * cellMargin + cellSlack;
-            least.push_back(std::min(need.word * points, pageWidth / 2 - margins) + margins);
-            wanted.push_back(std::max(need.line * points + margins, least.back()));
+            least_.push_back(std::min(need.word * points, pageWidth / 2 - margins) + margins);
+            wanted_.push_back(std::max(need.line * points + margins, least_.back()));
         }
     }
 
     [[nodiscard]] bool fit() const {
-        return std::accumulate(least.begin(), least.end(), 0.0) <= pageWidth_;
+        return std::accumulate(least_.begin(), least_.end(), 0.0) <= pageWidth_;
     }
 
     /// Shares the remaining width among the columns whose wanted width is above their least width.
     [[nodiscard]] TableStrip strip(std::vector<std::size_t> columns) const {
         double leastSum = 0, wantedSum = 0;
         for (const auto c : columns) {
-            leastSum += least[c];
-            wantedSum += wanted[c];
+            leastSum += least_[c];
+            wantedSum += wanted_[c];
         }
         const double more = wantedSum - leastSum;
         const double share = more > 0 ? std::min(1.0, (pageWidth_ - leastSum) / more) : 0;
         TableStrip strip{std::move(columns), {}};
         for (const auto c : strip.columns)
-            strip.widths.push_back(least[c] + share * (wanted[c] - least[c]));
+            strip.widths.push_back(least_[c] + share * (wanted_[c] - least_[c]));
         return strip;
     }
 
     [[nodiscard]] std::vector<TableStrip> strips() const {
         std::vector<TableStrip> strips;
         std::vector<std::size_t> columns{0};
-        double width = least[0];
-        for (std::size_t c = 1; c < least.size(); ++c) {
-            if (width + least[c] > pageWidth_ && columns.size() > 1) {
+        double width = least_[0];
+        for (std::size_t c = 1; c < least_.size(); ++c) {
+            if (width + least_[c] > pageWidth_ && columns.size() > 1) {
                 strips.push_back(strip(columns));
                 columns = {0};
-                width = least[0];
+                width = least_[0];
             }
             columns.push_back(c);
-            width += least[c];
+            width += least_[c];
         }
         strips.push_back(strip(columns));
         return strips;
@@ -93,7 +93,7 @@ class Columns {
 
   private:
     double pageWidth_;
-    std::vector<double> least, wanted;
+    std::vector<double> least_, wanted_;
 };
 
 }  // namespace

@@ -137,12 +137,12 @@ void WordDocument::ConvertToTable(const Arguments& arguments) {
     if (selectedLines_ == 0 || columns == 0)
         return;
     DocumentTable table{columns, {}, true};
-    const auto behind = blocks.end() - 1;
-    const auto first = behind - static_cast<std::ptrdiff_t>(selectedLines_);
-    for (auto line = first; line != behind; ++line)
+    const auto end = blocks.end() - 1;
+    const auto first = end - static_cast<std::ptrdiff_t>(selectedLines_);
+    for (auto line = first; line != end; ++line)
         table.rows.push_back(cellsOf(std::get<Paragraph>(*line), columns));
     *first = std::move(table);
-    blocks.erase(first + 1, behind);
+    blocks.erase(first + 1, end);
     tableSelected_ = true;
 }
 

@@ -1,14 +1,14 @@
 #include "report/PrintReport.h"
 
 #include "report/pages.h"
-#include "toolkit/pages/page_printer.h"
+#include "toolkit/pages/printer.h"
 #include "toolkit/pages/rich_text_box.h"
 #include "toolkit/windows/wait_cursor.h"
 
 namespace trabeon {
 namespace {
 
-Refusal unprinted(const std::string& file) {
+Refusal printRefusal(const std::string& file) {
     if (file.empty())
         return {"The report could not be printed. Check the printer, then try again."};
     return {"The report could not be printed to \"" + file +
@@ -19,7 +19,7 @@ Refusal unprinted(const std::string& file) {
 
 Outcome<PrintEnd> PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, int rightMargin,
                               int bottomMargin) {
-    const auto printer = PagePrinter::Open("Trabeon Report");
+    const auto printer = Printer::Open("Trabeon Report");
     if (!printer)
         return PrintEnd::cancelled;
     const WaitCursor wait;
@@ -31,14 +31,14 @@ Outcome<PrintEnd> PrintReport(RichTextBox& RTB, int leftMargin, int topMargin, i
                       sheet.Width - rightMargin - sheet.OffsetX,
                       sheet.Height - bottomMargin - sheet.OffsetY};
     bool printing = true;
-    const auto pages = goThroughPages(RTB.TextLength(), [&](int first) {
-        printing = first == 0 || printer->NewPage();
+    const auto pages = splitIntoPages(RTB.TextLength(), [&](int first) {
+        printing = printer->NewPage();
         format.first = first;
         return printing ? RTB.FormatRange(printer.get(), format) : first;
     });
     RTB.ReleasePages();
     if (!printer->EndDoc() || !printing)
-        return unprinted(printer->File());
+        return printRefusal(printer->File());
     if (!pages.whole)
         return Refusal{"The print ends with page " + std::to_string(pages.starts.size()) +
                        ", because the rest could not be laid out. Cut the rest out of the report, "

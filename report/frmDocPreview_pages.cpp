@@ -44,7 +44,7 @@ PageFormat frmDocPreview::formatFor(const PictureBox& picture) const {
 int frmDocPreview::PageCtnProc(const PictureBox& picture) {
     PageFormat format = formatFor(picture);
     RichTextBox& RTB = report();
-    pageStarts_ = goThroughPages(RTB.TextLength(), [&](int first) {
+    pageStarts_ = splitIntoPages(RTB.TextLength(), [&](int first) {
                       format.first = first;
                       return RTB.FormatRange(nullptr, format);
                   }).starts;

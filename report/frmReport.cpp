@@ -49,7 +49,7 @@ void frmReport::Form_Resize() {
 void frmReport::ClosedByUser() {
     if (RTB.PictureCount() == 0)
         return;
-    sayEmptied(context_, "The report", [&context = context_, pictures = RTB.AllPictures()] {
+    offerRestore(context_, "The report", [&context = context_, pictures = RTB.AllPictures()] {
         context.forms.Get<frmReport>().RTB.Append(*pictures);
         say(context, "The report is back");
     });

@@ -2,7 +2,7 @@
 
 namespace trabeon {
 
-Pages goThroughPages(int length, const std::function<int(int)>& page) {
+Pages splitIntoPages(int length, const std::function<int(int)>& page) {
     Pages pages;
     for (int first = 0;;) {
         pages.starts.push_back(first);

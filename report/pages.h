@@ -13,6 +13,6 @@ struct Pages {
 
 /// Calls `page` for each page with the position of its first character. `page` returns the position
 /// of the next page. Stops at `length`, or when a page does not advance.
-[[nodiscard]] Pages goThroughPages(int length, const std::function<int(int)>& page);
+[[nodiscard]] Pages splitIntoPages(int length, const std::function<int(int)>& page);
 
 }  // namespace trabeon

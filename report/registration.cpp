@@ -5,7 +5,7 @@
 
 namespace trabeon {
 
-void takeUpReport(Context& context) {
+void registerReport(Context& context) {
     context.forms.Register<frmReport>(context);
     context.forms.Register<frmDocPreview>(context);
     context.pasteIntoReport = [&context] { context.forms.Get<frmReport>().Add(); };

@@ -5,8 +5,8 @@ namespace trabeon {
 
 struct Context;
 
-/// Registers the forms of the report and sets `Context::pasteIntoReport`. Call it before the first
-/// form is loaded: the "Add To Report" buttons of earlier forms would stay disabled.
-void takeUpReport(Context& context);
+/// Registers the forms of the report and sets `Context::pasteIntoReport`, which the "Add To Report"
+/// buttons need.
+void registerReport(Context& context);
 
 }  // namespace trabeon

@@ -65,7 +65,7 @@ class Camera {
   public:
     Camera(const std::string& folder, std::string pictures)
         : program_(folder), pictures_(std::move(pictures)) {
-        takeUpReport(program_.context());
+        registerReport(program_.context());
         forms().Register<frmPrintOptions>(program_.context());
         started_ = program_.Start();
         window().resize(680, 380);

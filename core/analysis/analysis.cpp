@@ -25,14 +25,14 @@ Objection tooLarge(std::size_t member) {
                    ": its moments or shears are too large to be calculated. Use other units."};
 }
 
-Objection unfit(const std::vector<double>& FEM) {
+Objection checkMoments(const std::vector<double>& FEM) {
     for (std::size_t k = 1; k < FEM.size(); ++k)
         if (!std::isfinite(FEM[k]))
             return tooLarge((k + 1) / 2);
     return std::nullopt;
 }
 
-Objection unfit(const std::vector<Station>& stations, std::size_t perSpan) {
+Objection checkForces(const std::vector<Station>& stations, std::size_t perSpan) {
     for (std::size_t k = 0; k < stations.size(); ++k)
         if (!std::isfinite(stations[k].forces.moment) || !std::isfinite(stations[k].forces.shear))
             return tooLarge(k / perSpan + 1);
@@ -72,7 +72,7 @@ Outcome<RelaxedBeam> relaxed(BeamRows rows, const TableSink& tableRow,
         return udls.refusal();
 
     const auto FEM = fixedEndMoments(*beam, *udls, *points);
-    if (const auto objection = unfit(FEM))
+    if (const auto objection = checkMoments(FEM))
         return *objection;
     auto Final = relax(*beam, FEM, tableRow, [&] { outputs.progress(50); });
     if (!Final)
@@ -83,7 +83,7 @@ Outcome<RelaxedBeam> relaxed(BeamRows rows, const TableSink& tableRow,
 /// The whole calculation of a beam whose structure passed the rules.
 Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
                             const TableSink& tableRow, const AnalysisOutputs& outputs) {
-    if (const auto objection = unfit(settings))
+    if (const auto objection = checkSettings(settings))
         return *objection;
     auto beam = relaxed(std::move(rows), tableRow, outputs);
     if (!beam)
@@ -91,10 +91,10 @@ Outcome<Analysis> calculate(BeamRows rows, const AnalysisSettings& settings,
     const auto loaded = beam->loaded();
     const auto Divisions = static_cast<std::size_t>(settings.Divisions);
     auto stations = FindMxSx(loaded, Divisions);
-    if (const auto objection = unfit(stations, Divisions + 1))
+    if (const auto objection = checkForces(stations, Divisions + 1))
         return *objection;
     auto maxima = searchMaxima(loaded, stations, settings, outputs);
-    if (const auto objection = unfit(maxima, 1))
+    if (const auto objection = checkForces(maxima, 1))
         return *objection;
     return Analysis{std::move(*beam), std::move(stations), std::move(maxima)};
 }
@@ -109,15 +109,15 @@ std::optional<Result> orRefuse(Outcome<Result> result, const AnalysisOutputs& ou
 
 }  // namespace
 
-Objection unfit(const AnalysisSettings& settings) {
-    if (const auto objection = unfitDivisions(settings.Divisions))
+Objection checkSettings(const AnalysisSettings& settings) {
+    if (auto objection = checkDivisions(settings.Divisions))
         return objection;
     if (!(settings.places >= 0 && settings.places <= 12))
         return Refusal{"The decimal places of the maximum must be a number from 0 to 12."};
     return std::nullopt;
 }
 
-Objection unfitDivisions(double Divisions) {
+Objection checkDivisions(double Divisions) {
     if (!(Divisions >= 1 && Divisions <= 10'000 && Divisions == std::floor(Divisions)))
         return Refusal{"The number of sections of a span must be a whole number from 1 to 10,000."};
     return std::nullopt;

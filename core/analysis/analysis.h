@@ -29,10 +29,10 @@ struct AnalysisSettings {
 };
 
 /// Refuses Divisions that are not a whole number from 1 to 10,000.
-[[nodiscard]] Objection unfitDivisions(double Divisions);
+[[nodiscard]] Objection checkDivisions(double Divisions);
 
 /// Refuses settings outside their limits.
-[[nodiscard]] Objection unfit(const AnalysisSettings& settings);
+[[nodiscard]] Objection checkSettings(const AnalysisSettings& settings);
 
 /// The functions that an analysis calls while it runs. `progress` gets 0, then 50 when the
 /// relaxation has ended, then 50 + 50 i / n when span i of n has been searched. `rowsRead` gets the

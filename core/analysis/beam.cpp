@@ -16,7 +16,7 @@ bool isMeasure(double value) {
 
 /// The rules pass over a type that is not spelled exactly ("fixed", "PIN"). Such a beam must also
 /// pass them with the types that the analysis takes.
-Objection unfitSpelling(const std::vector<JointRow>& joints, const std::vector<Joint>& types) {
+Objection checkSpelling(const std::vector<JointRow>& joints, const std::vector<Joint>& types) {
     std::size_t misspelled = 1;
     while (misspelled <= joints.size() && joints[misspelled - 1].type == nameOf(types[misspelled]))
         ++misspelled;
@@ -33,7 +33,7 @@ Objection unfitSpelling(const std::vector<JointRow>& joints, const std::vector<J
                    std::string(nameOf(types[misspelled])) + ": " + broken.front()};
 }
 
-Objection unfitMember(const MemberRow& row, std::size_t number, const Beam& beam) {
+Objection checkMemberRow(const MemberRow& row, std::size_t number, const Beam& beam) {
     const auto bad = [&](std::string_view what, const std::string& text) {
         return Refusal{"Member " + std::to_string(number) + ": " + std::string(what) + " is \"" +
                        excerpt(text) +
@@ -66,7 +66,7 @@ Outcome<Beam> beamOf(const std::vector<JointRow>& joints, const std::vector<Memb
                            excerpt(joints[j - 1].type) +
                            "\". It must be Cantilever, Pin Jointed, Continuous or Fixed."};
     }
-    if (const auto objection = unfitSpelling(joints, beam.SupportType))
+    if (const auto objection = checkSpelling(joints, beam.SupportType))
         return *objection;
 
     for (auto array : {&Beam::MemberE, &Beam::MemberI, &Beam::Length, &Beam::Stiffness})
@@ -77,7 +77,7 @@ Outcome<Beam> beamOf(const std::vector<JointRow>& joints, const std::vector<Memb
         beam.MemberI[i] = leadingNumber(row.I);
         beam.Length[i] = leadingNumber(row.L);
         beam.Stiffness[i] = beam.MemberE[i] * beam.MemberI[i] / beam.Length[i];
-        if (const auto objection = unfitMember(row, i, beam))
+        if (const auto objection = checkMemberRow(row, i, beam))
             return *objection;
     }
     return beam;

@@ -10,7 +10,8 @@
 namespace trabeon {
 namespace {
 
-Refusal named(std::string_view load, std::size_t row, std::size_t member, const Refusal& why) {
+Refusal refusalOfRow(std::string_view load, std::size_t row, std::size_t member,
+                     const Refusal& why) {
     return {"Row " + std::to_string(row) + " of the " + std::string(load) + "s, on member " +
             std::to_string(member) + ": " + why.sentence};
 }
@@ -19,7 +20,7 @@ Refusal named(std::string_view load, std::size_t row, std::size_t member, const 
 
 PointLoad::PointLoad(const PointRow& row) : a(leadingNumber(row.a)), P(leadingNumber(row.P)) {}
 
-Objection PointLoad::unfit() const {
+Objection PointLoad::objection() const {
     if (std::isfinite(a) && std::isfinite(P))
         return std::nullopt;
     return Refusal{"a or P is too large. Enter a smaller number."};
@@ -31,7 +32,7 @@ UdlLoad::UdlLoad(const UdlRow& row)
       w1(leadingNumber(row.w1)),
       w2(leadingNumber(row.w2)) {}
 
-Objection UdlLoad::unfit() const {
+Objection UdlLoad::objection() const {
     if (!std::isfinite(a) || !std::isfinite(b) || !std::isfinite(w1) || !std::isfinite(w2))
         return Refusal{"a, b, w1 or w2 is too large. Enter a smaller number."};
     if (b == 0)
@@ -52,8 +53,8 @@ Outcome<MemberLoads<Load>> normalForm(std::vector<typename Load::Row> rows, std:
         const auto member = load.isZero() ? 0 : wholeNumberUpTo(members, rows[k].member);
         if (member == 0)
             continue;
-        if (const auto why = load.unfit())
-            return named(Load::name, k + 1, member, *why);
+        if (const auto why = load.objection())
+            return refusalOfRow(Load::name, k + 1, member, *why);
         kept.push_back({member, k, load});
     }
     std::stable_sort(kept.begin(), kept.end(),

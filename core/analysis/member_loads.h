@@ -21,7 +21,7 @@ struct PointLoad {
     [[nodiscard]] bool isZero() const { return P == 0; }
     [[nodiscard]] std::array<double, 2> numbers() const { return {a, P}; }
     [[nodiscard]] static PointRow zeroRow() { return {"", "1", "0", "Zero Load"}; }
-    [[nodiscard]] Objection unfit() const;
+    [[nodiscard]] Objection objection() const;
 };
 
 /// A load whose intensity goes straight from w1 at a to w2 at a + b, positive downward.
@@ -34,7 +34,7 @@ struct UdlLoad {
     [[nodiscard]] bool isZero() const { return w1 == 0 && w2 == 0; }
     [[nodiscard]] std::array<double, 4> numbers() const { return {a, b, w1, w2}; }
     [[nodiscard]] static UdlRow zeroRow() { return {"", "0", "1", "0", "0", "Zero Load"}; }
-    [[nodiscard]] Objection unfit() const;
+    [[nodiscard]] Objection objection() const;
 
     /// The force of the load on the first t of its width; t = b gives the whole load.
     [[nodiscard]] double resultant(double t) const { return t * (w1 + intensityAt(t)) / 2; }

@@ -9,7 +9,7 @@ namespace trabeon {
 namespace {
 
 /// A cycle at least halves the sum of all balances, and the largest double is 2^1024.
-constexpr int mostCycles = 1200;
+constexpr int maxCycles = 1200;
 
 using Row = std::vector<double>;
 
@@ -50,7 +50,7 @@ bool isFinite(const Row& row) {
     return std::all_of(row.begin(), row.end(), [](double moment) { return std::isfinite(moment); });
 }
 
-Refusal unsettled() {
+Refusal notConverged() {
     return {"The relaxation does not end: a load or a stiffness is too large. Use other units."};
 }
 
@@ -110,12 +110,12 @@ Outcome<std::vector<double>> relax(const Beam& beam, const std::vector<double>& 
     BalRow[1] = isPin(beam.SupportType[1]) ? -FEM[1] : 0;
     BalRow[ends] = isPin(beam.SupportType[beam.Supports]) ? -FEM[ends] : 0;
     if (!isFinite(BalRow))
-        return unsettled();
+        return notConverged();
     give("Bal..", BalRow);
     add(BalRow, Final);
     for (int cycle = 0; cycle == 0 || !negligible(BalRow, ends); ++cycle) {
-        if (cycle == mostCycles)
-            return unsettled();
+        if (cycle == maxCycles)
+            return notConverged();
         carryOver(BalRow, n, NextRow);
         give("C.Ovr", NextRow);
         add(NextRow, Final);
@@ -123,12 +123,12 @@ Outcome<std::vector<double>> relax(const Beam& beam, const std::vector<double>& 
         BalRow[1] = -NextRow[1] * factors.DFLeft[1];
         BalRow[ends] = -NextRow[ends] * factors.DFRight[n];
         if (!isFinite(BalRow))
-            return unsettled();
+            return notConverged();
         give("Bal..", BalRow);
         add(BalRow, Final);
     }
     if (!isFinite(Final))
-        return unsettled();
+        return notConverged();
     settled();
     give("Final", Final);
     return Final;

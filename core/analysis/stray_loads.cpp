@@ -14,7 +14,7 @@ std::string plain(double value) {
 }
 
 /// What is wrong with a stretch from a to `end` on a member of the length L, if anything is.
-std::string outside(double a, double end, const std::string& endName, double L) {
+std::string rangeProblem(double a, double end, const std::string& endName, double L) {
     if (a < 0)
         return "a is " + plain(a) + ", before the member's start";
     if (end > L * (1 + roundingOfLength))
@@ -22,14 +22,14 @@ std::string outside(double a, double end, const std::string& endName, double L) 
     return {};
 }
 
-std::string wrongWith(const PointLoad& load, double L) {
-    return outside(load.a, load.a, "a", L);
+std::string problemOf(const PointLoad& load, double L) {
+    return rangeProblem(load.a, load.a, "a", L);
 }
 
-std::string wrongWith(const UdlLoad& load, double L) {
+std::string problemOf(const UdlLoad& load, double L) {
     if (load.b < 0)
         return "its width b is negative, " + plain(load.b);
-    return outside(load.a, load.a + load.b, "a + b", L);
+    return rangeProblem(load.a, load.a + load.b, "a + b", L);
 }
 
 template <class Load>
@@ -38,9 +38,9 @@ void appendStray(std::vector<StrayLoad>& stray, const std::vector<typename Load:
     for (std::size_t k = 0; k < rows.size(); ++k) {
         const Load load(rows[k]);
         const auto member = load.isZero() ? 0 : wholeNumberUpTo(lengths.size(), rows[k].member);
-        if (member == 0 || load.unfit())
+        if (member == 0 || load.objection())
             continue;
-        auto what = wrongWith(load, lengths[member - 1]);
+        auto what = problemOf(load, lengths[member - 1]);
         if (!what.empty())
             stray.push_back({Load::name, k + 1, member, std::move(what)});
     }
@@ -51,7 +51,7 @@ void appendStray(std::vector<StrayLoad>& stray, const Beam& beam, const MemberLo
     for (std::size_t member = 1; member <= beam.members(); ++member)
         for (auto k = loads.first[member]; k < loads.first[member + 1]; ++k) {
             const auto& load = loads.loads[k];
-            auto what = load.isZero() ? std::string() : wrongWith(load, beam.Length[member]);
+            auto what = load.isZero() ? std::string() : problemOf(load, beam.Length[member]);
             if (!what.empty())
                 stray.push_back({Load::name, k + 1, member, std::move(what)});
         }

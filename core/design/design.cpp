@@ -123,8 +123,8 @@ BeamDesign designBeam(const DesignData& data, const MiscProperties& misc) {
     return design;
 }
 
-Objection unfitForDesign(double Divisions, const MiscProperties& misc) {
-    if (const auto objection = unfitDivisions(Divisions))
+Objection checkDesignSettings(double Divisions, const MiscProperties& misc) {
+    if (auto objection = checkDivisions(Divisions))
         return objection;
     if (!areFinite({misc.cover, misc.links, misc.hagg}))
         return Refusal{
@@ -154,7 +154,7 @@ std::string_view remarkOnDesign(const std::filesystem::path& folder, double Divi
 
 Outcome<BeamDesign> designFolder(const std::filesystem::path& folder, double Divisions,
                                  const MiscProperties& misc) {
-    if (const auto objection = unfitForDesign(Divisions, misc))
+    if (const auto objection = checkDesignSettings(Divisions, misc))
         return *objection;
     const auto data = readDesignData(folder, Divisions);
     if (!data)

@@ -42,7 +42,7 @@ struct BeamDesign {
 [[nodiscard]] BeamDesign designBeam(const DesignData& data, const MiscProperties& misc);
 
 /// Refuses Divisions that an analysis refuses, and properties that are not finite numbers.
-[[nodiscard]] Objection unfitForDesign(double Divisions, const MiscProperties& misc);
+[[nodiscard]] Objection checkDesignSettings(double Divisions, const MiscProperties& misc);
 
 /// Replaces "DResult.txt" in a working folder, and records what the design was made from.
 [[nodiscard]] Status writeDesign(const std::filesystem::path& folder, const BeamDesign& design,

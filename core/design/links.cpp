@@ -14,7 +14,7 @@ namespace {
 constexpr double pi = 3.1415936512;
 constexpr std::array<double, 4> sizes{6, 8, 10, 12};
 constexpr double closestSpacing = 100;
-constexpr int mostSets = 20;
+constexpr int maxSets = 20;
 
 struct Links {
     double sets = 0, size = 0, spacing = 0;
@@ -36,7 +36,7 @@ std::optional<double> widestSpacing(double sets, double size, double AsvOsvreq, 
 std::optional<Links> firstLinks(double widest, double AsvOsvreq) {
     if (!(widest >= closestSpacing))
         return std::nullopt;
-    for (int sets = 1; sets <= mostSets; ++sets)
+    for (int sets = 1; sets <= maxSets; ++sets)
         for (const double size : sizes)
             if (const auto spacing = widestSpacing(sets, size, AsvOsvreq, widest))
                 return Links{static_cast<double>(sets), size, *spacing};

@@ -13,7 +13,7 @@ inline constexpr std::string_view manualCalculation = "Please Provide Manual Cal
 inline constexpr std::string_view noData = "No Data";
 
 /// Whether a note holds one of these words.
-[[nodiscard]] inline bool holds(std::string_view DefNote, std::string_view words) {
+[[nodiscard]] inline bool contains(std::string_view DefNote, std::string_view words) {
     return DefNote.find(words) != DefNote.npos;
 }
 

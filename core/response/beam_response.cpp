@@ -50,7 +50,7 @@ std::vector<JointResponse> jointResponses(const LoadedBeam& loaded) {
     return joints;
 }
 
-Objection unfit(const MemberResponse& curves, std::size_t member) {
+Objection checkSettings(const MemberResponse& curves, std::size_t member) {
     if (curves.isFinite())
         return std::nullopt;
     return Refusal{"Member " + std::to_string(member) +
@@ -58,12 +58,13 @@ Objection unfit(const MemberResponse& curves, std::size_t member) {
                    "units."};
 }
 
-Objection unfitForResponse(const LoadedBeam& loaded) {
+Objection checkResponseSettings(const LoadedBeam& loaded) {
     if (const auto objection = objectionTo(strayLoads(loaded)))
         return objection;
-    for (std::size_t member = 1; member <= loaded.beam.members(); ++member)
-        if (!isFarFromOverflow(loaded, member))
-            if (auto objection = unfit(MemberResponse(loaded, member), member))
+    const auto n = loaded.beam.members();
+    for (std::size_t member = 1; member <= n; ++member)
+        if (member == 1 || member == n || !isFarFromOverflow(loaded, member))
+            if (auto objection = checkSettings(MemberResponse(loaded, member), member))
                 return objection;
     return std::nullopt;
 }
@@ -75,7 +76,7 @@ Outcome<BeamResponse> responseOf(const LoadedBeam& loaded) {
     response.members.reserve(loaded.beam.members());
     for (std::size_t member = 1; member <= loaded.beam.members(); ++member) {
         response.members.emplace_back(loaded, member);
-        if (const auto objection = unfit(response.members.back(), member))
+        if (const auto objection = checkSettings(response.members.back(), member))
             return *objection;
     }
     response.joints = jointResponses(loaded);

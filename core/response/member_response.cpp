@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "core/response/load_profile.h"
 #include "core/response/two_doubles.h"
@@ -172,17 +173,23 @@ bool MemberResponse::isFinite() const {
 }
 
 bool isFarFromOverflow(const LoadedBeam& loaded, std::size_t member) {
-    constexpr double loadsAndFactors = 1e15;
-    const auto& beam = loaded.beam;
-    const auto size = sizesOf(memberEnds(loaded, member), beam.Length[member],
-                              beam.MemberE[member] * beam.MemberI[member]);
-    const auto isFar = [](double value) { return std::isfinite(loadsAndFactors * value); };
-    const auto udls = loaded.udls.on(member);
-    return isFar(size.moment) && isFar(size.shear) && isFar(size.rotation) &&
-           isFar(size.deflection) &&
-           std::all_of(udls.begin(), udls.end(), [&](const UdlLoad& load) {
-               return isFar((std::fabs(load.w1) + std::fabs(load.w2)) / load.b);
-           });
+    const double L = loaded.beam.Length[member];
+    const double EI = loaded.beam.MemberE[member] * loaded.beam.MemberI[member];
+    double force = 0, steepest = 0;
+    for (const auto& load : loaded.points.on(member))
+        force += std::fabs(load.P);
+    for (const auto& load : loaded.udls.on(member)) {
+        const double intensity = std::fabs(load.w1) + std::fabs(load.w2);
+        force += intensity * load.b;
+        steepest = std::max(steepest, intensity / load.b);
+    }
+    const double moment =
+        std::fabs(loaded.Final[2 * member - 1]) + std::fabs(loaded.Final[2 * member]) + force * L;
+    const auto isFar = [](double value) {
+        return value < 1e-9 * std::numeric_limits<double>::max();
+    };
+    return isFar(steepest) && isFar(moment) && isFar(moment / L) && isFar(moment / EI * L) &&
+           isFar(moment / EI * L * L);
 }
 
 double valueOf(const SectionResponse& section, Quantity quantity) {

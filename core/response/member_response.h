@@ -80,8 +80,8 @@ class MemberResponse {
     SectionResponse dust_;
 };
 
-/// Whether the curves of a member cannot come near the range of a double: cheaper than to calculate
-/// them. Otherwise isFinite() decides.
+/// Whether the curves of a member between two supports cannot come near the range of a double. This
+/// is cheaper than to calculate them.
 [[nodiscard]] bool isFarFromOverflow(const LoadedBeam& loaded, std::size_t member);
 
 /// Of the four quantities the one asked for.

@@ -8,7 +8,6 @@ namespace trabeon {
 namespace {
 
 using Coefficients = std::span<const double>;
-using Level = std::array<double, 6>;
 
 constexpr double epsilon = std::numeric_limits<double>::epsilon();
 
@@ -25,14 +24,20 @@ struct ValueAndSlope {
 };
 
 /// By de Casteljau's algorithm, whose last but one level gives the slope.
-ValueAndSlope at(Coefficients c, double s) {
-    Level level{};
-    std::copy(c.begin(), c.end(), level.begin());
-    for (auto left = c.size() - 1; left > 1; --left)
+template <std::size_t degree>
+ValueAndSlope at(const double* c, double s) {
+    std::array<double, degree + 1> level{};
+    std::copy(c, c + degree + 1, level.begin());
+    for (std::size_t left = degree; left > 1; --left)
         for (std::size_t k = 0; k < left; ++k)
             level[k] = (1 - s) * level[k] + s * level[k + 1];
-    return {(1 - s) * level[0] + s * level[1],
-            static_cast<double>(c.size() - 1) * (level[1] - level[0])};
+    return {(1 - s) * level[0] + s * level[1], degree * (level[1] - level[0])};
+}
+
+/// For the degrees that have no closed form here.
+ValueAndSlope at(Coefficients c, double s) {
+    const auto degree = c.size() - 1;
+    return degree == 3 ? at<3>(c.data(), s) : degree == 4 ? at<4>(c.data(), s) : at<5>(c.data(), s);
 }
 
 /// By Descartes' rule there are at most as many roots inside.
@@ -136,7 +141,7 @@ std::vector<PlaceInPiece> rootsInside(Coefficients c) {
     if (c.size() == 3)
         return quadraticRoots(c);
     if (changes > 1) {
-        Level slopes{};
+        std::array<double, 5> slopes{};
         for (std::size_t k = 0; k + 1 < c.size(); ++k)
             slopes[k] = c[k + 1] - c[k];
         return rootsBetween(c, rootsInside({slopes.data(), c.size() - 1}));

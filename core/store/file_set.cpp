@@ -31,7 +31,7 @@ void takePlace(const fs::path& target, std::string_view temporary) {
         std::rename(fresh.c_str(), file.c_str());
 }
 
-void removeLeftBehind(const fs::path& folder) {
+void removeLeftovers(const fs::path& folder) {
     std::vector<fs::path> left;
     std::error_code error;
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
@@ -56,13 +56,13 @@ ReplacingFile& FileSet::add(std::string_view name) {
 Status FileSet::commit() {
     std::string names;
     for (auto& file : files_) {
-        if (const auto status = file.finish(); status.failed())
+        if (auto status = file.finish(); status.failed())
             return status;
         (names += file.temporary().path().filename().string()) += '\n';
     }
     const SignalsWait wait;
     const auto list = folder_ / working_file::unfinishedSet;
-    if (const auto status = replaceFile(list, names); status.failed())
+    if (auto status = replaceFile(list, names); status.failed())
         return status;
     for (auto& file : files_)
         file.temporary().keepOnSignal();
@@ -84,7 +84,7 @@ void finishSet(const fs::path& folder) {
     }
     if (!names.empty())
         MurderFile(list);
-    removeLeftBehind(folder);
+    removeLeftovers(folder);
 }
 
 }  // namespace trabeon

@@ -200,7 +200,7 @@ void recordRowsAsPacked(const std::filesystem::path& folder) {
     static_cast<void>(replaceFile(folder / working_file::record, textOf(record)));
 }
 
-Objection holdsOtherRows(const std::filesystem::path& folder) {
+Objection checkRowsAreSaved(const std::filesystem::path& folder) {
     constexpr std::array names{working_file::joint,          working_file::member,
                                working_file::point,          working_file::udl,
                                working_file::beamDimensions, working_file::record};

@@ -67,6 +67,6 @@ void recordRowsAsPacked(const std::filesystem::path& folder);
 
 /// Refuses a folder that has files which did not come from a project file, or which were changed
 /// since: unpacking a project would destroy them. Names the first of these files.
-[[nodiscard]] Objection holdsOtherRows(const std::filesystem::path& folder);
+[[nodiscard]] Objection checkRowsAreSaved(const std::filesystem::path& folder);
 
 }  // namespace trabeon

@@ -9,7 +9,7 @@ Status CreateNFile(const std::filesystem::path& folder) {
     auto files = FileSet::begin(folder);
     for (const auto name : projectFiles)
         files.add(name);
-    if (const auto status = files.commit(); status.failed())
+    if (auto status = files.commit(); status.failed())
         return status;
     MurderFile(folder / working_file::title);
     MurderFile(folder / working_file::record);

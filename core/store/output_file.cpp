@@ -47,7 +47,7 @@ Refusal taken(const fs::path& file, std::string_view kind) {
 
 }  // namespace
 
-Objection unfitDocumentFile(const fs::path& file, const fs::path& project) {
+Objection checkDocumentFile(const fs::path& file, const fs::path& project) {
     std::error_code missing;
     if (fs::equivalent(file, project, missing))
         return Refusal{
@@ -59,7 +59,7 @@ Objection unfitDocumentFile(const fs::path& file, const fs::path& project) {
     return taken(file, "document (.docx)");
 }
 
-Objection unfitProjectFile(const fs::path& file) {
+Objection checkProjectFile(const fs::path& file) {
     const bool isProject = isFree(file) || begins(file, projectStart) ||
                            begins(file, std::string(byteOrderMark) + std::string(projectStart)) ||
                            readProject(file);

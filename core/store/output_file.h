@@ -11,12 +11,12 @@ namespace trabeon {
 
 /// Whether the document of a project may be written to a file. Refuses the project itself, also by
 /// another path or a link. Refuses an existing file that is neither empty nor a document (.docx).
-[[nodiscard]] Objection unfitDocumentFile(const std::filesystem::path& file,
+[[nodiscard]] Objection checkDocumentFile(const std::filesystem::path& file,
                                           const std::filesystem::path& project);
 
 /// Whether a project may be written to a file. Refuses an existing file that is neither empty nor a
 /// project. A damaged project that begins with "WARNNING!" counts as a project.
-[[nodiscard]] Objection unfitProjectFile(const std::filesystem::path& file);
+[[nodiscard]] Objection checkProjectFile(const std::filesystem::path& file);
 
 /// Whether a table of results may be written to a file. Refuses a file with the name of a working
 /// file, and an existing file that is neither empty nor a table. A table begins with one of

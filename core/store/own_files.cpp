@@ -43,7 +43,7 @@ bool isOwnFile(const fs::path& file, const fs::path& folder) {
     });
 }
 
-Objection unfitForProject(const fs::path& file, const fs::path& folder) {
+Objection checkProjectName(const fs::path& file, const fs::path& folder) {
     if (!isOwnFile(file, folder))
         return std::nullopt;
     return Refusal{"\"" + file.string() + "\" is a working file of \"" + folder.string() +

@@ -15,7 +15,7 @@ namespace trabeon {
 
 /// Refuses such a file as a project file: the rows would overwrite the project, or the project the
 /// rows.
-[[nodiscard]] Objection unfitForProject(const std::filesystem::path& file,
-                                        const std::filesystem::path& folder);
+[[nodiscard]] Objection checkProjectName(const std::filesystem::path& file,
+                                         const std::filesystem::path& folder);
 
 }  // namespace trabeon

@@ -177,7 +177,7 @@ constexpr std::array<std::pair<std::string_view, std::string Project::*>, 6> pac
     {working_file::beamDimensions, &Project::beamDimensions},
 }};
 
-Objection unfitTitle(std::string_view text) {
+Objection checkTitle(std::string_view text) {
     const auto quoted = "The title text \"" + excerpt(text) + "\" ";
     if (text.find_first_of("\"\r\n") != text.npos)
         return Refusal{quoted +
@@ -251,7 +251,7 @@ Status writeWorkingFiles(const Project& project, const std::filesystem::path& fo
 
 Outcome<OpenedProject> unpackProject(const std::filesystem::path& file,
                                      const std::filesystem::path& folder) {
-    if (const auto objection = unfitForProject(file, folder))
+    if (const auto objection = checkProjectName(file, folder))
         return *objection;
     const auto text = projectText(file);
     if (!text)
@@ -298,10 +298,10 @@ void keepTitle(const std::filesystem::path& folder, const ProjectTitle& title) {
 
 Outcome<std::uint64_t> packProject(const std::filesystem::path& folder, const ProjectTitle& title,
                                    const std::filesystem::path& file) {
-    if (const auto objection = unfitForProject(file, folder))
+    if (const auto objection = checkProjectName(file, folder))
         return *objection;
     for (const auto& text : {title.project, title.designer, title.beamName})
-        if (const auto objection = unfitTitle(text))
+        if (const auto objection = checkTitle(text))
             return *objection;
     auto project = projectIn(folder);
     if (!project)

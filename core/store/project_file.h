@@ -33,7 +33,7 @@ struct Project {
 
 /// The same for rows that may be damaged. A line that is not a complete row is written unchanged,
 /// so that nothing is lost. Opening the project then names this line.
-[[nodiscard]] std::string rescuedText(const Project& project);
+[[nodiscard]] std::string damagedRowsText(const Project& project);
 
 /// Splits the text of a project file into its parts. Refuses a text that lacks a heading, ends
 /// inside a row or has a title that is too long. The refusal names the line, which counts from 1,

@@ -82,7 +82,7 @@ std::string packedText(const Project& project) {
                    packedRows<PointRow>(project.points), packedRows<UdlRow>(project.udls)});
 }
 
-std::string rescuedText(const Project& project) {
+std::string damagedRowsText(const Project& project) {
     return packed(project,
                   {packedLines<JointRow>(project.joints), packedLines<MemberRow>(project.members),
                    packedLines<PointRow>(project.points), packedLines<UdlRow>(project.udls)});

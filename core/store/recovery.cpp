@@ -16,9 +16,9 @@ namespace fs = std::filesystem;
 
 /// Whether files are there that Exit deletes. The beam dimensions are not among them.
 bool endedWithoutExit(const fs::path& folder) {
-    constexpr std::array exitTakes{working_file::joint, working_file::member, working_file::point,
-                                   working_file::udl, working_file::balanceTable};
-    return std::any_of(exitTakes.begin(), exitTakes.end(), [&](std::string_view name) {
+    constexpr std::array filesOfARun{working_file::joint, working_file::member, working_file::point,
+                                     working_file::udl, working_file::balanceTable};
+    return std::any_of(filesOfARun.begin(), filesOfARun.end(), [&](std::string_view name) {
         std::error_code missing;
         return fs::exists(folder / name, missing);
     });
@@ -53,7 +53,7 @@ bool wasRecoveredBefore(std::string_view text, const fs::path& folder) {
 }
 
 /// Renames what an earlier start has recovered to the first free name.
-Status setAside(const fs::path& recovered) {
+Status renameOlder(const fs::path& recovered) {
     std::error_code error;
     if (!fs::exists(fs::symlink_status(recovered, error)))
         return {};
@@ -76,11 +76,11 @@ Outcome<bool> recoverRows(const fs::path& folder) {
     const auto project = projectIn(folder);
     if (!project)
         return project.refusal();
-    const auto text = rescuedText(*project);
+    const auto text = damagedRowsText(*project);
     const auto target = folder / recoveredProject;
     if (isWithin(text, packedText({})) || wasRecoveredBefore(text, folder))
         return false;
-    if (const auto status = setAside(target); status.failed())
+    if (const auto status = renameOlder(target); status.failed())
         return status.refusal();
     if (const auto status = replaceFile(target, text, Survives::powerCut); status.failed())
         return status.refusal();

@@ -38,7 +38,7 @@ bool isWriteProtected(const fs::path& file, const struct stat& status) {
 }
 
 /// Why a file must not be replaced; a file that is not there may be written.
-Objection unfitTarget(const fs::path& file) {
+Objection checkTarget(const fs::path& file) {
     struct stat status {};
     if (::stat(file.c_str(), &status) != 0)
         return std::nullopt;
@@ -64,7 +64,7 @@ ReplacingFile::ReplacingFile(const fs::path& target, Survives survives)
         return;
     }
     target_ = *file;
-    status_ = unfitTarget(target_);
+    status_ = checkTarget(target_);
     if (status_.done())
         note(fresh_.create(target_));
 }
@@ -95,7 +95,7 @@ Status ReplacingFile::finish() {
         return {};
     flush();
     if (status_.done())
-        status_ = unfitTarget(target_);  // a rename would fail, and too late for a set of files
+        status_ = checkTarget(target_);  // a rename would fail, and too late for a set of files
     if (status_.done() && survives_ == Survives::powerCut)
         note(fresh_.flushToDisk());
     note(fresh_.close());
@@ -104,7 +104,7 @@ Status ReplacingFile::finish() {
 }
 
 Status ReplacingFile::commit() {
-    if (const auto status = finish(); status.failed())
+    if (auto status = finish(); status.failed())
         return status;
     note(fresh_.takePlace());
     if (status_.failed() || survives_ == Survives::processEnd)

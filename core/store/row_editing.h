@@ -30,8 +30,7 @@ template <EditedRow Row>
 [[nodiscard]] Status rewriteRows(const std::filesystem::path& folder,
                                  const std::vector<Row>& rows) {
     const auto scratch = folder / Row::scratch;
-    if (const auto status = replaceFile(scratch, textOf(rows, Description::quoted));
-        status.failed())
+    if (auto status = replaceFile(scratch, textOf(rows, Description::quoted)); status.failed())
         return status;
     return DuplicateFile(scratch, folder / Row::file);
 }

@@ -6,9 +6,9 @@
 namespace trabeon {
 
 std::size_t stationRowsOf(double Divisions) {
-    constexpr double mostDivisions = 10'000;
+    constexpr double maxDivisions = 10'000;
     return static_cast<std::size_t>(
-        std::max(0.0, std::floor(std::min(Divisions, mostDivisions)) + 2));
+        std::max(0.0, std::floor(std::min(Divisions, maxDivisions)) + 2));
 }
 
 bool StationReader::next() {

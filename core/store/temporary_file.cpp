@@ -60,7 +60,7 @@ std::string randomDigits() {
 
 /// The path of the temporary file. A name that is too long with its ending loses its last
 /// characters.
-fs::path besides(const fs::path& target) {
+fs::path temporaryPath(const fs::path& target) {
     auto name = target.filename().string();
     name.resize(std::min(name.size(), longestName - 1 - digits - ending.size()));
     return target.parent_path() / (name + '.' + randomDigits() + std::string(ending));
@@ -126,7 +126,7 @@ int TemporaryFile::create(const fs::path& target) {
 int TemporaryFile::open(const fs::path& target) {
     struct stat old {};
     const bool replaces = ::lstat(target.c_str(), &old) == 0;
-    path_ = besides(target);
+    path_ = temporaryPath(target);
     atSignal_ = RemovedAtSignal(path_);
     descriptor_ = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
                          replaces ? 0600 : 0666);

@@ -15,7 +15,7 @@
 namespace trabeon {
 namespace {
 
-constexpr std::int64_t mostBytes = std::int64_t{2} << 30;
+constexpr std::int64_t maxBytes = std::int64_t{2} << 30;
 
 /// A file that is open for reading, until it goes out of scope.
 class OpenFile {
@@ -60,7 +60,7 @@ Outcome<std::string> contentOf(const OpenFile& opened, const std::filesystem::pa
     std::string text;
     for (auto room = size == 0 ? 4096 : static_cast<std::size_t>(size) + 1;;) {
         const auto filled = text.size();
-        if (filled > mostBytes)
+        if (filled > maxBytes)
             return unreadable(file, "it is larger than 2 GiB");
         text.resize(filled + room);
         const auto got = opened.read(text.data() + filled, room);
@@ -94,7 +94,7 @@ Outcome<std::string> readFile(const std::filesystem::path& file) {
         return unreadable(file, "it is a folder");
     if (!S_ISREG(status.st_mode))
         return unreadable(file, "it is a device or a pipe");
-    if (status.st_size > mostBytes)
+    if (status.st_size > maxBytes)
         return unreadable(file, "it is larger than 2 GiB");
     return contentOf(opened, file, status.st_size);
 }

@@ -13,11 +13,11 @@ namespace {
 constexpr Colour darkRed = 0xA61B1B;
 
 /// True if the section failed a check, or if the design has no result for it.
-bool needsTheUser(const DesignRow& row) {
+bool needsAttention(const DesignRow& row) {
     constexpr std::array notes{note::shearFailed, note::deflectionFailed, note::noData,
                                note::manualCalculation};
     return std::any_of(notes.begin(), notes.end(),
-                       [&](auto words) { return note::holds(row.DefNote, words); });
+                       [&](auto words) { return note::contains(row.DefNote, words); });
 }
 
 }  // namespace
@@ -45,7 +45,7 @@ void frmBeamDesign::AddtoListbox() {
         auto item = ListView1.ListItems.Add(generatedText(leadingNumber(row.Member)));
         for (std::size_t n = 1; n < DesignRow::fields.size(); ++n)
             item.SetSubItems(static_cast<int>(n), row.*DesignRow::fields[n]);
-        if (needsTheUser(row)) {
+        if (needsAttention(row)) {
             item.SetForeColor(darkRed);
             item.SetWarningSign(true);
         }

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int margin = 120;
 constexpr int listTop = 2400;
-constexpr double mostLinkStrength = 460;
+constexpr double maxLinkStrength = 460;
 
 std::size_t sectionsOf(double divisions) {
     return static_cast<std::size_t>(divisions) + 2;
@@ -104,7 +104,7 @@ void frmBeamDimensions::Form_Load() {
     sortList();
     fillMembers(context_, cboMember);
     const double Divisions = divisions();
-    if (unfitDivisions(Divisions))
+    if (checkDivisions(Divisions))
         return;
     for (std::size_t section = 1; section <= sectionsOf(Divisions); ++section)
         cboSection.AddItem(std::to_string(section));
@@ -129,7 +129,7 @@ void frmBeamDimensions::rowShown(ListItem item, const BeamDimensionRow& row) {
     item.SetToolTip("Not used: the design takes the first row of this member and section.");
 }
 
-void frmBeamDimensions::bringInSight(const BeamDimensionRow& row) {
+void frmBeamDimensions::scrollTo(const BeamDimensionRow& row) {
     for (int i = ListView1.ListItems.Count(); i >= 1; --i) {
         const auto item = ListView1.ListItems(i);
         if (item.Text() == "Member " + row.Member && item.SubItems(1) == row.Section &&
@@ -148,7 +148,7 @@ void frmBeamDimensions::sortList() {
 
 void frmBeamDimensions::cmdAdd_Click() {
     const double Divisions = divisions();
-    if (const auto objection = unfitDivisions(Divisions)) {
+    if (const auto objection = checkDivisions(Divisions)) {
         warn(objection->sentence);
         return;
     }
@@ -194,7 +194,7 @@ void frmBeamDimensions::Adding(const SectionRange& SelectedSection, double MemLe
     sortList();
     ListView1.SetSelectedItem(ListView1.SelectedItem());  // scrolls to it in the sorted list
     if (order)
-        bringInSight(lastAdded);
+        scrollTo(lastAdded);
 }
 
 void frmBeamDimensions::cmdRemove_Click() {
@@ -239,7 +239,7 @@ void frmBeamDimensions::optVary_Click() {
 }
 
 void frmBeamDimensions::txtfyv_Change() {
-    if (numberIn(txtfyv) > mostLinkStrength)
+    if (numberIn(txtfyv) > maxLinkStrength)
         txtfyv.SetText("460");
 }
 

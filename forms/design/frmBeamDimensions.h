@@ -72,7 +72,7 @@ class frmBeamDimensions : public Form {
 
     void Adding(const SectionRange& SelectedSection, double MemLen);
     void rowShown(ListItem item, const BeamDimensionRow& row);
-    void bringInSight(const BeamDimensionRow& row);
+    void scrollTo(const BeamDimensionRow& row);
     void sortList();
     void placeControls();
     void wireBoxes();

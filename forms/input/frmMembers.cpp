@@ -59,7 +59,7 @@ void frmMembers::wireNumberBoxes() {
             box->SelectAll();
             cmdRemove.SetEnabled(false);
         };
-        takeNumbers(context_, *box, {name, plainNumber, next});
+        acceptNumbers(context_, *box, {name, plainNumber, next});
     }
 }
 

@@ -46,8 +46,8 @@ void frmPoint::wireBoxes() {
     for (TextBox* box : {&txtPtA, &txtPtLoad})
         box->GotFocus = [box] { box->SelectAll(); };
     txtPtD.GotFocus = [this] { description_GotFocus(); };
-    takeNumbers(context_, txtPtA, {"a", plainNumber, &txtPtLoad});
-    takeNumbers(context_, txtPtLoad, {"P", signedNumber, &txtPtD});
+    acceptNumbers(context_, txtPtA, {"a", plainNumber, &txtPtLoad});
+    acceptNumbers(context_, txtPtLoad, {"P", signedNumber, &txtPtD});
     txtPtD.KeyPress = [this](int& keyAscii) { txtPtD_KeyPress(keyAscii); };
 }
 

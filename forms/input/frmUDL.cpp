@@ -67,8 +67,8 @@ void frmUDL::wireBoxes() {
     txtUDLD.GotFocus = [this] { txtUDLD_GotFocus(); };
     txtUdlA.KeyPress = [this](int& keyAscii) { txtUdlA_KeyPress(keyAscii); };
     txtUDLB.KeyPress = [this](int& keyAscii) { txtUDLB_KeyPress(keyAscii); };
-    takeNumbers(context_, txtUDLw1, {"w1", signedNumber, &txtUDLw2});
-    takeNumbers(context_, txtUDLw2, {"w2", signedNumber, &txtUDLD});
+    acceptNumbers(context_, txtUDLw1, {"w1", signedNumber, &txtUDLw2});
+    acceptNumbers(context_, txtUDLw2, {"w2", signedNumber, &txtUDLD});
     txtUDLD.KeyPress = [this](int& keyAscii) { txtUDLD_KeyPress(keyAscii); };
 }
 
@@ -91,7 +91,7 @@ void frmUDL::txtUdlA_KeyPress(int& keyAscii) {
         keyAscii = 0;
         return;
     }
-    keepKeysAndSay(context_, keyAscii, {"a", plainNumber, &txtUDLB});
+    filterKeysAndSay(context_, keyAscii, {"a", plainNumber, &txtUDLB});
 }
 
 void frmUDL::txtUDLB_KeyPress(int& keyAscii) {
@@ -101,7 +101,7 @@ void frmUDL::txtUDLB_KeyPress(int& keyAscii) {
         keyAscii = 0;
         return;
     }
-    keepKeysAndSay(context_, keyAscii, {"b", plainNumber, &txtUDLw1});
+    filterKeysAndSay(context_, keyAscii, {"b", plainNumber, &txtUDLw1});
 }
 
 void frmUDL::txtUDLD_KeyPress(int keyAscii) {

@@ -33,7 +33,7 @@ void frmTitle::ClosedByUser() {
     const auto title = Title();
     if (title == ProjectTitle())
         return;
-    sayEmptied(context_, "The title", [&context = context_, title] {
+    offerRestore(context_, "The title", [&context = context_, title] {
         context.forms.Get<frmTitle>().SetTitle(title);
         say(context, "The title is back");
     });

@@ -30,7 +30,7 @@ frmTrabeon::frmTrabeon(const std::filesystem::path& folder)
     context_.CommonDialog1.InitDir = (folder / "examples").string();
     registerForms(context_);
     addMenus();
-    window_.AddKey("Ctrl+Z", [this] { bringBackClosed(context_); });
+    window_.AddKey("Ctrl+Z", [this] { restoreClosedWindow(context_); });
     window_.QueryUnload = [this](bool& cancel) { QueryUnload(cancel); };
     window_.Unload = [this](bool& cancel) { Unload(cancel); };
 }
@@ -38,7 +38,7 @@ frmTrabeon::frmTrabeon(const std::filesystem::path& folder)
 bool frmTrabeon::Start() {
     window_.Show();
     openPage("Contents and Index.htm");
-    if (!takeFolder())
+    if (!lockFolder())
         return false;
     CenterForm(window_);
     if (!folderIsWritable()) {
@@ -65,7 +65,7 @@ bool frmTrabeon::Start() {
     return true;
 }
 
-bool frmTrabeon::takeFolder() {
+bool frmTrabeon::lockFolder() {
     auto taken = lock_.take(context_.folder, std::chrono::seconds(0));
     if (taken.failed() && lock_.holder().runsThisProgram) {
         warn("Trabeon is already running.");
@@ -103,7 +103,7 @@ void frmTrabeon::SaveChanges() {
 }
 
 bool frmTrabeon::FileSave() {
-    switch (answerAboutDisk()) {
+    switch (askIfChangedOnDisk()) {
         case Answer::Yes:
             return writeProject();
         case Answer::Other:
@@ -115,7 +115,7 @@ bool frmTrabeon::FileSave() {
 }
 
 /// Answers Yes without a question if the file has not changed since this run read or wrote it.
-Answer frmTrabeon::answerAboutDisk() const {
+Answer frmTrabeon::askIfChangedOnDisk() const {
     const auto& file = context_.CommonDialog1.FileName;
     const auto state = file == projectFile_ ? comparedWithDisk(file, projectOnDisk_) : OnDisk::same;
     if (state == OnDisk::same)

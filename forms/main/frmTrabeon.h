@@ -57,9 +57,9 @@ class frmTrabeon {
     void Unload(bool& cancel);
     void openPage(const char* name);
     CommonDialog& projectDialog(const char* title, int flags);
-    [[nodiscard]] bool takeFolder();
+    [[nodiscard]] bool lockFolder();
     [[nodiscard]] bool writeProject();
-    [[nodiscard]] Answer answerAboutDisk() const;
+    [[nodiscard]] Answer askIfChangedOnDisk() const;
     [[nodiscard]] std::optional<ProjectTitle> loadedTitle() const;
     void keepOpen(const std::optional<ProjectTitle>& title);
     void startUntitled();

@@ -35,7 +35,7 @@ class PacedProgress {
     std::chrono::steady_clock::time_point last_;
 };
 
-std::string othersOf(std::size_t loads) {
+std::string andMore(std::size_t loads) {
     return loads == 1 ? "" : " (and " + std::to_string(loads - 1) + " more)";
 }
 
@@ -92,9 +92,8 @@ void frmAnalysis::cmdAnalyse_Click() {
     context_.refillLoads(*analysis);
     ShowTable();
     showSummary(context_);
-    say(context_, stray.empty()
-                      ? "Analysed"
-                      : "Analysed. " + sentenceOf(stray.front()) + othersOf(stray.size()));
+    say(context_, stray.empty() ? "Analysed"
+                                : "Analysed. " + sentenceOf(stray.front()) + andMore(stray.size()));
 }
 
 }  // namespace trabeon

@@ -12,7 +12,7 @@ frmMisc::frmMisc(Context& context) : Form("Miscellaneous Properties") {
           {&txtLinks, "The link size", &txthagg},
           {&txthagg, "The aggregate size", &chkrestrict}}) {
         box->GotFocus = [box = box] { box->SelectAll(); };
-        takeNumbers(context, *box, {name, plainNumber, next});
+        acceptNumbers(context, *box, {name, plainNumber, next});
     }
     remarkOnNumbers({&txtCover, &txtLinks, &txthagg});
     cmdOK.Click = [this] { cmdOK_Click(); };

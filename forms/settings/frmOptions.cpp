@@ -10,7 +10,7 @@
 namespace trabeon {
 namespace {
 
-constexpr int leastDivisions = 10;
+constexpr int minDivisions = 10;
 
 }  // namespace
 
@@ -63,7 +63,7 @@ void frmOptions::Form_Load() {
 }
 
 void frmOptions::txtDivision_KeyPress(int& keyAscii) {
-    keepKeysAndSay(context_, keyAscii, {"The number of sections", plainNumber});
+    filterKeysAndSay(context_, keyAscii, {"The number of sections", plainNumber});
 }
 
 void frmOptions::cmdChangeM_Click() {
@@ -84,8 +84,8 @@ void frmOptions::toggle(Label& option, PictureView& picture, const char* picture
 
 void frmOptions::cmdOptionsOK_Click() {
     const double divisions = std::floor(leadingNumber(txtDivision.Text()));
-    if (divisions < leastDivisions)
-        txtDivision.SetText(std::to_string(leastDivisions));
+    if (divisions < minDivisions)
+        txtDivision.SetText(std::to_string(minDivisions));
     else if (divisions != leadingNumber(txtDivision.Text()))
         txtDivision.SetText(bareNumber(divisions));
     Hide();

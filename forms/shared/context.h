@@ -34,7 +34,7 @@ class ChangedFlag {
 };
 
 /// A cached text. `files` is the fingerprint of the files that it depends on.
-struct KeptAnswer {
+struct CachedText {
     std::uint64_t files = 0;
     std::string text;
 };
@@ -48,7 +48,7 @@ struct Context {
     // The windows that closing has emptied, the latest last: what it held, and how to bring it
     // back. New, Open and Exit clear this list.
     std::vector<std::pair<std::string, std::function<void()>>> closedWindows{};
-    KeptAnswer stationsRemark{};
+    CachedText stationsRemark{};
     // Shows the load rows in normal form after an analysis.
     std::function<void(const Analysis&)> refillLoads{};
     // Calculates again what windows show of the rows. An editor calls it after it has written rows.

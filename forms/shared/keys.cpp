@@ -4,17 +4,17 @@
 
 namespace trabeon {
 
-void keepKeys(int& keyAscii, std::string_view passing) {
+void filterKeys(int& keyAscii, std::string_view accepted) {
     const bool isCharacter = keyAscii > 0 && keyAscii < 128;
-    const bool passes = isCharacter && passing.find(static_cast<char>(keyAscii)) != passing.npos;
+    const bool passes = isCharacter && accepted.find(static_cast<char>(keyAscii)) != accepted.npos;
     if (!passes && keyAscii != backspaceKey)
         keyAscii = 0;
 }
 
-void keepKeys(int& keyAscii, std::string_view passing, Control& next) {
+void filterKeys(int& keyAscii, std::string_view accepted, Control& next) {
     if (keyAscii == enterKey)
         next.SetFocus();
-    keepKeys(keyAscii, passing);
+    filterKeys(keyAscii, accepted);
 }
 
 }  // namespace trabeon

@@ -13,10 +13,10 @@ inline constexpr int enterKey = 13;
 inline constexpr std::string_view plainNumber = "0123456789.";
 inline constexpr std::string_view signedNumber = "0123456789.-";
 
-/// Sets `keyAscii` to 0 if the key is neither Backspace nor one of the characters in `passing`.
-void keepKeys(int& keyAscii, std::string_view passing);
+/// Sets `keyAscii` to 0 if the key is neither Backspace nor one of the characters in `accepted`.
+void filterKeys(int& keyAscii, std::string_view accepted);
 
 /// The same, but Enter first moves the focus to `next`. Enter is then dropped as well.
-void keepKeys(int& keyAscii, std::string_view passing, Control& next);
+void filterKeys(int& keyAscii, std::string_view accepted, Control& next);
 
 }  // namespace trabeon

@@ -13,9 +13,9 @@ std::string counted(std::size_t count, const char* noun) {
     return std::to_string(count) + ' ' + noun + (count == 1 ? "" : "s");
 }
 
-const char* acceptedBy(std::string_view passing) {
-    return passing == signedNumber ? " accepts digits, a point and a minus sign"
-                                   : " accepts digits and a point";
+const char* acceptedBy(std::string_view accepted) {
+    return accepted == signedNumber ? " accepts digits, a point and a minus sign"
+                                    : " accepts digits and a point";
 }
 
 }  // namespace
@@ -24,19 +24,19 @@ void say(const Context& context, const std::string& event) {
     context.forms.Window().SetEvent(event);
 }
 
-void sayEmptied(Context& context, const std::string& what, std::function<void()> bringBack) {
+void offerRestore(Context& context, const std::string& what, std::function<void()> restore) {
     auto& closed = context.closedWindows;
     std::erase_if(closed, [&](const auto& window) { return window.first == what; });
-    closed.emplace_back(what, std::move(bringBack));
+    closed.emplace_back(what, std::move(restore));
     say(context, what + " was emptied, because its window was closed. Ctrl+Z brings it back");
 }
 
-void bringBackClosed(Context& context) {
+void restoreClosedWindow(Context& context) {
     if (context.closedWindows.empty())
         return;
-    const auto bringBack = std::move(context.closedWindows.back().second);
+    const auto restore = std::move(context.closedWindows.back().second);
     context.closedWindows.pop_back();
-    bringBack();
+    restore();
 }
 
 void showSummary(const Context& context) {
@@ -48,18 +48,18 @@ void showSummary(const Context& context) {
     context.forms.Window().SetSummary(text);
 }
 
-void takeNumbers(const Context& context, TextBox& box, const NumberKeys& keys) {
-    box.KeyPress = [&context, keys](int& keyAscii) { keepKeysAndSay(context, keyAscii, keys); };
+void acceptNumbers(const Context& context, TextBox& box, const NumberKeys& keys) {
+    box.KeyPress = [&context, keys](int& keyAscii) { filterKeysAndSay(context, keyAscii, keys); };
 }
 
-void keepKeysAndSay(const Context& context, int& keyAscii, const NumberKeys& keys) {
+void filterKeysAndSay(const Context& context, int& keyAscii, const NumberKeys& keys) {
     const bool isEnter = keyAscii == enterKey;
     if (keys.next != nullptr)
-        keepKeys(keyAscii, keys.passing, *keys.next);
+        filterKeys(keyAscii, keys.accepted, *keys.next);
     else
-        keepKeys(keyAscii, keys.passing);
+        filterKeys(keyAscii, keys.accepted);
     if (keyAscii == 0 && !isEnter)
-        say(context, keys.name + std::string(acceptedBy(keys.passing)));
+        say(context, keys.name + std::string(acceptedBy(keys.accepted)));
 }
 
 }  // namespace trabeon

@@ -14,11 +14,11 @@ class TextBox;
 /// Shows an event until the next one.
 void say(const Context& context, const std::string& event);
 
-/// Says that closing a window has emptied it. Keeps `bringBack` for `bringBackClosed`.
-void sayEmptied(Context& context, const std::string& what, std::function<void()> bringBack);
+/// Says that closing a window has emptied it. Keeps `restore` for `restoreClosedWindow`.
+void offerRestore(Context& context, const std::string& what, std::function<void()> restore);
 
 /// Restores the content of the window that was closed last, if there is one.
-void bringBackClosed(Context& context);
+void restoreClosedWindow(Context& context);
 
 /// Shows the number of joints and members, the length of the beam, and "Changed" if `dataChanged`
 /// is
@@ -28,14 +28,14 @@ void showSummary(const Context& context);
 /// The keys that a number box accepts, and where Enter moves the focus.
 struct NumberKeys {
     const char* name;  // of the box, for the status line
-    std::string_view passing;
+    std::string_view accepted;
     Control* next = nullptr;
 };
 
 /// Lets the box accept only these keys. The status line names a key that it drops.
-void takeNumbers(const Context& context, TextBox& box, const NumberKeys& keys);
+void acceptNumbers(const Context& context, TextBox& box, const NumberKeys& keys);
 
 /// Drops a key that the box does not accept, and says so in the status line.
-void keepKeysAndSay(const Context& context, int& keyAscii, const NumberKeys& keys);
+void filterKeysAndSay(const Context& context, int& keyAscii, const NumberKeys& keys);
 
 }  // namespace trabeon

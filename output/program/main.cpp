@@ -60,14 +60,14 @@ void prepare(frmTrabeon& program, const ProjectTitle& title, const AnalysisSetti
 }
 
 Status makeReport(const ReportCommand& command, const std::filesystem::path& folder) {
-    if (const auto objection = unfitDocumentFile(command.out, command.file))
+    if (auto objection = checkDocumentFile(command.out, command.file))
         return objection;
     const auto opened = unpackProject(command.file, folder);
     if (!opened)
         return opened.refusal();
-    if (const auto status = analyseProject(folder, command.settings); status.failed())
+    if (auto status = analyseProject(folder, command.settings); status.failed())
         return status;
-    if (const auto status = designProject(folder, command.settings.Divisions); status.failed())
+    if (auto status = designProject(folder, command.settings.Divisions); status.failed())
         return status;
     frmTrabeon program(folder);
     prepare(program, opened->title, command.settings);
@@ -85,7 +85,7 @@ Status makeReport(const ReportCommand& command, const std::filesystem::path& fol
 }
 
 /// Shows errors of Qt only. Its warnings about a machine without a display do not help the user.
-void keepQuiet(QtMsgType type, const QMessageLogContext&, const QString& text) {
+void showErrorsOnly(QtMsgType type, const QMessageLogContext&, const QString& text) {
     if (type == QtCriticalMsg || type == QtFatalMsg)
         std::fprintf(stderr, "%s\n", text.toStdString().c_str());
 }
@@ -97,16 +97,16 @@ class WorkFolder {
   public:
     WorkFolder() {
         for (const auto name : workingFiles)
-            swept_.emplace_back(path() / name);
-        swept_.emplace_back(path() / screenFile);
-        swept_.emplace_back(path());
+            removedAtSignal_.emplace_back(path() / name);
+        removedAtSignal_.emplace_back(path() / screenFile);
+        removedAtSignal_.emplace_back(path());
     }
 
     [[nodiscard]] const QTemporaryDir& folder() const { return folder_; }
     [[nodiscard]] std::filesystem::path path() const { return folder_.path().toStdString(); }
 
   private:
-    std::deque<RemovedAtSignal> swept_;  // must outlive the folder
+    std::deque<RemovedAtSignal> removedAtSignal_;  // must outlive the folder
     QTemporaryDir folder_;
 };
 
@@ -127,7 +127,7 @@ int run(const ReportCommand& command, int& argc, char** argv) {
         return 1;
     }
     makeScreen(work.folder().filePath(screenFile));
-    qInstallMessageHandler(keepQuiet);
+    qInstallMessageHandler(showErrorsOnly);
     const Application application(argc, argv);
     const Unattended outside;
     const auto status = makeReport(command, work.path());

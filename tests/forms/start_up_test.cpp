@@ -1,4 +1,6 @@
 // How the program starts: what it finds in its folder, and what it must not touch.
+#include <QProcess>
+
 #include "core/store/folder_lock.h"
 #include "core/store/working_files.h"
 #include "forms/main/frmTitle.h"
@@ -63,6 +65,22 @@ TEST_F(StartUp, SecondCopyEndsBeforeItTouchesAFile) {
     EXPECT_EQ(outside.lastStyle, 48);
     EXPECT_EQ(outside.lastTitle, "Trabeon");
     EXPECT_EQ(folder.contents(), before);
+}
+
+TEST_F(StartUp, AFolderThatAnotherProgramUsesIsLeftAlone) {
+    QProcess other;
+    other.start("flock", {QString::fromStdString(folder.path().string()), "cat"});
+    other.write("taken\n");
+    ASSERT_TRUE(other.waitForReadyRead(-1));
+    ExpectManual();
+    outside.ExpectMsgBox("The folder \"" + folder.path().string() +
+                         "\" is in use by flock (process " + std::to_string(other.processId()) +
+                         "). Wait until it has finished or close it, then try again; nothing was "
+                         "changed.");
+    EXPECT_FALSE(program.Start());
+    other.closeWriteChannel();
+    other.waitForFinished(-1);
+    EXPECT_TRUE(folder.contents().empty());
 }
 
 TEST_F(StartUp, UnwritableFolderIsTold) {

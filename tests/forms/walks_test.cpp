@@ -5,7 +5,6 @@
 #include <sstream>
 
 #include "core/analysis/result_files.h"
-#include "core/store/project_file.h"
 #include "forms/design/frmBeamDesign.h"
 #include "forms/input/frmDiagram.h"
 #include "forms/input/frmPoint.h"
@@ -125,37 +124,12 @@ class Windows : public WalkTest {
             text.replace(text.find("Wall A"), 1, "\xDC");
             folder.write(step.subject, text);
         };
-        states["question"] = [this](const std::string&) {
-            return outside.lastQuestion.filter +
-                   (outside.lastQuestion.asksBeforeOverwriting ? ", asks before overwriting" : "");
-        };
-        states["line"] = [this](const std::string& numberAndFile) {
-            std::istringstream text(folder.read(numberAndFile.substr(numberAndFile.find(' ') + 1)));
-            std::string line;
-            for (auto number = std::stoi(numberAndFile); number > 0; --number)
-                std::getline(text, line);
-            return line.substr(0, line.find('\r'));
-        };
-        states["twins"] = [this](const std::string& files) {
-            const auto blank = files.find(' ');
-            const auto text = folder.read(files.substr(0, blank));
-            return text == folder.read(files.substr(blank + 1)) ? "yes" : "no";
-        };
-        states["files"] = [this](const std::string&) {
-            std::string names;
-            for (const auto& [name, text] : folder.contents())
-                names += (names.empty() ? "" : " ") + name;
-            return names;
-        };
         states["menus"] = [this](const std::string&) {
             return Menus(menuBar().actions(), "").toStdString();
         };
     }
 
     void AddDesign() {
-        actions["unpack"] = [this](const Step& step) {
-            ASSERT_TRUE(unpackProject(EXAMPLES "/" + step.subject + ".TB", folder.path()));
-        };
         // An example with its results, the dimensions window in front.
         actions["example"] = [this](const Step& step) {
             actions["unpack"](step);
@@ -186,11 +160,6 @@ class Windows : public WalkTest {
     }
 
     void AddDiagrams() {
-        actions["analysed"] = [this](const Step& step) {
-            actions["unpack"](step);
-            forms().Get<frmAnalysis>().cmdAnalyse.Press();
-            forms().Unload("frmAnalysis");
-        };
         actions["select"] = [this](const Step& step) {
             auto& list = dynamic_cast<QListWidget&>(Find(step.subject));
             QItemSelection chosen;

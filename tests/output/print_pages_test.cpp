@@ -131,17 +131,5 @@ TEST(PrintedPages, OfALongBalanceTableGoOnUnderTheirPageLine) {
     EXPECT_EQ(printed(source(0), table).at(1), (Texts{"HEAD", "Trabeon Results    Page  1 of  1"}));
 }
 
-TEST(PrintedPages, AreInAFaceOfWhichTheirLinesFitInLandscapeToo) {
-    EXPECT_LE(printCorner + 55 * printLineHeight, 210);
-    const QFont font = FontNamed("Courier New", Printer::FontSize, false);
-    EXPECT_TRUE(QFontInfo(font).fixedPitch());
-    const double millimetresPerDot = 25.4 / 96;
-    EXPECT_LE(QFontMetricsF(font).height() * millimetresPerDot, 1.1 * printLineHeight);
-    for (const auto& [characters, width] : {std::pair{94, 297}, {66, 210}})
-        EXPECT_LE(printCorner + QFontMetricsF(font).horizontalAdvance(QString(characters, 'M')) *
-                                    millimetresPerDot,
-                  width - 20);
-}
-
 }  // namespace
 }  // namespace trabeon::test

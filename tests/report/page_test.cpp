@@ -2,6 +2,7 @@
 #include "report/pages.h"
 #include "tests/report/report_fixture.h"
 #include "tests/support/full_disk.h"
+#include "tests/support/other_programs.h"
 #include "toolkit/pages/page_canvas.h"
 
 namespace trabeon::test {
@@ -13,7 +14,7 @@ constexpr TwipsRect sheetText{0, 0, 9020, 13960};
 class PageTest : public ReportTest {
   protected:
     std::vector<int> Starts(const TwipsRect& area) {
-        return goThroughPages(RTB().TextLength(),
+        return splitIntoPages(RTB().TextLength(),
                               [&](int first) {
                                   return RTB().FormatRange(nullptr, {area, area, {}, first});
                               })
@@ -51,7 +52,7 @@ TEST_F(PageTest, APageTakesThePicturesThatFit) {
     EXPECT_TRUE(Print(RTB()));
     EXPECT_EQ(PrintedPages(), 3);
     const auto pdf = folder.read("out.pdf");
-    EXPECT_EQ(Count(pdf, "DCTDecode"), 0) << "nothing of a picture is lost";
+    EXPECT_EQ(countOf(pdf, "DCTDecode"), 0) << "nothing of a picture is lost";
     EXPECT_NE(pdf.find("/Width 2000\n/Height 1240"), std::string::npos);
 }
 
@@ -86,6 +87,18 @@ TEST_F(PageTest, ScreenAndPaperBreakAlike) {
         Preview().Unload();
         Settle();
     }
+}
+
+TEST_F(PageTest, ThePrintLeavesAnInchFromTheEdgesOfTheSheet) {
+    if (QStandardPaths::findExecutable("pdftoppm").isEmpty())
+        GTEST_SKIP() << "needs poppler-utils";
+    Add(601, 930);
+    ASSERT_TRUE(Print(RTB()));
+    const auto path = QString::fromStdString(folder.path().string());
+    run("pdftoppm", {"-r", "96", "-png", "-singlefile", path + "/out.pdf", path + "/page"});
+    const QRect ink = inkOf(QImage(path + "/page.png"));
+    EXPECT_LE((ink.topLeft() - QPoint(97, 97)).manhattanLength(), 2);
+    EXPECT_LE((ink.bottomRight() - QPoint(96 + 600, 96 + 929)).manhattanLength(), 3);
 }
 
 /// A page service that comes no further than its second page.

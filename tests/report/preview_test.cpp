@@ -45,21 +45,6 @@ TEST_F(PreviewTest, OpensOnPageOneAtAQuarter) {
     }
 }
 
-TEST_F(PreviewTest, PicturesHaveThePrintableSizeTimesTheStep) {
-    // 11500 by 16440 twips are 767 by 1096 pixels.
-    for (const auto& [box, wide, high] : {std::tuple{&Preview().picX, 767, 1096},
-                                          {&Preview().pic1, 939, 1342},
-                                          {&Preview().pic2, 767, 1096},
-                                          {&Preview().pic3, 575, 822},
-                                          {&Preview().pic4, 383, 548},
-                                          {&Preview().pic5, 192, 274}}) {
-        EXPECT_EQ(box->Width() / 15, wide);
-        EXPECT_EQ(box->Height() / 15, high);
-    }
-    EXPECT_EQ(Preview().DocWYSIWYG(RTB()), 9020);
-    EXPECT_EQ(static_cast<QTextEdit*>(RTB().Widget())->lineWrapColumnOrWidth(), 601);
-}
-
 TEST_F(PreviewTest, ZoomGoesByButtonsAndByTheListAndAPictureKeepsItsOffset) {
     Press(Preview().VScroll1, Qt::Key_PageDown);
     Press(Preview().VScroll1, Qt::Key_Down);

@@ -35,10 +35,26 @@ inline QRect inkOf(const QImage& picture) {
     return ink;
 }
 
+/// How often a text is in another.
+inline int countOf(const std::string& text, const std::string& part) {
+    int count = 0;
+    for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + 1))
+        ++count;
+    return count;
+}
+
+/// The numbers after a word of a rich text.
+inline std::vector<int> numbersAfter(const std::string& rtf, const std::string& word) {
+    std::vector<int> numbers;
+    for (auto at = rtf.find(word); at != std::string::npos; at = rtf.find(word, at))
+        numbers.push_back(std::stoi(rtf.substr(at += word.size())));
+    return numbers;
+}
+
 class ReportTest : public ProgramTest {
   protected:
     ReportTest() {
-        takeUpReport(context());
+        registerReport(context());
         Start();
     }
 
@@ -58,40 +74,13 @@ class ReportTest : public ProgramTest {
     void Select(int start, int length) { RTB().SetSelection(start, length); }
     void Cut() { Click(Report().cmdCut); }
     void Keys(Qt::Key key) { QTest::keyClick(RTB().Widget(), key, Qt::ControlModifier); }
-    std::string Rtf() { return RTB().TextRTF(outside.paper, 1440); }
-
-    void SaveReport(const std::string& path) {
-        outside.ExpectSave("Save Trabeon Report File", path);
-        Report().mnuSave.Choose();
-    }
     /// Prints into out.pdf, which is given back, or another file.
     Outcome<PrintEnd> Print(RichTextBox& box, const std::string& file = "out.pdf") {
         outside.ExpectPrinter("Trabeon Report", file.empty() ? "" : (folder / file).string());
         return PrintReport(box, 1440, 1440, 1440, 1440);
     }
 
-    /// How often a text stands in another.
-    static int Count(const std::string& text, const std::string& part) {
-        int count = 0;
-        for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + 1))
-            ++count;
-        return count;
-    }
-    int PrintedPages() { return Count(folder.read("out.pdf"), "/Type /Page\n"); }
-    /// The numbers that stand behind a word of a rich text.
-    static std::vector<int> Numbers(const std::string& rtf, const std::string& word) {
-        std::vector<int> numbers;
-        for (auto at = rtf.find(word); at != std::string::npos; at = rtf.find(word, at))
-            numbers.push_back(std::stoi(rtf.substr(at += word.size())));
-        return numbers;
-    }
-    /// The widths of the pictures of a rich text, in the order of the text.
-    static std::vector<int> Widths(const std::string& rtf) {
-        auto widths = Numbers(rtf, "\\picwgoal");
-        for (int& width : widths)
-            width /= TwipsPerPixel;
-        return widths;
-    }
+    int PrintedPages() { return countOf(folder.read("out.pdf"), "/Type /Page\n"); }
 };
 
 }  // namespace trabeon::test

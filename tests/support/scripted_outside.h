@@ -109,7 +109,7 @@ class ScriptedOutside : public Outside {
             ADD_FAILURE() << "Not expected: " << kind << " \"" << asked << "\"";
             return {kind, asked, Answer::Cancel, ""};
         }
-        const Step step = script_.front();
+        Step step = script_.front();
         script_.pop_front();
         EXPECT_EQ(asked, step.text);
         if (kind == step.kind)

@@ -37,7 +37,7 @@ class TemporaryFolder {
     }
     /// From here on a file, which is empty if there was none, cannot be replaced.
     void protect(const std::string& name, bool isProtected = true) const {
-        std::ofstream(path_ / name, std::ios::app);
+        std::ofstream(path_ / name, std::ios::app).flush();
         std::filesystem::permissions(path_ / name,
                                      std::filesystem::perms(isProtected ? 0444 : 0644));
     }

@@ -9,16 +9,16 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <algorithm>
+#include <cmath>
+
+#include "core/store/project_file.h"
+#include "forms/results/frmAnalysis.h"
 
 namespace trabeon::test {
 namespace {
 
 std::string bare(const QString& caption) {
     return QString(caption).remove('&').toStdString();
-}
-
-std::string yes(bool so) {
-    return so ? "yes" : "no";
 }
 
 /// What a user calls a control: its caption, or what a screen reader says.
@@ -43,19 +43,6 @@ std::string textOf(const QWidget& widget) {
     return widget.property("plainText").toString().toStdString();
 }
 
-std::string replaced(std::string text, const std::string& from, const std::string& to) {
-    for (auto at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
-        text.replace(at, from.size(), to);
-    return text;
-}
-
-std::string joined(const std::vector<std::string>& lines) {
-    std::string text;
-    for (const auto& line : lines)
-        text += line + "\r\n";
-    return text;
-}
-
 Answer answerOf(const std::string& word) {
     static const std::map<std::string, Answer> answers{{"", Answer::Ok},
                                                        {"yes", Answer::Yes},
@@ -67,40 +54,38 @@ Answer answerOf(const std::string& word) {
 
 }  // namespace
 
-WalkTest::WalkTest() {
+std::string strokesOf(const PictureBox& picture) {
+    std::string text;
+    std::vector<double> rows;  // the heights of texts depend on the font
+    const auto whole = [](double twips) { return ' ' + std::to_string(std::lround(twips)); };
+    for (const auto& stroke : picture.Drawn()) {
+        if (stroke.kind == Stroke::Kind::Text) {
+            if (rows.empty() || stroke.y1 > rows.back())
+                rows.push_back(stroke.y1);
+            text +=
+                "row " + std::to_string(rows.size()) + whole(stroke.x1) + " \"" + stroke.text + '"';
+        } else if (stroke.kind == Stroke::Kind::Line) {
+            text +=
+                "line" + whole(stroke.x1) + whole(stroke.y1) + whole(stroke.x2) + whole(stroke.y2);
+        } else {
+            text += "circle" + whole(stroke.x1) + whole(stroke.y1) + whole(stroke.x2);
+        }
+        text += stroke.colour == Colour() ? "" : " colour " + std::to_string(stroke.colour);
+        text += "\r\n";
+    }
+    return text;
+}
+
+WalkTest::WalkTest() : Walker(folder) {
     AddActions();
     AddExpectations();
     AddStates();
     AddListStates();
 }
 
-void WalkTest::Take(const std::vector<Step>& steps) {
-    for (auto step : steps) {
-        SCOPED_TRACE(step.place);
-        for (auto* text : {&step.subject, &step.value})
-            *text = Filled(*text);
-        const bool looks = step.word == "?";
-        const auto word = looks ? step.subject.substr(0, step.subject.find(' ')) : step.word;
-        if (looks && states.count(word) > 0)
-            EXPECT_EQ(states[word](word.size() < step.subject.size()
-                                       ? step.subject.substr(word.size() + 1)
-                                       : ""),
-                      step.lines.empty() ? step.value : joined(step.lines));
-        else if (looks)
-            EXPECT_EQ(textOf(Find(step.subject)), step.value);
-        else if (actions.count(word) > 0)
-            actions[word](step);
-        else
-            ADD_FAILURE() << "there is no step " << word;
-        Settle();
-    }
-}
-
-/// "{folder}" and the like in a text are paths, "\r\n" is a line end.
-std::string WalkTest::Filled(std::string text) const {
-    for (const auto& [name, path] : places)
-        text = replaced(text, name, path);
-    return replaced(replaced(replaced(text, "\\r", "\r"), "\\n", "\n"), "\\t", "\t");
+/// The text of a control.
+std::string WalkTest::Look(const std::string& control) {
+    return textOf(Find(control));
 }
 
 QWidget& WalkTest::Front() {
@@ -167,6 +152,14 @@ void WalkTest::AddActions() {
         Settle();
         forms().Show(step.subject);
     };
+    actions["unpack"] = [this](const Step& step) {
+        ASSERT_TRUE(unpackProject(EXAMPLES "/" + step.subject + ".TB", folder.path()));
+    };
+    actions["analysed"] = [this](const Step& step) {
+        actions["unpack"](step);
+        forms().Get<frmAnalysis>().cmdAnalyse.Press();
+        forms().Unload("frmAnalysis");
+    };
     actions["menu"] = [this](const Step& step) { Choose(QString::fromStdString(step.subject)); };
     actions["keys"] = [this](const Step& step) { Keys(step.subject); };
     actions["paste"] = [this](const Step& step) {
@@ -203,18 +196,6 @@ void WalkTest::AddActions() {
         QTest::mouseClick(header.viewport(), Qt::LeftButton, {},
                           {header.sectionViewportPosition(std::stoi(step.subject) - 1) + 10, 5});
     };
-    actions["write"] = [this](const Step& step) {
-        folder.write(step.subject, step.lines.empty() ? step.value : joined(step.lines));
-    };
-    actions["protect"] = [this](const Step& step) { folder.protect(step.subject); };
-    actions["free"] = [this](const Step& step) { folder.protect(step.subject, false); };
-    actions["remove"] = [this](const Step& step) {
-        std::filesystem::remove(folder / step.subject);
-    };
-    actions["copy"] = [this](const Step& step) {
-        folder.write(step.value, TemporaryFolder::readFile(step.subject));
-    };
-    actions["keep"] = [this](const Step&) { kept_ = folder.contents(); };
 }
 
 /// Questions that the next step must ask, and their answers.
@@ -229,7 +210,10 @@ void WalkTest::AddExpectations() {
         outside.ExpectOpen("Open Trabeon File", step.subject);
     };
     actions["saves"] = [this](const Step& step) {
-        outside.ExpectSave("Save Trabeon File", step.subject);
+        outside.ExpectSave(step.value.empty() ? "Save Trabeon File" : step.value, step.subject);
+    };
+    actions["prints"] = [this](const Step& step) {
+        outside.ExpectPrinter(step.subject, step.value);
     };
     actions["page"] = [this](const Step& step) {
         outside.ExpectDocument((folder / step.subject).string(), step.value != "no");
@@ -239,12 +223,6 @@ void WalkTest::AddExpectations() {
 }
 
 void WalkTest::AddStates() {
-    states["file"] = [this](const std::string& name) { return folder.read(name); };
-    states["kept"] = [this](const std::string&) {
-        const auto now = folder.contents();
-        EXPECT_EQ(now, kept_);
-        return yes(now == kept_);
-    };
     states["flag"] = [this](const std::string&) {
         return std::to_string(std::exchange(context().dataChanged, 0));
     };
@@ -279,6 +257,12 @@ void WalkTest::AddStates() {
     states["caption"] = [this](const std::string&) { return caption(); };
     states["boxtitle"] = [this](const std::string&) { return outside.lastTitle; };
     states["boxstyle"] = [this](const std::string&) { return std::to_string(outside.lastStyle); };
+    states["question"] = [this](const std::string&) {
+        const auto& asked = outside.lastQuestion;
+        return asked.filter + (asked.asksBeforeOverwriting ? ", asks to overwrite" : "") +
+               (asked.asksBeforeCreating ? ", asks to create" : "") +
+               (asked.folderMustExist ? ", in a folder that exists" : "");
+    };
     states["clipboard"] = [this](const std::string&) { return outside.clipboardText; };
 }
 

@@ -28,7 +28,8 @@ class DesktopTest : public ControlsTest {
             QWidget* dialog = QApplication::activeModalWidget();
             title = dialog->windowTitle();
             if (auto* file = qobject_cast<QFileDialog*>(dialog))
-                startFolder = file->directory().absolutePath();
+                std::tie(startFolder, filters) =
+                    std::pair(file->directory().absolutePath(), file->nameFilters().join("; "));
             auto* name = dialog->findChild<QLineEdit*>();
             found = name->text();
             name->setText(path);
@@ -38,7 +39,7 @@ class DesktopTest : public ControlsTest {
 
     const QTemporaryDir folder;
     Desktop desktop;
-    QString title, startFolder, found;  // of the last file dialog, before a name was typed
+    QString title, startFolder, filters, found;  // of the last file dialog, before a name was typed
 };
 
 TEST_F(DesktopTest, AMessageBoxAnswersAndGivesTheWindowBack) {
@@ -63,6 +64,7 @@ TEST_F(DesktopTest, AFileDialogStartsAtHomeAndThenWhereTheLastOneEnded) {
     };
     const QString first = folder.filePath("One.TB"), second = QDir::tempPath() + "/Two.TB";
     EXPECT_EQ(startOf("", first), QDir::homePath());
+    EXPECT_EQ(filters, "Trabeon File (*.TB); All files (*)");
     EXPECT_EQ(startOf("", second), folder.path());
     EXPECT_EQ(startOf(first, first), folder.path());
 }

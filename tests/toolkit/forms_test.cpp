@@ -150,14 +150,7 @@ TEST_F(FormsTest, PlaceIsTheOuterOneAndResizeTellsTheInnerOne) {
     EXPECT_GE(std::min(first.ScaleWidth(), first.ScaleHeight()), 0);
     first.SetSmallestScaleSize(3000, 1500);
     first.Move(0, 0, 1500, 900);
-    EXPECT_EQ(first.ScaleWidth(), 3000);  // what stands there is cut off, and keeps its place
-    EXPECT_EQ(first.ScaleHeight(), 1500);
-    Settle();
-    EXPECT_GE(first.Widget()->minimumSizeHint().width(), 200);
-    const QWidget& tool = *forms.Get<frmSecond>().Widget();  // cannot be sized, has no other box
-    EXPECT_EQ(tool.minimumSize(), tool.maximumSize());
-    EXPECT_EQ(tool.windowFlags() & (Qt::WindowCloseButtonHint | Qt::WindowMinMaxButtonsHint),
-              Qt::WindowCloseButtonHint);
+    EXPECT_EQ(first.ScaleWidth(), 3000);  // what is beyond the frame keeps its place
 }
 
 TEST_F(FormsTest, AnAccessKeyGoesToTheFormInFrontBeforeTheMenuBar) {
@@ -213,41 +206,6 @@ TEST_F(FormsTest, TheWindowMenuListsTheFormsInSight) {
     EXPECT_EQ(captions(), "&1 First, &2 Second");
     menu->actions().first()->trigger();
     EXPECT_EQ(InFront(), "First");
-}
-
-TEST_F(FormsTest, WindowsFillTheirPlaceAndGoBackToTheirSize) {
-    const int width = First().Width(), narrow = window.Width();
-    First().SetState(WindowState::Maximized);
-    Settle();
-    EXPECT_EQ(First().State(), WindowState::Maximized);
-    EXPECT_GE(First().Width(), window.ScaleWidth());
-    EXPECT_EQ(window.Caption(), "Trabeon - Untitled") << "the caption proper stays";
-    window.SetCaption("Trabeon - One.TB");
-    First().SetState(WindowState::Normal);
-    EXPECT_EQ(First().Width(), width);
-    EXPECT_EQ(window.Widget()->windowTitle(), "Trabeon - One.TB");
-    window.SetState(WindowState::Maximized);
-    EXPECT_EQ(window.State(), WindowState::Maximized);
-    EXPECT_GT(window.Width(), narrow);
-    window.SetState(WindowState::Normal);
-    EXPECT_EQ(window.Width(), narrow);
-}
-
-TEST_F(FormsTest, MenuEntriesRunTheirCommandByKeyAndChoiceWhileEnabled) {
-    int runs = 0;
-    Menu file = window.AddMenu("&File");
-    MenuEntry entry = file.Add("&New", "Ctrl+N", Count(runs));
-    Settle();                            // the bar comes up with its first menu
-    for (const int expected : {2, 2}) {  // the second time it is off
-        QTest::keyClick(window.Widget(), Qt::Key_N, Qt::ControlModifier);
-        entry.Choose();
-        EXPECT_EQ(runs, expected);
-        entry.SetEnabled(false);
-    }
-    MenuEntry loading = file.AddMenu("&Loading").Entry();
-    loading.SetEnabled(false);
-    EXPECT_EQ(loading.Caption(), "&Loading");
-    EXPECT_FALSE(loading.Enabled());
 }
 
 }  // namespace

@@ -73,18 +73,5 @@ TEST_F(PageWindowTest, LinksAreRetracedWithButtonsAndKeys) {
     EXPECT_EQ(Title(), example);
 }
 
-TEST_F(PageWindowTest, EscapeCloses) {
-    Press(Qt::Key_Escape);
-    EXPECT_FALSE(page.isVisible());
-}
-
-TEST_F(PageWindowTest, EachPageFitsItsWidth) {
-    for (QDirIterator file(folder.path(), {"*.htm"}, QDir::Files); file.hasNext();) {
-        page.Open(file.next());
-        Settle();
-        EXPECT_FALSE(view.horizontalScrollBar()->isVisible()) << Title();
-    }
-}
-
 }  // namespace
 }  // namespace trabeon

@@ -25,30 +25,6 @@ class TextBoxTest : public ControlsTest {
     TextBox first{Bench()}, second{Bench(), "None"};
 };
 
-TEST_F(TextBoxTest, ChangeComesForEachKeyAndForANewTextByCode) {
-    int changes = 0;
-    second.Change = Count(changes);
-    second.SetText("None");
-    EXPECT_EQ(changes, 0);
-    second.SetText("12");
-    Type(second, "34");
-    EXPECT_EQ(changes, 3);
-    EXPECT_EQ(second.Text(), "1234");
-}
-
-TEST_F(TextBoxTest, ATextThatIsNoUtf8KeepsItsBytesUntilItIsEdited) {
-    first.SetKeepsToField(true);
-    first.SetText("Tr\xE4ger");
-    EXPECT_EQ(static_cast<QLineEdit*>(first.Widget())->text(), QString("Träger"));
-    EXPECT_EQ(first.Text(), "Tr\xE4ger");
-    Key(first, Qt::Key_End);
-    Type(first, "s");
-    EXPECT_EQ(first.Text(), "Trägers");
-    Key(first, Qt::Key_Backspace);
-    first.SetText("a\r\nb");  // what the box does not take is not given back
-    EXPECT_EQ(first.Text(), "ab");
-}
-
 TEST_F(TextBoxTest, AKeyPressHandlerDropsReplacesOrMovesOn) {
     std::vector<int> keys;
     first.KeyPress = [&](int& key) {
@@ -93,14 +69,6 @@ TEST_F(TextBoxTest, AKeyPressHandlerDropsReplacesOrMovesOn) {
     EXPECT_TRUE(second.HasFocus());
     EXPECT_EQ(keys, (std::vector<int>{'1', 'x', ',', '5', 8, 'x', '7', 'x', '9', 'x', 'x', '8', 'x',
                                       13}));
-}
-
-TEST_F(TextBoxTest, ABoxThatKeepsToAFieldTakesNoQuoteAndNoLineEnd) {
-    first.SetKeepsToField(true);
-    Type(first, "a\"b");
-    Paste("c\"\r\nd");
-    EXPECT_EQ(first.Text(), "abcd");
-    EXPECT_EQ(first.SelStart(), 4);
 }
 
 TEST_F(TextBoxTest, GotFocusComesByKeyMouseAndCodeButNotWithTheWindow) {

@@ -27,7 +27,8 @@ GraphPlot& Graph::Inner() const {
     return *static_cast<GraphPlot*>(Widget());
 }
 
-// Room is made as points are written: a count may be far beyond what ever comes.
+// Memory is taken as points are written, because a count may be far higher than the points that
+// come.
 void Graph::SetPointCount(int count) {
     GraphPlot& plot = Inner();
     plot.count = std::max(0, count);
@@ -46,7 +47,7 @@ void Graph::SetPointIndex(int index) {
         Inner().shown = 0;
 }
 
-GraphPoint* Graph::Addressed() {
+GraphPoint* Graph::PointToWrite() {
     GraphPlot& plot = Inner();
     if (plot.count == 0)
         return nullptr;
@@ -56,12 +57,12 @@ GraphPoint* Graph::Addressed() {
 }
 
 void Graph::SetPointValue(double y) {
-    if (GraphPoint* point = Addressed())
+    if (GraphPoint* point = PointToWrite())
         point->y = y;
 }
 
 void Graph::SetPointX(double x) {
-    GraphPoint* point = Addressed();
+    GraphPoint* point = PointToWrite();
     if (!point)
         return;
     point->x = x;

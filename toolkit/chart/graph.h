@@ -1,5 +1,5 @@
-// A line chart of one data set, fed point by point. The properties and their numbers are those of
-// the chart control that the diagram forms speak to.
+// A line chart of one set of data, which comes in point by point. The diagram forms know its
+// properties by these names and numbers.
 #pragma once
 
 #include <functional>
@@ -22,48 +22,49 @@ class Graph : public Control {
     Graph(Container& parent, const GraphTitles& titles);
     ~Graph() override;
 
-    // 30: the chart holds that many points. Those written so far stay.
+    /// 30: the number of points of the chart. Points that were written already stay.
     void SetPointCount(int count);
-    int PointCount() const;
-    // 42: the point that is written next, from 1. Point 1 begins a plot: what shows from then on
-    // are the points written since, up to the highest. The x of a plot rises or
-    // stands; where it falls the line joins the points from left to right.
+    [[nodiscard]] int PointCount() const;
+    /// 42: the point that is written next, from 1. Writing does not change it. Point 1 begins a new
+    /// plot: the chart then shows the points written since, up to the highest. The x of a plot must
+    /// not fall; if it does, the line joins the points from left to right.
     void SetPointIndex(int index);
     void SetPointValue(double y);  // 16
     void SetPointX(double x);      // 46
-    // 7: Redraw scales the chart to its points; it may be asked for after every point, and then
-    // keeps the screen's pace. The picture on the clipboard is always up to date.
+    /// 7: Redraw scales the chart to its points and draws it. It can be called after every point
+    /// and then draws at most 30 times a second. CopyToClipboard always copies the latest points.
     void SetDrawAction(DrawActions action);
 
-    // The values were multiplied by this to be drawn; labels and readout show the true ones.
+    /// True value = written value x factor. The labels and the readout show true values.
     void SetValueFactor(double factor);
     void SetMarks(std::vector<GraphMark> marks);
     void SetNote(const std::string& note);
-    // The same in red: what is drawn must not be used.
+    /// A note in red: the curve must not be used.
     void SetWarning(const std::string& warning);
-    // The points, counted from 1, that bear the label of the greatest and of the least value where
-    // several points have that value.
+    /// If several points have the greatest or the least value, these points get its label. They
+    /// count from 1; 0 means the first of them.
     void SetExtremes(int greatest, int least);
-    // What the chart says of the point under the pointer, by the point's index from 1.
+    /// The text for the point under the pointer, by its index from 1.
     void SetPointText(std::function<std::string(int index)> text);
 
-    // What shows: the points of the plot that runs, with the values that were written.
-    std::vector<GraphPoint> Points() const;
-    double ValueFactor() const;
-    const std::vector<GraphMark>& Marks() const;
-    std::string Note() const;
+    /// The points that the chart shows, with the values as they were written.
+    [[nodiscard]] std::vector<GraphPoint> Points() const;
+    [[nodiscard]] double ValueFactor() const;
+    [[nodiscard]] const std::vector<GraphMark>& Marks() const;
+    [[nodiscard]] std::string Note() const;
 
-    // The chart as it stands, sharp on paper.
-    QImage Picture() const;
-    // What the label of the greatest or the least value reads; empty while there is none.
-    std::string GreatestLabel() const;
-    std::string LeastLabel() const;
-    // What shows under the pointer; empty while nothing does.
-    std::string ReadOut() const;
+    /// The chart as it is now, with enough dots for paper.
+    [[nodiscard]] QImage Picture() const;
+    /// The text of the label of the greatest or the least value. Empty if there is no label.
+    [[nodiscard]] std::string GreatestLabel() const;
+    [[nodiscard]] std::string LeastLabel() const;
+    /// The text next to the pointer. Empty if there is none.
+    [[nodiscard]] std::string ReadOut() const;
 
   private:
     GraphPlot& Inner() const;
-    GraphPoint* Addressed();  // null while there are no points
+    /// The point at index_; null while the chart has no points.
+    GraphPoint* PointToWrite();
 
     int index_ = 1;
 };

@@ -24,7 +24,7 @@ QVector<double> AxisTicker::createTickVector(double tickStep, const QCPRange& ra
 void AxisTicker::ChooseStyle(const QVector<double>& ticks, const QCPRange& range) {
     double greatest = 0;
     for (const double tick : ticks)
-        if (range.contains(tick))  // there may be one more beyond each end, which does not show
+        if (range.contains(tick))  // a tick beyond each end is not shown
             greatest = std::max(greatest, std::abs(tick));
     powers_ = greatest >= 999'999.5 || (greatest > 0 && greatest < 1e-3);
     const auto isExact = [this](double tick) {

@@ -1,4 +1,4 @@
-// How the chart's axes are numbered.
+// The numbers on the axes of a chart, and the names of its marks.
 #pragma once
 
 #include <qcustomplot.h>
@@ -7,21 +7,21 @@
 
 namespace trabeon {
 
-// Numbers one axis in one style: plain decimals, or powers of ten where a number would need seven
-// digits or more, or begin with three zeros.
+/// Writes all numbers of an axis in one style: decimals, or powers of ten if a number would have
+/// seven or more digits before the point, or if all are below 0.001.
 class AxisTicker : public QCPAxisTicker {
   protected:
     QVector<double> createTickVector(double tickStep, const QCPRange& range) override;
     QString getTickLabel(double tick, const QLocale& locale, QChar format, int precision) override;
-    // The style in which those of the range can be read.
+    /// Chooses the style for the ticks in the range.
     void ChooseStyle(const QVector<double>& ticks, const QCPRange& range);
 
   private:
     bool powers_ = false;
-    int decimals_ = 0;  // of the powers
+    int decimals_ = 0;  // in front of the power of ten
 };
 
-// Tells the true value at a place whose value was multiplied by a factor to be drawn.
+/// An axis whose values are true value divided by `factor`. It shows the true values.
 class ValueTicker : public AxisTicker {
   public:
     double factor = 1;
@@ -30,7 +30,7 @@ class ValueTicker : public AxisTicker {
     QString getTickLabel(double tick, const QLocale& locale, QChar format, int precision) override;
 };
 
-// Numbers the end of the data as well, in place of a round number too near to it.
+/// Also shows the number at the end of the data, and omits round numbers too close to it.
 class DistanceTicker : public AxisTicker {
   public:
     double end = 0;
@@ -39,7 +39,7 @@ class DistanceTicker : public AxisTicker {
     QVector<double> createTickVector(double tickStep, const QCPRange& range) override;
 };
 
-// Names above the chart, one for each mark. Those at the edges stay above the chart.
+/// The names of the marks, above the chart. A name at an edge moves inward.
 class MarkNames : public QCPAbstractItem {
   public:
     explicit MarkNames(QCustomPlot* plot);
@@ -48,7 +48,7 @@ class MarkNames : public QCPAbstractItem {
         double x;  // pixels
         QString text;
     };
-    // By rising x. A name that has no room beside the former one is left out.
+    /// The names, sorted by x. A name without room next to the one before is left out.
     void Place(const std::vector<Name>& names);
     QFont font;
     QColor colour;

@@ -1,4 +1,4 @@
-// The parts of the chart that name a number or a joint at its place.
+// The labels of the extremes, the titles, and the marks with their names.
 #include <algorithm>
 #include <cmath>
 
@@ -10,7 +10,7 @@ namespace trabeon {
 
 namespace {
 
-// Four significant digits, and all of those in front of the point while they are few.
+// Four significant digits, but up to six in front of the point.
 QString ShortNumber(double value) {
     const double size = std::abs(value);
     return size >= 1e3 && size < 1e6 ? QString::number(value, 'f', 0)
@@ -38,16 +38,16 @@ void GraphPlot::FindExtremes() {
     };
     const auto low = std::min_element(curve.constBegin(), curve.constEnd(), lower);
     const auto high = std::max_element(curve.constBegin(), curve.constEnd(), lower);
-    // The caller knows which of several points it is.
-    const auto told = [this](const QCPGraphData& found, int index) {
+    // If several points have this value, the caller knows which one is meant.
+    const auto chosen = [this](const QCPGraphData& found, int index) {
         const bool isShown = index >= 1 && index <= shown;
         const Point point = isShown ? points[static_cast<std::size_t>(index - 1)] : Point();
         return isShown && point.y == found.value && std::isfinite(point.x)
                    ? point
                    : Point{found.key, found.value};
     };
-    top_ = told(*high, factor < 0 ? leastPoint : greatestPoint);
-    bottom_ = told(*low, factor < 0 ? greatestPoint : leastPoint);
+    top_ = chosen(*high, factor < 0 ? leastPoint : greatestPoint);
+    bottom_ = chosen(*low, factor < 0 ? greatestPoint : leastPoint);
     const QString above = LabelText(top_.y * factor, top_.x);
     const QString below = LabelText(bottom_.y * factor, bottom_.x);
     greatest->setText(factor < 0 ? below : above);
@@ -55,8 +55,8 @@ void GraphPlot::FindExtremes() {
         least->setText(factor < 0 ? above : below);
 }
 
-// Gives the height that the two take. In a small chart they share a line; if it is too short the
-// note has it, since the window names the diagram as well.
+// Returns the height of title and note, in pixels. In a small chart they share a line. If that is
+// too short, only the note is shown, because the caption of the window names the diagram too.
 int GraphPlot::FitTitles() {
     const bool roomy = IsRoomy();
     const bool titled = viewport().height() >= 70;
@@ -82,7 +82,7 @@ int GraphPlot::FitTitles() {
     return roomy ? (note_->visible() ? 40 : 26) : 21;
 }
 
-// Leaves out lines that would become a grey area.
+// Leaves out lines that are so close that they would make a grey area.
 void GraphPlot::FitMarks() {
     constexpr double LeastApart = 8;
     xAxis2->setVisible(!marks.empty());

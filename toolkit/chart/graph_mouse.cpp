@@ -1,4 +1,4 @@
-// What the mouse does on the chart: it reads off points, and shows a part of the curve.
+// What the mouse does on the chart: it reads points off, and zooms to a part of the curve.
 #include <algorithm>
 #include <cmath>
 
@@ -21,7 +21,7 @@ void GraphPlot::MakeMouse() {
     setMouseTracking(true);
 }
 
-// The part of the data in sight is neither outside of it nor finer than its points.
+// The visible part stays inside the data, and is at least a quarter of the distance of two points.
 void GraphPlot::KeepInside(const QCPRange& range) {
     const double finest = whole_.size() / std::max(4.0, 4.0 * shown);
     QCPRange kept = range;
@@ -40,7 +40,7 @@ QString GraphPlot::ReadOut() const {
     return readOut_->visible() ? readOut_->text() : QString();
 }
 
-// Without a mouse it goes away.
+// Hides the readout if the mouse is not over the chart.
 void GraphPlot::MoveReadOut(std::optional<QPointF> mouse) {
     mouse_ = mouse;
     const bool wasShown = readOut_->visible();
@@ -49,8 +49,8 @@ void GraphPlot::MoveReadOut(std::optional<QPointF> mouse) {
         layer("overlay")->replot();
 }
 
-// The index, from 1, of the point in sight that is nearest along the axis, and of those at one x
-// the nearest in height; 0 if there is none.
+// The index, from 1, of the visible point that is nearest in x, and of those with the same x the
+// nearest in y. 0 if there is none.
 int GraphPlot::PointNear(const QPointF& mouse) const {
     int nearest = 0;
     double across = 0, up = 0;

@@ -1,4 +1,6 @@
-// The chart behind Graph: its data, its labels, and what the mouse does on it.
+// The widget of a Graph: its data, its labels, and what the mouse does on it. graph_plot.cpp fits
+// it to its data and its size and draws it; graph_parts.cpp makes its parts; graph_labels.cpp
+// places labels and marks; graph_mouse.cpp reads points off and zooms.
 #pragma once
 
 #include <qcustomplot.h>
@@ -18,30 +20,30 @@ class GraphPlot : public QCustomPlot {
     GraphPlot(const GraphTitles& titles, QWidget* parent);
 
     using Point = GraphPoint;
-    int count = 0;              // of the points that were told of
+    int count = 0;              // of the points that are to come
     std::vector<Point> points;  // those that were written
-    int shown = 0;              // of the points, those of the plot that runs
-    double factor = 1;
+    int shown = 0;              // this number of them belongs to the present plot
+    double factor = 1;          // true value = written value x factor
     std::vector<GraphMark> marks;
     QString note;
-    bool warns = false;  // the note says that the curve must not be used
-    // Of points that share the greatest or the least value, from 1; 0 is the first.
+    bool warns = false;  // the note is a warning
+    // The points with the labels if several share the value: from 1; 0 means the first of them.
     int greatestPoint = 0;
     int leastPoint = 0;
     std::function<std::string(int index)> pointText;
     QCPItemText* greatest;
     QCPItemText* least;
 
-    // Shows the whole of the data, at the screen's pace: at once if the last time is long enough
-    // ago, else when the handlers have come to their end.
+    /// Shows all of the data: at once, or after the handlers have ended if the last time was less
+    /// than 33 ms ago.
     void Redraw();
-    // The same data, once the handlers have come to their end.
+    /// Draws the chart after the handlers have ended.
     void Refresh();
-    // Brings the chart's parts up to date with the data and the size; each replot does it.
+    /// Updates the parts of the chart for the data and the size. Each drawing does this first.
     void Prepare();
-    QImage PictureOf(QSize size, double ratio);
-    // What shows under the pointer; empty while nothing does.
-    QString ReadOut() const;
+    [[nodiscard]] QImage PictureOf(QSize size, double ratio);
+    /// The text next to the pointer. Empty if there is none.
+    [[nodiscard]] QString ReadOut() const;
 
   protected:
     void leaveEvent(QEvent* event) override;
@@ -89,14 +91,14 @@ class GraphPlot : public QCustomPlot {
     QSharedPointer<QCPAxisTickerText> markTicks_{new QCPAxisTickerText};
     QString xTitle_;
     QString valueTitle_;
-    Point top_, bottom_;            // the highest and the lowest as drawn
-    QCPRange whole_{0, 1};          // the data's
-    std::optional<QPointF> mouse_;  // over the chart
+    Point top_, bottom_;            // the highest and the lowest point as drawn
+    QCPRange whole_{0, 1};          // of the data, in x
+    std::optional<QPointF> mouse_;  // while it is over the chart
     int topMargin_ = 0;             // pixels above the axes
     bool zoomed_ = false;
-    bool pictured_ = false;  // drawn for a picture, not for the screen
-    bool stale_ = false;     // the screen is behind the data
-    bool waiting_ = false;   // for the handlers to come to their end
+    bool pictured_ = false;  // it is being drawn for a picture, not for the screen
+    bool stale_ = false;     // the screen does not show the data yet
+    bool waiting_ = false;   // a drawing waits for the end of the handlers
     QElapsedTimer sinceRedraw_;
 };
 

@@ -1,4 +1,4 @@
-// What a chart is made of.
+// The values that a chart shows.
 #pragma once
 
 #include <string>
@@ -11,7 +11,7 @@ struct GraphTitles {
     std::string value;
 };
 
-// A place on the x axis, as a joint of the beam.
+/// A marked place on the x axis, for example a joint of the beam.
 struct GraphMark {
     double x;
     std::string label;

@@ -12,7 +12,7 @@ namespace trabeon {
 
 namespace {
 
-// A button too narrow for a letter shows none, instead of slivers of some.
+// A button too narrow for a letter shows no caption, instead of parts of letters.
 class Face : public QPushButton {
   public:
     using QPushButton::QPushButton;

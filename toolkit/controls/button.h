@@ -1,4 +1,4 @@
-// A push button. Space and Enter press it. One too narrow for a letter shows no caption.
+// A push button. Space and Enter press it. A button too narrow for a letter shows no caption.
 #pragma once
 
 #include <functional>
@@ -10,14 +10,14 @@ namespace trabeon {
 
 class Button : public Control {
   public:
-    // 1215 by 375 twips, wider if the caption asks for it.
+    /// 1215 by 375 twips, or wider if the caption needs it. "&" marks the access key.
     Button(Container& parent, const std::string& caption);
 
     std::function<void()> Click;
 
-    std::string Caption() const;
+    [[nodiscard]] std::string Caption() const;
     void SetCaption(const std::string& caption);
-    // Presses it, if it is enabled.
+    /// Presses the button if it is enabled.
     void Press();
 
   protected:

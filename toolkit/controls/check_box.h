@@ -11,7 +11,7 @@ class CheckBox : public Control {
   public:
     CheckBox(Container& parent, const std::string& caption, bool ticked = false);
 
-    bool Value() const;
+    [[nodiscard]] bool Value() const;
     void SetValue(bool ticked);
 };
 

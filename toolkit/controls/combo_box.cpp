@@ -18,14 +18,14 @@ QComboBox& Inner(const Control& control) {
 ComboBox::ComboBox(Container& parent) : Control(new QComboBox(parent.Canvas())) {
     Control::Resize(ToPixels(1815), ToPixels(375));
     Inner(*this).setMaxVisibleItems(20);
-    // `activated` is the user's choice alone, the same entry once more included.
+    // `activated` fires for each choice of the user, also of the same entry, and never for code.
     QObject::connect(&Inner(*this), &QComboBox::activated, [this] {
         if (Click)
             Click();
     });
 }
 
-// The wheel turns the form, not the choice: an open list has its own window.
+// The wheel scrolls the form and does not choose. An open list has a window of its own.
 bool ComboBox::OnEvent(QEvent& event) {
     if (event.type() != QEvent::Wheel)
         return Control::OnEvent(event);
@@ -36,7 +36,7 @@ bool ComboBox::OnEvent(QEvent& event) {
 void ComboBox::AddItem(const std::string& text) {
     const int chosen = ListIndex();
     Inner(*this).addItem(ShownText(text));
-    Inner(*this).setCurrentIndex(chosen);  // the widget chooses its first entry by itself
+    Inner(*this).setCurrentIndex(chosen);  // the widget has chosen its first entry
 }
 
 int ComboBox::ListCount() const {

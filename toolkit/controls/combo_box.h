@@ -1,5 +1,5 @@
-// A drop-down list; the wheel chooses only while the list is open. Positions count from 0; -1 is
-// nothing chosen.
+// A drop-down list. The wheel chooses an entry only while the list is open. Positions count from 0;
+// -1 means that no entry is chosen.
 #pragma once
 
 #include <functional>
@@ -13,18 +13,19 @@ class ComboBox : public Control {
   public:
     explicit ComboBox(Container& parent);
 
-    // An entry was chosen, by the user or through SetListIndex, also the one that stood already.
+    /// The user or SetListIndex chose an entry, possibly the same one as before.
     std::function<void()> Click;
 
-    void AddItem(const std::string& text);  // chooses nothing
-    int ListCount() const;
-    std::string List(int index) const;
-    int ListIndex() const;
-    // Fires Click before it returns, unless the index is -1 or past the list, which both choose
-    // nothing.
+    /// Adds an entry without choosing it.
+    void AddItem(const std::string& text);
+    [[nodiscard]] int ListCount() const;
+    [[nodiscard]] std::string List(int index) const;
+    [[nodiscard]] int ListIndex() const;
+    /// Chooses an entry and fires Click before it returns. An index outside the list chooses no
+    /// entry and fires nothing.
     void SetListIndex(int index);
-    std::string Text() const;
-    // Shows the entry of that text; changes nothing if there is none. Fires nothing.
+    [[nodiscard]] std::string Text() const;
+    /// Chooses the entry with this text, if there is one. Fires nothing.
     void SetText(const std::string& text);
 
   protected:

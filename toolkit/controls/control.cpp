@@ -15,7 +15,7 @@ namespace trabeon {
 
 namespace {
 
-// The widget's own answer to the event, passing by the filters.
+// Gives the event to the widget without the filters.
 void Deliver(QWidget& widget, QEvent& event) {
     static_cast<QObject&>(widget).event(&event);
 }
@@ -27,7 +27,7 @@ bool IsReturning(Qt::FocusReason reason) {
 
 constexpr int DeleteCode = 127;
 
-// Alt and a character is a command, also where nothing answers it. Alt with Ctrl is AltGr, which
+// Alt and a character is a command, even if nothing responds to it. Alt with Ctrl is AltGr, which
 // types.
 bool IsAltCharacter(const QEvent& event) {
     if (event.type() != QEvent::KeyPress)
@@ -38,14 +38,14 @@ bool IsAltCharacter(const QEvent& event) {
     return alt && !press.text().isEmpty() && press.text().at(0).isPrint();
 }
 
-// Ctrl, or Ctrl and Shift, make a command of a character. With any other keys, as AltGr (which is
-// Ctrl and Alt), a text box types it.
+// A character with Ctrl, or with Ctrl and Shift, is a command. With other keys, for example AltGr
+// (Ctrl and Alt), a text box types it.
 bool IsCommand(const QKeyEvent& event) {
     return (event.modifiers() & ~Qt::KeyboardModifiers(Qt::ShiftModifier)) == Qt::ControlModifier;
 }
 
-// The text that a key types, Enter and Backspace among it; empty for all else, as shortcuts and
-// Tab.
+// The text that a key types, including Enter and Backspace. Empty for all other keys, such as
+// shortcuts and Tab.
 QString TypedText(const QKeyEvent& event) {
     const QString text = event.text();
     if (text.isEmpty() || text.at(0).category() != QChar::Other_Control)
@@ -59,9 +59,9 @@ QString TypedText(const QKeyEvent& event) {
 
 }  // namespace
 
-class Control::Tap : public QObject {
+class Control::EventFilter : public QObject {
   public:
-    explicit Tap(Control& control) : control_(control) {}
+    explicit EventFilter(Control& control) : control_(control) {}
 
     bool eventFilter(QObject* target, QEvent* event) override {
         if (target != control_.Widget())
@@ -73,18 +73,19 @@ class Control::Tap : public QObject {
     Control& control_;
 };
 
-Control::Control(QWidget* widget) : Placement(widget), tap_(std::make_unique<Tap>(*this)) {
-    widget->installEventFilter(tap_.get());
-    widget->show();  // else a control made while its form stands would stay out of sight
+Control::Control(QWidget* widget)
+    : Placement(widget), filter_(std::make_unique<EventFilter>(*this)) {
+    widget->installEventFilter(filter_.get());
+    widget->show();  // else a control that is made while its form shows would stay hidden
 }
 
 Control::~Control() {
-    tap_.reset();
+    filter_.reset();
     delete Widget();
 }
 
 void Control::Watch(QWidget* inner) {
-    inner->installEventFilter(tap_.get());
+    inner->installEventFilter(filter_.get());
 }
 
 bool Control::OnInnerEvent(QEvent&) {
@@ -93,10 +94,9 @@ bool Control::OnInnerEvent(QEvent&) {
 
 bool Control::OnEvent(QEvent& event) {
     if (event.type() == QEvent::FocusIn) {
-        // The widget first, so that what the handler selects stays selected.
+        // The widget comes first, so that the selection of the handler stays.
         Deliver(*Widget(), event);
-        // A control that was given the focus while its window was not the active one has yet to
-        // hear of it.
+        // If the control got the focus while its window was not active, GotFocus has not fired yet.
         const bool isNew = !std::exchange(focused_, true);
         if (GotFocus && (isNew || !IsReturning(static_cast<QFocusEvent&>(event).reason())))
             GotFocus();
@@ -110,12 +110,12 @@ bool Control::OnEvent(QEvent& event) {
     }
     if (event.type() == QEvent::KeyPress && KeyPress)
         return OnKey(static_cast<QKeyEvent&>(event));
-    // Composed characters come past the key events.
+    // Composed characters do not come as key events.
     return event.type() == QEvent::InputMethod && KeyPress &&
            Drops(static_cast<QInputMethodEvent&>(event).commitString());
 }
 
-// Whether the handler drops one of the characters: that takes all with it.
+// Whether the handler drops one of the characters. Then all of them are dropped.
 bool Control::Drops(const QString& characters) {
     return std::any_of(characters.begin(), characters.end(), [this](QChar character) {
         int key = character.unicode();

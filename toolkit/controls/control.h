@@ -1,4 +1,4 @@
-// What every control of a form has: a place, a font, the focus and the keys that reach it.
+// What every control of a form has: a place, a font, the focus and the keys.
 #pragma once
 
 #include <functional>
@@ -18,41 +18,42 @@ class Control : public Placement {
   public:
     ~Control() override;
 
-    // The focus came to the control by key, mouse or code; not when it merely comes back with the
-    // window, from a popup or from the menu bar.
+    /// The control got the focus by key, mouse or code. Does not fire when the focus only returns
+    /// with the window, from a popup or from the menu bar.
     std::function<void()> GotFocus;
-    // A character key, before the control sees it: 13 Enter, 8 Backspace, else the character's
-    // code. Set it to 0 to drop the key, or to another code to replace it.
+    /// A character key, before the control gets it: 13 Enter, 8 Backspace, otherwise the code of
+    /// the character. Set it to 0 to drop the key, or to another code to replace it.
     std::function<void(int& keyAscii)> KeyPress;
 
-    bool Enabled() const;
+    [[nodiscard]] bool Enabled() const;
     void SetEnabled(bool enabled);
-    bool Visible() const;
+    [[nodiscard]] bool Visible() const;
     void SetVisible(bool visible);
-    // Fires GotFocus, unless the control has the focus or its window is not the active one.
+    /// Fires GotFocus, unless the control already has the focus or its window is not active.
     void SetFocus();
-    bool HasFocus() const;
-    // A font that the system lacks is replaced by one of the same measure.
+    [[nodiscard]] bool HasFocus() const;
+    /// If the system does not have the font, a font with the same widths is used.
     void SetFont(const std::string& name, double points, bool bold);
     void SetAccessibleName(const std::string& name);
     void SetToolTipText(const std::string& text);
 
   protected:
-    // Takes the widget over.
+    /// Owns the widget from now on.
     explicit Control(QWidget* widget);
-    // Sees each event of the widget first; true swallows it.
+    /// Gets each event of the widget first. True: the widget does not get it.
     virtual bool OnEvent(QEvent& event);
-    // The same for a further widget, as the inner one of a scrolling control.
+    /// Sends the events of another widget to OnInnerEvent, for example of the widget inside a
+    /// scrolling control.
     void Watch(QWidget* inner);
     virtual bool OnInnerEvent(QEvent& event);
 
   private:
-    class Tap;
+    class EventFilter;
     bool OnKey(QKeyEvent& event);
     bool Drops(const QString& characters);
 
-    std::unique_ptr<Tap> tap_;
-    bool focused_ = false;  // also while the window is not the active one
+    std::unique_ptr<EventFilter> filter_;
+    bool focused_ = false;  // also while the window is not active
 };
 
 }  // namespace trabeon

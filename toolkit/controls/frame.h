@@ -1,4 +1,4 @@
-// A titled border around controls, which stand on it and count their place from its corner.
+// A border with a title around controls. Their places count from its corner.
 #pragma once
 
 #include <string>

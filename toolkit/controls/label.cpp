@@ -14,8 +14,8 @@ QLabel& Inner(const Control& control) {
 
 QString WithoutAccessKey(QString caption) {
     for (qsizetype at = caption.indexOf('&'); at >= 0; at = caption.indexOf('&', at + 1))
-        if (caption.mid(at + 1, 1) != " ")  // a blank is no key: the "&" means itself
-            caption.remove(at, 1);          // "&&" leaves one, which is passed over
+        if (caption.mid(at + 1, 1) != " ")  // "& " is an ordinary "&"
+            caption.remove(at, 1);          // "&&" leaves one "&"
     return caption;
 }
 

@@ -11,15 +11,15 @@ class Label : public Control {
   public:
     Label(Container& parent, const std::string& caption);
 
-    // As it was set, with its "&".
-    std::string Caption() const;
-    // Keeps the label's place; one that was never given a size fits itself to the caption.
+    /// As it was set, with its "&".
+    [[nodiscard]] std::string Caption() const;
+    /// Keeps the place of the label. A label without a set size takes the size of the caption.
     void SetCaption(const std::string& caption);
     void SetForeColor(Colour colour);
-    // A caption that is too long for one line goes on in the next.
+    /// Whether a caption that is too long for one line continues on the next line.
     void SetWraps(bool wraps);
-    // The access key moves the focus to this control, which also takes the caption as its name for
-    // a screen reader. Without it the "&" only stays out of sight.
+    /// The access key of the caption moves the focus to this control, and the caption becomes the
+    /// name of the control for a screen reader. A label without a buddy only hides the "&".
     void SetBuddy(Control& control);
 
   protected:

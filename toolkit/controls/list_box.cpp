@@ -16,8 +16,8 @@ QListWidget& Inner(const Control& control) {
     return *static_cast<QListWidget*>(control.Widget());
 }
 
-// As wide as the list, whatever the text. Entries differ in the number at their end: where the text
-// does not fit, what is in front of the number is shortened, and shows whole under the pointer.
+// Entries are as wide as the list and differ in the number at their end. If a text does not fit,
+// the part in front of the number is shortened. The tool tip shows the whole text.
 class EntryDelegate : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -47,7 +47,7 @@ class EntryDelegate : public QStyledItemDelegate {
     }
 };
 
-// A press on blank space keeps the selection.
+// A click on blank space keeps the selection.
 class Entries : public QListWidget {
   public:
     using QListWidget::QListWidget;
@@ -118,7 +118,7 @@ void ListBox::SetSelected(int index, bool selected) {
     OnSelection();
 }
 
-// Neighbours go as one range: the selection looks through its ranges for each entry.
+// Neighbours are one range, because the selection searches its ranges for each entry.
 void ListBox::SetSelection(const std::vector<bool>& selected) {
     const QAbstractItemModel& entries = *Inner(*this).model();
     const int count = std::min(ListCount(), static_cast<int>(selected.size()));

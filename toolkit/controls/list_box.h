@@ -13,17 +13,16 @@ class ListBox : public Control {
   public:
     explicit ListBox(Container& parent);
 
-    // The selection became another one, by the user or by code, or the user clicked an entry that
-    // was selected already.
+    /// The user or the code changed the selection, or the user clicked a selected entry.
     std::function<void()> Click;
 
     void AddItem(const std::string& text);
-    int ListCount() const;
-    std::string List(int index) const;
-    bool Selected(int index) const;
-    // Fires Click before it returns, also if nothing changes.
+    [[nodiscard]] int ListCount() const;
+    [[nodiscard]] std::string List(int index) const;
+    [[nodiscard]] bool Selected(int index) const;
+    /// Fires Click before it returns, even if nothing changes.
     void SetSelected(int index, bool selected);
-    // The same for the first entries at once, as many as are told: Click is fired once.
+    /// Selects element i of `selected` for entry i, and no others. Fires Click once.
     void SetSelection(const std::vector<bool>& selected);
 
   protected:

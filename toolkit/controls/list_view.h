@@ -1,5 +1,5 @@
-// A list of rows under column titles. Rows, columns and sub-items count as the callers of a list
-// view count: rows and sub-items from 1, sort keys from 0.
+// A list of rows under column titles. As in other list views, rows and sub-items count from 1, and
+// sort keys count from 0.
 #pragma once
 
 #include <functional>
@@ -10,44 +10,51 @@
 
 namespace trabeon {
 
+class ListRow;
+class ListTree;
 class ListView;
-class Row;
 
-// A row, or none: then Index and FilePosition are 0 and the texts empty. Good until the row goes.
+/// A row, or no row: then Index and FilePosition are 0 and the texts empty. Valid until the row is
+/// removed.
 class ListItem {
   public:
     ListItem() = default;
 
     explicit operator bool() const { return row_ != nullptr; }
-    // The position at which the row shows.
-    int Index() const;
-    // The position in which it was added, which no sorting changes: the row's place in the file.
-    int FilePosition() const;
-    std::string Text() const;
-    // The text of column n + 1.
-    std::string SubItems(int n) const;
+    /// The position at which the row shows.
+    [[nodiscard]] int Index() const;
+    /// The position at which the row was added: its place in the file. Sorting does not change it.
+    [[nodiscard]] int FilePosition() const;
+    /// The text of the first column.
+    [[nodiscard]] std::string Text() const;
+    /// The text of column n + 1.
+    [[nodiscard]] std::string SubItems(int n) const;
     void SetSubItems(int n, const std::string& text);
-    // How the row looks; none of these changes its texts.
+    /// The next four change how the row looks, not its texts.
     void SetForeColor(Colour colour);
-    void SetWarningSign(bool shown);           // in front of the first text
-    void SetMark(const std::string& word);     // at the right end of the first column
-    void SetToolTip(const std::string& text);  // of the whole row
+    /// A warning sign in front of the first text.
+    void SetWarningSign(bool shown);
+    /// A word at the right end of the first column.
+    void SetMark(const std::string& word);
+    /// The tool tip of the whole row.
+    void SetToolTip(const std::string& text);
 
   private:
     friend class ListView;
     friend class ListItemsOf;
-    explicit ListItem(Row* row) : row_(row) {}
+    explicit ListItem(ListRow* row) : row_(row) {}
 
-    Row* row_ = nullptr;
+    ListRow* row_ = nullptr;
 };
 
 class ListItemsOf {
   public:
-    int Count() const;
+    [[nodiscard]] int Count() const;
     void Clear();
-    // Behind all others, or at its place in the order if the list is sorted.
+    /// Adds a row at the end, or at its place in the order if the list is sorted.
     ListItem Add(const std::string& text);
-    ListItem operator()(int index) const;  // by the position at which the row shows
+    /// The row that shows at this position.
+    [[nodiscard]] ListItem operator()(int index) const;
 
   private:
     friend class ListView;
@@ -68,31 +75,34 @@ class ListView : public Control {
   public:
     ListView(Container& parent, const std::vector<ListColumn>& columns);
 
-    // A click anywhere in the list, or a row chosen by key. Nothing here is fired by code.
+    /// The user clicked anywhere in the list, or moved to a row by key. Code fires none of these.
     std::function<void()> Click;
-    std::function<void()> DblClick;               // on a row, after its Click
-    std::function<void(int column)> ColumnClick;  // the title's Index, from 1
+    /// A double click on a row, after its Click.
+    std::function<void()> DblClick;
+    /// A click on the title of a column, which counts from 1.
+    std::function<void(int column)> ColumnClick;
 
     ListItemsOf ListItems{*this};
 
-    // While the list has rows and none is selected it is the first one.
-    ListItem SelectedItem() const;
-    void SetSelectedItem(const ListItem& item);  // and brings it into sight
+    /// If the list has rows and none is selected, the first row.
+    [[nodiscard]] ListItem SelectedItem() const;
+    /// Selects a row and scrolls to it.
+    void SetSelectedItem(const ListItem& item);
     void EnsureVisible(const ListItem& item);
 
-    // Rows show sorted as text by the column of the key while Sorted is on; when it goes off they
-    // stay in the order they have.
+    /// While Sorted is on, the rows are sorted as text by the column of the key. When it goes off,
+    /// they keep their order.
     void SetSortKey(int column);
-    ListSortOrder SortOrder() const { return sortOrder_; }
+    [[nodiscard]] ListSortOrder SortOrder() const { return sortOrder_; }
     void SetSortOrder(ListSortOrder order);
     void SetSorted(bool sorted);
 
-    // Several rows can be selected, to be copied with Ctrl+C as lines of tab-separated text.
+    /// Several rows can be selected. Ctrl+C copies them as lines of text separated by tabs.
     void SetMultiSelect(bool multi);
-    // What is copied begins with a line of the titles.
+    /// Whether the copied lines begin with one of the titles.
     void SetCopiesTitles(bool copies) { copiesTitles_ = copies; }
     void SetGridLines(bool shown);
-    // A title wider than its column goes on in a second line.
+    /// Whether a title wider than its column continues on a second line.
     void SetWrapsTitles(bool wraps);
 
   protected:
@@ -102,10 +112,10 @@ class ListView : public Control {
   private:
     friend class ListItem;
     friend class ListItemsOf;
-    class Tree;
-    Tree& Inner() const;
-    void Unsettle();
-    void Settle() const;
+    [[nodiscard]] ListTree& Inner() const;
+    /// Sorts the rows and selects one if needed: now, or when the handlers have ended.
+    void Update() const;
+    void UpdateLater();
     void Copy() const;
     bool OnKey(QEvent& event);
 
@@ -113,7 +123,7 @@ class ListView : public Control {
     ListSortOrder sortOrder_ = ListSortOrder::Rising;
     bool sorted_ = false;
     bool copiesTitles_ = false;
-    mutable bool settled_ = true;
+    mutable bool upToDate_ = true;
     bool pressed_ = false;
 };
 

@@ -1,4 +1,4 @@
-// One of the choices of a form or a frame: choosing one leaves the others on it.
+// One of several choices on a form or a frame. Only one of them is chosen at a time.
 #pragma once
 
 #include <functional>
@@ -12,11 +12,11 @@ class OptionButton : public Control {
   public:
     OptionButton(Container& parent, const std::string& caption, bool chosen = false);
 
-    // This option became the chosen one, by the user or by code.
+    /// The user or the code chose this option.
     std::function<void()> Click;
 
-    bool Value() const;
-    // Fires Click if the option was not the chosen one.
+    [[nodiscard]] bool Value() const;
+    /// Fires Click if another option was chosen before.
     void Choose();
 };
 

@@ -160,7 +160,7 @@ QImage PictureBox::Picture() const {
     painter.setFont(Widget()->font());
     Paint(painter, ratio);
     painter.end();
-    SetRatio(picture, ratio);  // told earlier, its dots would make the text larger
+    SetRatio(picture, ratio);  // set earlier, it would make the text larger
     return picture;
 }
 

@@ -20,7 +20,7 @@ class StillPicture : public QWidget {
         painter.fillRect(rect(), Qt::white);
         if (picture.isNull())
             return;
-        // Scaled once, to the screen's own pixels.
+        // Scaled once, to the pixels of the screen.
         const QImage fitted = picture.scaled(size() * devicePixelRatioF(), Qt::KeepAspectRatio,
                                              Qt::SmoothTransformation);
         const QSizeF shown = QSizeF(fitted.size()) / devicePixelRatioF();
@@ -41,7 +41,7 @@ StillPicture& Inner(const Control& control) {
 PictureView::PictureView(Container& parent) : Control(new StillPicture(parent.Canvas())) {}
 
 void PictureView::Navigate(const std::string& path) {
-    // In full colour: a palette picture cannot be scaled smoothly.
+    // Full colour, because a picture with a palette cannot be scaled smoothly.
     Inner(*this).picture =
         QImage(QString::fromStdString(path)).convertToFormat(QImage::Format_ARGB32_Premultiplied);
     Inner(*this).update();

@@ -44,7 +44,7 @@ void ProgressBar::SetValue(double value) {
     }
 }
 
-// The widget repaints at once, whenever the bar grows by a pixel.
+// The widget repaints at once when the bar grows by a pixel.
 void ProgressBar::ShowValue() {
     static_cast<QProgressBar*>(Widget())->setValue(
         static_cast<int>(std::lround(value_ * StepsPerCent)));

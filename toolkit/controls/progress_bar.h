@@ -1,4 +1,4 @@
-// How far a step has come, 0 to 100.
+// A bar that shows the progress of a step, 0 to 100.
 #pragma once
 
 #include <chrono>
@@ -11,16 +11,16 @@ class ProgressBar : public Control {
   public:
     explicit ProgressBar(Container& parent);
 
-    double Value() const;
-    // Held within 0 and 100. The bar shows 0 and 100 before this returns, also while a handler
-    // runs, and what is between at the screen's pace: a step a microsecond would spend it painting.
+    [[nodiscard]] double Value() const;
+    /// Limits the value to 0 to 100. The bar shows 0 and 100 at once, even while a handler runs. It
+    /// shows values between them at most 30 times a second, so that painting takes little time.
     void SetValue(double value);
 
   private:
     void ShowValue();
 
     double value_ = 0;
-    bool waiting_ = false;  // to be shown when the handlers have come to their end
+    bool waiting_ = false;  // to be shown after the handlers have ended
     std::chrono::steady_clock::time_point shownAt_;
 };
 

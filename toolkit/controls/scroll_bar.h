@@ -1,4 +1,4 @@
-// A scroll bar that stands on its own.
+// A separate scroll bar.
 #pragma once
 
 #include <functional>
@@ -13,13 +13,14 @@ class ScrollBar : public Control {
   public:
     ScrollBar(Container& parent, Direction direction);
 
-    // The value became another one, by the user or by code.
+    /// The user or the code changed the value.
     std::function<void()> Change;
 
     void SetRange(int min, int max);
     void SetSteps(int smallChange, int largeChange);
-    int Value() const;
-    void SetValue(int value);  // fires Change if the value is another one
+    [[nodiscard]] int Value() const;
+    /// Fires Change if the value differs.
+    void SetValue(int value);
 };
 
 }  // namespace trabeon

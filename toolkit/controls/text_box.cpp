@@ -111,14 +111,14 @@ void TextBox::SetLocked(bool locked) {
 bool TextBox::OnEvent(QEvent& event) {
     if (event.type() == QEvent::FocusIn)
         entering_ = static_cast<QFocusEvent&>(event).reason() == Qt::MouseFocusReason;
-    // A box with nothing to undo leaves the key to the window.
+    // If there is nothing to undo, the window gets the key.
     if (event.type() == QEvent::ShortcutOverride && !Inner(*this).isUndoAvailable() &&
         static_cast<QKeyEvent&>(event).matches(QKeySequence::Undo))
         return true;
     return OnMouse(event) || Control::OnEvent(event);
 }
 
-// The click that brings the focus would take away what GotFocus has just selected.
+// The click that brings the focus would remove the selection that GotFocus has just made.
 bool TextBox::OnMouse(QEvent& event) {
     switch (event.type()) {
         case QEvent::MouseButtonPress:

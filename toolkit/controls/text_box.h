@@ -12,28 +12,31 @@ class TextBox : public Control {
   public:
     explicit TextBox(Container& parent, const std::string& text = "");
 
-    // The text became another one, by the user or by code.
+    /// The user or the code changed the text.
     std::function<void()> Change;
-    // What is to be said about a new text; empty if nothing is. The box is tinted while there is
-    // something, and shows it under the pointer, after the tip that the box has anyway.
+    /// A remark on a new text, or empty. While there is a remark, the box is tinted and its tool
+    /// tip ends with the remark.
     std::function<std::string(const std::string& text)> Remark;
 
-    // While the box shows the text that it was given, the very bytes of that text; else UTF-8.
-    std::string Text() const;
-    // Fires Change if the text is another one.
+    /// The text in UTF-8. While the box shows the text that it was given, the same bytes as that
+    /// text.
+    [[nodiscard]] std::string Text() const;
+    /// Fires Change if the text differs.
     void SetText(const std::string& text);
 
-    // The selection, in characters from 0. What a GotFocus handler selects stays selected when
-    // the focus came by a click.
-    int SelStart() const;
-    int SelLength() const;
-    void SetSelStart(int start);  // and nothing selected
+    /// The selection, in characters from 0. The selection that a GotFocus handler makes stays when
+    /// the focus came by a click.
+    [[nodiscard]] int SelStart() const;
+    [[nodiscard]] int SelLength() const;
+    /// Selects nothing.
+    void SetSelStart(int start);
     void SetSelLength(int length);
     void SelectAll();
 
-    // Keeps double quotes and line ends out, typed or pasted: the text ends in a field of a file.
+    /// Keeps double quotes and line ends out, typed or pasted, because the text becomes a field of
+    /// a file.
     void SetKeepsToField(bool keeps);
-    // The text can be read and copied only.
+    /// The user can read and copy the text but not change it.
     void SetLocked(bool locked);
 
   protected:
@@ -44,9 +47,9 @@ class TextBox : public Control {
     void ShowRemark();
 
     std::string given_;
-    bool entering_ = false;  // the focus comes by the click that is under way
+    bool entering_ = false;  // the current click brought the focus
     std::string remark_;
-    bool dragging_ = false;  // that click was swallowed, its moves are as well
+    bool dragging_ = false;  // that click was dropped, and so are its moves
 };
 
 }  // namespace trabeon

@@ -9,7 +9,7 @@ namespace trabeon {
 
 class VerticalButton : public Button {
   public:
-    // 345 twips wide, and as high as its caption asks for.
+    /// 345 twips wide, and as high as its caption needs.
     VerticalButton(Container& parent, const std::string& caption);
 
   protected:

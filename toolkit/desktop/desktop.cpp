@@ -18,7 +18,7 @@
 
 #include "toolkit/desktop/page_window.h"
 #include "toolkit/look/shown_text.h"
-#include "toolkit/pages/page_printer.h"
+#include "toolkit/pages/printer.h"
 
 namespace trabeon {
 
@@ -68,12 +68,12 @@ Answer AnswerOf(int button) {
     }
 }
 
-// The window that a box belongs to. It becomes the active one again when the box has closed:
-// some platforms leave none active, and no focus event comes from then on.
+// The window that a box belongs to. It becomes active again when the box is closed: some platforms
+// leave no window active, and then no focus event ever comes again.
 class Owner {
   public:
     Owner() : window_(QApplication::activeWindow()) {
-        QGuiApplication::setOverrideCursor(Qt::ArrowCursor);  // the program waits for the user now
+        QGuiApplication::setOverrideCursor(Qt::ArrowCursor);  // the program now waits for the user
     }
     ~Owner() {
         QGuiApplication::restoreOverrideCursor();
@@ -89,7 +89,7 @@ class Owner {
     QPointer<QWidget> window_;
 };
 
-// "Text (*.A) |*.A" names the pattern twice; the dialog wants "Text (*.A)".
+// "Text (*.A) |*.A" contains the pattern twice, and the dialog needs "Text (*.A)".
 QString DialogFilter(const std::string& filter) {
     const QStringList parts = ShownText(filter).split('|');
     if (parts.size() < 2)
@@ -98,12 +98,12 @@ QString DialogFilter(const std::string& filter) {
     return text + " (" + parts.at(1).trimmed() + ");;All files (*)";
 }
 
-// The system's default printer; where there is none, A4 sheets of a PDF file that has no name yet.
+// The system's default printer. If there is none, A4 sheets in a PDF file without a name yet.
 std::unique_ptr<QPrinter> DefaultPrinter() {
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     const QPrinterInfo info = QPrinterInfo::defaultPrinter();
     if (!info.isNull()) {
-        // One that tells nothing of itself would be taken for one without colour.
+        // Qt takes a printer that says nothing about itself for one without colour.
         if (info.supportedPageSizes().isEmpty())
             printer->setColorMode(QPrinter::Color);
         return printer;
@@ -153,7 +153,7 @@ std::string Desktop::AskFile(const FileQuestion& question) {
     if (!question.fileName.empty())
         dialog.selectFile(QString::fromStdString(question.fileName));
     QString chosen;
-    do {  // the dialog comes up again with what was typed
+    do {  // the dialog comes back with what was typed
         if (dialog.exec() != QDialog::Accepted)
             return {};
         chosen = dialog.selectedFiles().value(0);
@@ -194,7 +194,7 @@ QImage Desktop::Picture() const {
 bool Desktop::OpenDocument(const std::string& path) {
     const QString file = QString::fromStdString(path);
     auto* messages = QLoggingCategory::defaultCategory();
-    messages->setEnabled(QtWarningMsg, false);  // that there is no browser is our answer, not news
+    messages->setEnabled(QtWarningMsg, false);  // a missing browser is our answer, not a warning
     const bool opened = QDesktopServices::openUrl(QUrl::fromLocalFile(file));
     messages->setEnabled(QtWarningMsg, true);
     if (opened)

@@ -1,4 +1,4 @@
-// The real way out: boxes, dialogs, clipboard, printer and programs of the user's desktop.
+// The real outside: boxes, dialogs, clipboard, printer and programs of the user's desktop.
 #pragma once
 
 #include <QString>
@@ -17,21 +17,21 @@ class Desktop : public Outside {
 
     Answer MsgBox(const std::string& text, int style, const std::string& title) override;
     Answer AskToReplace(const std::string& text) override;
-    // Starts in the folder of the last answer; before there is one, in the question's or at home.
-    // A name that is refused, or not to be created, leads back to the dialog as it was.
+    /// Starts in the folder of the last answer. Before the first answer, in the folder of the
+    /// question or in the home folder. If a name is refused, the dialog comes back as it was.
     std::string AskFile(const FileQuestion& question) override;
     void PutText(const std::string& text) override;
     void PutPicture(const QImage& picture) override;
     QImage Picture() const override;
-    // Where the desktop has no browser, a page (.htm) comes up in a window of the program: the same
-    // one each time.
+    /// If the desktop has no browser, the program shows a page (.htm) in its own window, the same
+    /// one each time.
     bool OpenDocument(const std::string& path) override;
     std::unique_ptr<QPrinter> OpenPrinter(const std::string& documentName) override;
     Paper DefaultPaper() const override;
     void End() override;
 
   private:
-    // Whether the user may have this name. Says why not, or asks.
+    /// Whether this name may be used. Tells the user why not, or asks.
     bool IsAgreed(const QString& chosen, const FileQuestion& question);
 
     std::unique_ptr<PageWindow> page_;

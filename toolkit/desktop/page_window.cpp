@@ -14,7 +14,7 @@ namespace {
 
 constexpr QSize usualSize(840, 720);
 
-// A button that its key presses at once; the shortcut of a button would wait to show the press.
+// A button with a key. A shortcut of the button itself would wait to show the press.
 QPushButton& AddButton(QWidget& window, QHBoxLayout& bar, const QString& text,
                        const QKeySequence& key) {
     auto* button = new QPushButton(text);
@@ -22,7 +22,7 @@ QPushButton& AddButton(QWidget& window, QHBoxLayout& bar, const QString& text,
     QObject::connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
     button->setToolTip(text + " (" + key.toString(QKeySequence::NativeText) + ")");
     button->setAutoDefault(true);
-    button->setEnabled(false);  // no page was shown yet
+    button->setEnabled(false);  // until a page has been shown
     bar.addWidget(button);
     return *button;
 }

@@ -1,4 +1,4 @@
-// A window of the program that shows pages of the manual, where the desktop has no browser.
+// A window that shows pages of the manual if the desktop has no browser.
 #pragma once
 
 #include <QWidget>
@@ -7,14 +7,14 @@ class QTextBrowser;
 
 namespace trabeon {
 
-// Links lead from page to page; Back and Forward, or Alt+Left and Alt+Right, retrace them. Escape
-// closes the window. It keeps where it was.
+/// Links lead from page to page. Back and Forward, or Alt+Left and Alt+Right, go through the pages
+/// already seen. Escape closes the window; it keeps its place.
 class PageWindow : public QWidget {
   public:
     PageWindow();
 
-    // Shows the page and comes to the front. While no window of the program is active, as at the
-    // start, it leaves the keyboard to the main window, which comes up at the same time.
+    /// Shows the page in front. If no window of the program is active, for example at the start,
+    /// the main window gets the keyboard, because it comes up at the same time.
     void Open(const QString& path);
 
   private:

@@ -12,21 +12,21 @@ class DrawingView : public Control {
   public:
     explicit DrawingView(Container& parent);
 
-    // The left button was pressed at this place, in pixels from the corner inside the border.
+    /// The left button was pressed at this place, in pixels from the corner inside the border.
     std::function<void(double x, double y)> Click;
 
-    // The size inside the border, in pixels.
+    /// The size inside the border, in pixels.
     double InnerWidth() const;
     double InnerHeight() const;
     TextMeasure Measure() const;
 
-    // Makes the drawing for the present size. It runs when somebody looks, and then not again
-    // before the next Redraw.
+    /// Makes the drawing for the present size. It runs when somebody looks, and then not again
+    /// before the next Redraw.
     std::function<Drawing()> Draw;
     void Redraw();
     const Drawing& Drawn() const;
 
-    // A drawing made for the size of this view, on white and sharp on paper.
+    /// A drawing made for the size of this view, on white and sharp on paper.
     QImage PictureOf(const Drawing& drawing) const;
     void CopyToClipboard(const Drawing& drawing) const;
 

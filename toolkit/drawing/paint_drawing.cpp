@@ -32,7 +32,7 @@ QPointF PointOf(const DrawnPoint& point) {
     return {point.x, point.y};
 }
 
-// Paints one shape, by its kind.
+/// Paints one shape, by its kind.
 struct Brush {
     QPainter& painter;
     QFont font;

@@ -8,10 +8,10 @@ class QPainter;
 
 namespace trabeon {
 
-// In the painter's font and its measures, which the caller scales if need be.
+/// In the painter's font and its measures, which the caller scales if need be.
 void PaintDrawing(QPainter& painter, const Drawing& drawing);
 
-// The room that texts take in this font, in pixels of 1/96 inch.
+/// The room that texts take in this font, in pixels of 1/96 inch.
 TextMeasure MeasureOf(const QFont& font);
 
 }  // namespace trabeon

@@ -22,14 +22,14 @@ struct Pen {
     bool dashed = false;
 };
 
-// A line through points. One with a fill is an area: its last point is joined to its first.
+/// A line through points. One with a fill is an area: its last point is joined to its first.
 struct PathShape {
     std::vector<DrawnPoint> points;
     std::optional<Pen> pen;
     std::optional<Colour> fill{};
 };
 
-// A part of a circle, in degrees against the clock from three o'clock. A sweep of 360 is a circle.
+/// A part of a circle, in degrees against the clock from three o'clock. A sweep of 360 is a circle.
 struct ArcShape {
     DrawnPoint centre;
     double radius = 0;
@@ -52,7 +52,7 @@ struct TextSize {
     double width = 0, height = 0;
 };
 
-// How much room a text takes in the font of the surface.
+/// How much room a text takes in the font of the surface.
 using TextMeasure = std::function<TextSize(const std::string& text, bool bold)>;
 
 }  // namespace trabeon

@@ -27,14 +27,14 @@ QPalette ProgramPalette() {
     QPalette palette(QColor(0xf0f0f0));
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::AlternateBase, QColor(0xf4f7fa));
-    palette.setColor(QPalette::Dark, QColor(0x8a97a6));  // the desktop behind the forms
+    palette.setColor(QPalette::Dark, QColor(0x8a97a6));  // the area behind the forms
     palette.setColor(QPalette::Highlight, QColor(HighlightColour));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(role, QColor(0x1a1a1a));
         palette.setColor(QPalette::Disabled, role, QColor(0x8a8a8a));
     }
-    // A list keeps its chosen row in sight while another control has the focus.
+    // The selected row of a list can still be seen while another control has the focus.
     palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0x5d93c2));
     palette.setColor(QPalette::ToolTipBase, QColor(0xffffe8));
     palette.setColor(QPalette::ToolTipText, QColor(0x1a1a1a));

@@ -1,4 +1,4 @@
-// The one look of the program: style, palette, fonts.
+// How all windows look: style, palette, fonts.
 #pragma once
 
 #include <string>
@@ -9,10 +9,10 @@ class QFont;
 
 namespace trabeon {
 
-// Style, palette and font for all windows; call it once, after the application is made.
+/// Sets style, palette and font for all windows. Call it once, after the application is made.
 void ApplyLook();
 
-// The font of that name, or where the system lacks it one with the same widths.
-QFont FontNamed(const std::string& name, double points, bool bold);
+/// The font with this name. If the system does not have it, a font with the same widths.
+[[nodiscard]] QFont FontNamed(const std::string& name, double points, bool bold);
 
 }  // namespace trabeon

@@ -10,7 +10,7 @@ int ToPixels(double twips) {
     return static_cast<int>(std::lround(twips / TwipsPerPixel));
 }
 
-// Both out of line: QPointer wants the whole QWidget.
+// Both are here because QPointer needs the full definition of QWidget.
 Placement::Placement() = default;
 
 Placement::Placement(QWidget* widget) : widget_(widget) {}

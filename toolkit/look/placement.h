@@ -1,4 +1,4 @@
-// Where a window or a control stands: twips, 1440 to the inch, x to the right and y downward.
+// The position and size of a window or a control, in twips: 1440 an inch, x to the right, y down.
 #pragma once
 
 #include <QPointer>
@@ -9,8 +9,8 @@ namespace trabeon {
 
 inline constexpr int TwipsPerPixel = 15;  // at 96 dots an inch
 
-// Twips as pixels, rounded to the nearest.
-int ToPixels(double twips);
+/// Twips as pixels, rounded to the nearest.
+[[nodiscard]] int ToPixels(double twips);
 
 enum class WindowState { Normal = 0, Minimized = 1, Maximized = 2 };
 
@@ -20,18 +20,18 @@ class Placement {
     Placement(const Placement&) = delete;
     Placement& operator=(const Placement&) = delete;
 
-    int Left() const;
-    int Top() const;
-    int Width() const;
-    int Height() const;
+    [[nodiscard]] int Left() const;
+    [[nodiscard]] int Top() const;
+    [[nodiscard]] int Width() const;
+    [[nodiscard]] int Height() const;
     void SetLeft(int twips);
     void SetTop(int twips);
     void SetWidth(int twips);
     void SetHeight(int twips);
-    // A width or height below 0 becomes 0.
+    /// A width or height below 0 becomes 0.
     void Move(int left, int top, int width, int height);
 
-    QWidget* Widget() const;
+    [[nodiscard]] QWidget* Widget() const;
 
   protected:
     Placement();
@@ -43,14 +43,14 @@ class Placement {
     QPointer<QWidget> widget_;
 };
 
-// Of a window, whatever kind it is.
-WindowState StateOf(const QWidget& window);
+/// The state of a main window, a child window or a dialog.
+[[nodiscard]] WindowState StateOf(const QWidget& window);
 void SetStateOf(QWidget& window, WindowState state);
 
-// What controls stand on: a form, a frame, a picture box.
+/// What controls are placed on: a form, a frame, a picture box.
 class Container {
   public:
-    virtual QWidget* Canvas() const = 0;
+    [[nodiscard]] virtual QWidget* Canvas() const = 0;
 
   protected:
     ~Container() = default;

@@ -1,4 +1,4 @@
-// Texts on their way to the screen, to paper and to other programs.
+// Texts for the screen, for paper and for other programs.
 #pragma once
 
 #include <QString>
@@ -6,8 +6,8 @@
 
 namespace trabeon {
 
-// Texts come out of files in any character set: one that is not valid UTF-8 is read as Latin-1.
-// Not for paths, which must name the same file afterwards.
-QString ShownText(std::string_view text);
+/// The text as the toolkit needs it. Files can have any character set: a text that is not valid
+/// UTF-8 is read as Latin-1. Not for paths, because their bytes must not change.
+[[nodiscard]] QString ShownText(std::string_view text);
 
 }  // namespace trabeon

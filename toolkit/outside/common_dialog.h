@@ -7,15 +7,18 @@ namespace trabeon {
 
 class CommonDialog {
   public:
-    std::string Filter;  // "Trabeon File (*.TB) |*.TB"
+    /// For example "Trabeon File (*.TB) |*.TB".
+    std::string Filter;
     std::string DialogTitle;
-    std::string InitDir;  // where ShowOpen starts while no file was chosen yet
-    // 2: ask before an existing file is chosen for saving. 2048: the folder must exist.
-    // 8192: ask before a file that does not exist is chosen. Other bits change nothing.
+    /// The folder in which ShowOpen starts until a file has been chosen.
+    std::string InitDir;
+    /// 2: ask before an existing file is replaced. 2048: the folder must exist. 8192: ask before a
+    /// new file is created. Other bits have no effect.
     int Flags = 0;
-    std::string FileName;  // the full path last chosen; a dialog that is cancelled leaves it
+    /// The full path of the file chosen last. A cancelled dialog does not change it.
+    std::string FileName;
 
-    // Both block, and answer whether the user chose a file.
+    /// Both wait for the user and return whether a file was chosen.
     [[nodiscard]] bool ShowOpen();
     [[nodiscard]] bool ShowSave();
 

@@ -1,12 +1,11 @@
 #include "toolkit/outside/picture_file.h"
 
+#include <png.h>
+
 #include <QBuffer>
 #include <QImageReader>
-#include <QtEndian>
 #include <algorithm>
 #include <cmath>
-#include <functional>
-#include <vector>
 
 namespace trabeon {
 
@@ -17,43 +16,11 @@ constexpr double MostDots = 5000;  // of a side: 300 an inch on the longest side
 constexpr double MetresPerPixel = 0.0254 / 96;
 
 constexpr int CompressionLevel = 6;
-constexpr qsizetype LengthBytes = 4;  // in front of what is compressed
-constexpr char PerMetre = 1;
-constexpr char DifferenceToRowAbove = 2;
+constexpr int BitsPerChannel = 8;
 
-QByteArray Number(qsizetype number) {
-    const quint32 bytes = qToBigEndian(static_cast<quint32>(number));
-    return {reinterpret_cast<const char*>(&bytes), sizeof bytes};
-}
-
-quint32 Crc32(const QByteArray& bytes) {
-    quint32 crc = ~0U;
-    for (const char byte : bytes) {
-        crc ^= static_cast<uchar>(byte);
-        for (int bit = 0; bit < 8; ++bit)
-            crc = (crc >> 1) ^ ((crc & 1) != 0 ? 0xedb88320U : 0);
-    }
-    return ~crc;
-}
-
-QByteArray Chunk(const QByteArray& name, const QByteArray& content) {
-    return Number(content.size()) + name + content + Number(Crc32(name + content));
-}
-
-// Drawings are mostly like the row above, so that what is left to compress is mostly 0.
-QByteArray RowDifferences(const QImage& picture) {
-    const int bytes = picture.width() * picture.depth() / 8;
-    QByteArray all(qsizetype(bytes + 1) * picture.height(), 0);
-    const std::vector<uchar> none(static_cast<std::size_t>(bytes));
-    const uchar* above = none.data();
-    auto* to = reinterpret_cast<uchar*>(all.data());
-    for (int y = 0; y < picture.height(); ++y) {
-        const uchar* row = picture.constScanLine(y);
-        *to++ = DifferenceToRowAbove;
-        to = std::transform(row, row + bytes, above, to, std::minus<uchar>());
-        above = row;
-    }
-    return all;
+void Append(png_struct* png, png_byte* bytes, std::size_t count) {
+    static_cast<QByteArray*>(png_get_io_ptr(png))
+        ->append(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(count));
 }
 
 }  // namespace
@@ -69,18 +36,32 @@ void SetRatio(QImage& picture, double ratio) {
     picture.setDotsPerMeterY(dotsPerMetre);
 }
 
-// The toolkit's own writer makes a document of 200 members take 13 s for 8 and 1.5 GiB for 0.25.
+// The toolkit's own writer tries five filters for each row and takes twice the time. Most rows of a
+// drawing are like the row above, so the filter that keeps the difference to it fits best.
 QByteArray PngOf(const QImage& picture) {
+    QByteArray file;
+    if (picture.isNull())
+        return file;
     const bool transparent = picture.hasAlphaChannel();
     const QImage plain =
         picture.convertToFormat(transparent ? QImage::Format_RGBA8888 : QImage::Format_RGB888);
-    const char kind = transparent ? 6 : 2;
-    return "\x89PNG\r\n\x1a\n" +
-           Chunk("IHDR", Number(plain.width()) + Number(plain.height()) + char(8) + kind +
-                             QByteArray(3, 0)) +
-           Chunk("pHYs", Number(plain.dotsPerMeterX()) + Number(plain.dotsPerMeterY()) + PerMetre) +
-           Chunk("IDAT", qCompress(RowDifferences(plain), CompressionLevel).mid(LengthBytes)) +
-           Chunk("IEND", {});
+    png_struct* png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
+    png_info* head = png_create_info_struct(png);
+    png_set_write_fn(png, &file, Append, nullptr);
+    png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_FILTER_UP);
+    png_set_compression_level(png, CompressionLevel);
+    png_set_IHDR(png, head, static_cast<png_uint_32>(plain.width()),
+                 static_cast<png_uint_32>(plain.height()), BitsPerChannel,
+                 transparent ? PNG_COLOR_TYPE_RGBA : PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE,
+                 PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
+    png_set_pHYs(png, head, static_cast<png_uint_32>(plain.dotsPerMeterX()),
+                 static_cast<png_uint_32>(plain.dotsPerMeterY()), PNG_RESOLUTION_METER);
+    png_write_info(png, head);
+    for (int y = 0; y < plain.height(); ++y)
+        png_write_row(png, plain.constScanLine(y));
+    png_write_end(png, head);
+    png_destroy_write_struct(&png, &head);
+    return file;
 }
 
 QSize DotsOf(const QByteArray& png) {

@@ -1,4 +1,5 @@
-// Pictures that leave the program: sharp on paper, and as bytes of a file. Toolkit inside.
+// Pictures that leave the program: how sharp they are on paper, and their PNG files. Only for the
+// toolkit's own sources and for documents.
 #pragma once
 
 #include <QByteArray>
@@ -6,15 +7,17 @@
 
 namespace trabeon {
 
-// The dots to each 1/96 inch that a picture of this size, in 1/96 inch, is drawn with: four, which
-// is 384 to the inch. One that is wider than paper, and made to fit it there, needs fewer.
-double SharpRatio(const QSize& size);
+/// The number of dots that a picture has for each 1/96 inch: 4, which is 384 an inch. A picture
+/// that is wider than paper is made smaller there, so it has fewer. The size is in 1/96 inch.
+[[nodiscard]] double SharpRatio(const QSize& size);
 
-// Tells the toolkit and other programs the size of a picture that was drawn with this ratio.
+/// Records in a picture that it has this number of dots for each 1/96 inch, for the toolkit and for
+/// other programs.
 void SetRatio(QImage& picture, double ratio);
 
-// The picture in the PNG format, with all its dots and its size. A null one is no picture.
-QByteArray PngOf(const QImage& picture);
-QSize DotsOf(const QByteArray& png);
+/// The picture as a PNG file, with all its dots and with its size on paper. Empty for a null image.
+[[nodiscard]] QByteArray PngOf(const QImage& picture);
+/// The size in dots of the picture in a PNG file.
+[[nodiscard]] QSize DotsOf(const QByteArray& png);
 
 }  // namespace trabeon

@@ -1,4 +1,4 @@
-// What a page can be drawn on: a picture, or a sheet of the printer. Measures are twips.
+// What a page can be drawn on: a picture, or a sheet of the printer. All sizes are in twips.
 #pragma once
 
 #include <QImage>
@@ -14,27 +14,28 @@ struct TwipsRect {
     int right = 0;
     int bottom = 0;
 
-    int Width() const { return right > left ? right - left : 0; }
-    int Height() const { return bottom > top ? bottom - top : 0; }
+    [[nodiscard]] int Width() const { return right > left ? right - left : 0; }
+    [[nodiscard]] int Height() const { return bottom > top ? bottom - top : 0; }
     bool operator==(const TwipsRect&) const = default;
 };
 
 class PageCanvas {
   public:
     virtual ~PageCanvas() = default;
-    // Its unit is the twip and its origin the corner of the page; null if nothing can be drawn.
-    virtual QPainter* Painter() = 0;
+    /// A painter with the twip as its unit and its origin at the corner of the page. Null if
+    /// nothing can be drawn.
+    [[nodiscard]] virtual QPainter* Painter() = 0;
 };
 
-// A white page, with twice the screen's pixels.
+/// A white page, with two pixels for each pixel of the screen.
 class PictureCanvas : public PageCanvas {
   public:
     PictureCanvas(int width, int height);
     ~PictureCanvas() override;
 
-    QPainter* Painter() override;
-    // Ends the drawing. A null image for a page without extent.
-    QImage Picture();
+    [[nodiscard]] QPainter* Painter() override;
+    /// Ends the drawing. A null image for an empty page.
+    [[nodiscard]] QImage Picture();
 
   private:
     QImage image_;

@@ -16,9 +16,9 @@ namespace trabeon {
 namespace {
 
 constexpr int DotsPerMetre = 3780;  // 96 an inch
-constexpr double Tolerance = 0.5;   // 1/96 inch: the layout's own rounding
+constexpr double Tolerance = 0.5;   // 1/96 inch: the rounding of the layout
 
-// The device that all pages are laid out for, whatever they are then drawn on.
+// All pages are laid out for this device, whatever they are drawn on.
 QImage& Device() {
     static QImage device = [] {
         QImage made(1, 1, QImage::Format_RGB32);
@@ -80,7 +80,7 @@ int PageLayout::Format(QPainter* painter, int first) const {
     if (line == lines_.end())
         return length;
     const double top = line->top;
-    auto next = line + 1;  // a page takes a line at least, else the pages would have no end
+    auto next = line + 1;  // a page has at least one line, else the pages would not end
     while (next != lines_.end() && next->bottom - top <= area_.height() + Tolerance)
         ++next;
     if (painter)
@@ -89,7 +89,7 @@ int PageLayout::Format(QPainter* painter, int first) const {
 }
 
 void PageLayout::Draw(QPainter& painter, double top, double bottom) const {
-    // Half a dot less, else the lines above and below are drawn as well.
+    // Half a dot less, else the lines above and below would be drawn too.
     const QRectF lines =
         QRectF(0, top, area_.width(), bottom - top).adjusted(0, Tolerance, 0, -Tolerance);
     painter.save();

@@ -1,5 +1,5 @@
-// A text of lines and pictures, laid out for pages of one size. Toolkit inside; forms speak to the
-// page service of RichTextBox.
+// A text of lines and pictures, laid out for pages of one size. Only for the toolkit's own sources;
+// forms use RichTextBox::FormatRange.
 #pragma once
 
 #include <QSizeF>
@@ -13,14 +13,14 @@ namespace trabeon {
 
 class PageLayout {
   public:
-    // The area that a page gives to the text, in twips. A picture that is larger is made to fit.
+    /// `area` is the size of the text on a page, in twips. A larger picture is made to fit it.
     PageLayout(const QTextDocument& text, const QSizeF& area);
     ~PageLayout();
 
-    // Draws the page that begins at a position, from the painter's origin on, in twips; a null
-    // painter only measures. Gives the position at which the next page begins, the text's length
-    // if there is none.
-    int Format(QPainter* painter, int first) const;
+    /// Draws the page that begins at position `first`, at the origin of a painter with the twip as
+    /// its unit. A null painter only measures. Returns the position at which the next page begins,
+    /// or the length of the text if there is none.
+    [[nodiscard]] int Format(QPainter* painter, int first) const;
 
   private:
     struct Line {
@@ -37,7 +37,7 @@ class PageLayout {
     std::vector<Line> lines_;
 };
 
-// The size that a picture has on a page with such an area: its own, or the largest that fits.
-QSizeF FittedSize(const QSizeF& picture, const QSizeF& area);
+/// The size of a picture on a page with this area: its own size, or the largest that fits.
+[[nodiscard]] QSizeF FittedSize(const QSizeF& picture, const QSizeF& area);
 
 }  // namespace trabeon

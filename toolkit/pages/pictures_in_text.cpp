@@ -20,13 +20,13 @@ QByteArray PngIn(const QTextDocument& text, const QTextImageFormat& format) {
     return text.resource(QTextDocument::ImageResource, QUrl(format.name())).toByteArray();
 }
 
-// Draws each picture with the dots that the device has there. What was scaled down for a screen is
-// kept for the next time.
+// Draws each picture with as many dots as the device has for it. Keeps the pictures that it scaled
+// down for the screen.
 class SmoothDrawer : public QObject, public QTextObjectInterface {
   public:
     using QObject::QObject;
 
-    // How the layout asks for the interface.
+    // The layout asks for the interface with this.
     void* qt_metacast(const char* name) override {
         if (qstrcmp(name, qobject_interface_iid<QTextObjectInterface*>()) == 0)
             return static_cast<QTextObjectInterface*>(this);
@@ -49,7 +49,7 @@ class SmoothDrawer : public QObject, public QTextObjectInterface {
     }
 
   private:
-    // With all its dots if the device has more.
+    // Scales down only: if the device has more dots, the picture keeps its own.
     QImage Scaled(const QTextDocument& text, const QTextImageFormat& format, const QSize& size) {
         const QString key =
             QString("%1 %2 %3").arg(format.name()).arg(size.width()).arg(size.height());

@@ -1,6 +1,6 @@
-// The pictures that stand in a text as characters: found, put in, and drawn as sharp as they are.
-// They are kept as PNG files, since many large ones would not fit into memory otherwise.
-// Toolkit inside.
+// The pictures in a text, where each is one character: finding, inserting and drawing them. They
+// are kept as PNG files, because many large pictures would not fit into memory. Only for the
+// toolkit's own sources.
 #pragma once
 
 #include <QByteArray>
@@ -15,23 +15,24 @@ namespace trabeon {
 struct PictureInText {
     QByteArray png;
     QSizeF size;       // 1/96 inch
-    int number;        // in the order in which the text took its pictures up
-    int position = 0;  // in the text
+    int number;        // the pictures of a text are numbered as they come in
+    int position = 0;  // in the text, from 0
 };
 
-PictureInText PictureFrom(const QImage& image, int number);
-QImage ImageOf(const PictureInText& picture);
+[[nodiscard]] PictureInText PictureFrom(const QImage& image, int number);
+[[nodiscard]] QImage ImageOf(const PictureInText& picture);
 
-std::vector<PictureInText> PicturesOf(const QTextDocument& text);
+/// In the order of the text.
+[[nodiscard]] std::vector<PictureInText> PicturesOf(const QTextDocument& text);
 
-// Puts a picture at the cursor, on a line of its own: pictures that share a line are all given the
-// height of the tallest. The cursor ends behind it.
+/// Inserts a picture at the cursor, on a separate line, because pictures on one line all get the
+/// height of the tallest. Leaves the cursor after the picture.
 void InsertPicture(QTextCursor& cursor, const PictureInText& picture);
 
-// The picture of that character keeps its dots and gets another size.
+/// Changes the size of the picture at this position, in 1/96 inch. It keeps its dots.
 void ResizePicture(QTextDocument& text, int position, const QSizeF& size);
 
-// Pictures have more dots than the screen: they are scaled smoothly wherever this text is drawn.
+/// Scales the pictures smoothly when this text is drawn, because they have more dots than a screen.
 void DrawPicturesSmoothly(QTextDocument& text);
 
 }  // namespace trabeon

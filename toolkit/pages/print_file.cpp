@@ -28,29 +28,29 @@ PrintFile::PrintFile(QPrinter& printer) : target_(printer.outputFileName()) {
     const QFileInfo link(target_);
     if (link.isSymLink() && link.exists())
         target_ = link.canonicalFilePath();
-    fresh_.emplace(QFileInfo(target_).absolutePath() + "/.trabeon-XXXXXX");
-    printer.setOutputFileName(fresh_->filePath(Name));
+    folder_.emplace(QFileInfo(target_).absolutePath() + "/.trabeon-XXXXXX");
+    printer.setOutputFileName(folder_->filePath(Name));
 }
 
-// The engine is silent about a disk that fills up, but then the end is missing.
+// Qt does not report a full disk, but then the end of the file is missing.
 bool PrintFile::IsWhole() const {
-    QFile print(fresh_->filePath(Name));
-    if (!fresh_->isValid() || !print.open(QIODevice::ReadOnly))
+    QFile print(folder_->filePath(Name));
+    if (!folder_->isValid() || !print.open(QIODevice::ReadOnly))
         return false;
     print.seek(std::max<qint64>(0, print.size() - EndRoom));
     return print.read(EndRoom).contains("%%EOF");
 }
 
-bool PrintFile::TakePlace() const {
+bool PrintFile::ReplaceOldFile() const {
     if (target_.isEmpty())
         return true;
     const QFileInfo target(target_);
     if (!IsWhole() || !MayBeReplaced(target))
         return false;
     if (target.exists())
-        QFile::setPermissions(fresh_->filePath(Name), target.permissions());
+        QFile::setPermissions(folder_->filePath(Name), target.permissions());
     std::error_code error;
-    std::filesystem::rename(QFile::encodeName(fresh_->filePath(Name)).toStdString(),
+    std::filesystem::rename(QFile::encodeName(folder_->filePath(Name)).toStdString(),
                             QFile::encodeName(target_).toStdString(), error);
     return !error;
 }

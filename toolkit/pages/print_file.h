@@ -1,4 +1,4 @@
-// The file that stands in for a printer: it takes the old file's place only when it is whole.
+// A print to a PDF file. It replaces the old file only if it is complete.
 #pragma once
 
 #include <QString>
@@ -12,26 +12,27 @@ namespace trabeon {
 
 class PrintFile {
   public:
-    // Where the printer prints to a file, it prints into a private folder beside that file,
-    // whose name nobody can guess and where nobody else can write.
+    /// If the printer prints to a file, makes it print into a new folder beside that file. Others
+    /// can neither guess the name of this folder nor write into it. Does nothing for a real
+    /// printer.
     explicit PrintFile(QPrinter& printer);
-    // What did not take its place goes.
+    /// Deletes a print that did not replace the file.
     ~PrintFile() = default;
     PrintFile(const PrintFile&) = delete;
     PrintFile& operator=(const PrintFile&) = delete;
 
-    // When the print has ended. False: the print is not whole, or the old file is no regular file
-    // or write-protected; the old file then stays.
-    [[nodiscard]] bool TakePlace() const;
+    /// Replaces the old file, after the print has ended. False: the print is incomplete, or the old
+    /// file is write-protected or not a regular file. Then the old file stays.
+    [[nodiscard]] bool ReplaceOldFile() const;
 
-    // Empty with a real printer.
+    /// Empty for a real printer.
     [[nodiscard]] std::string Path() const { return target_.toStdString(); }
 
   private:
     [[nodiscard]] bool IsWhole() const;
 
-    QString target_;                      // empty with a real printer
-    std::optional<QTemporaryDir> fresh_;  // holds the print
+    QString target_;                       // empty for a real printer
+    std::optional<QTemporaryDir> folder_;  // contains the print
 };
 
 }  // namespace trabeon

@@ -18,7 +18,7 @@ namespace trabeon {
 
 namespace {
 
-// An empty rectangle has no scale of its own.
+// 0 for an empty target.
 double ScaleOf(const TwipsRect& drawing, const TwipsRect& target) {
     if (target.Width() == 0 || target.Height() == 0)
         return 0;
@@ -48,7 +48,7 @@ class RichTextBox::Edit : public QTextEdit {
     }
 
   protected:
-    // Ctrl+V: text has no place among the pictures.
+    // For Ctrl+V. Only pictures can be pasted.
     bool canInsertFromMimeData(const QMimeData* offer) const override {
         return !isReadOnly() && offer->hasImage();
     }
@@ -57,7 +57,7 @@ class RichTextBox::Edit : public QTextEdit {
             box_.Paste();
     }
 
-    // What is copied is the first picture of the selection: no other program can take the text.
+    // Copies the first picture of the selection, because other programs cannot read a mixed text.
     QMimeData* createMimeDataFromSelection() const override {
         const QTextCursor cursor = textCursor();
         for (const PictureInText& picture : PicturesOf(*document())) {
@@ -91,7 +91,7 @@ bool RichTextBox::Locked() const {
 
 void RichTextBox::SetLocked(bool locked) {
     Inner().setReadOnly(locked);
-    if (locked)  // the keyboard still moves the caret, at which the next picture goes in
+    if (locked)  // keys still move the caret, where the next picture comes in
         Inner().setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
 }
 

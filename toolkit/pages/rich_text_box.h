@@ -1,5 +1,6 @@
-// A box for pictures among text, which is read, cut and pasted into. It is its own page service: it
-// draws itself page by page on any canvas. Positions count characters from 0; a picture is one.
+// A box for text and pictures. The user reads it, cuts from it and pastes pictures into it. It can
+// draw its text page by page on a canvas. Positions count characters from 0; a picture is one
+// character.
 #pragma once
 
 #include <QImage>
@@ -16,12 +17,12 @@ namespace trabeon {
 class PageLayout;
 struct PictureInText;
 
-// Where one page goes.
+/// Where a page is drawn.
 struct PageFormat {
     TwipsRect page;     // of the device
-    TwipsRect drawing;  // where the text goes in it
-    // The area that the text is laid out for; what is drawn is scaled down to the drawing
-    // rectangle, so that pages break alike on every device. An empty one: the drawing rectangle's.
+    TwipsRect drawing;  // the part of the page for the text
+    /// The area that the text is laid out for. The page is scaled down to `drawing`, so that pages
+    /// break in the same places on every device. Empty: the same as `drawing`.
     TwipsRect target{};
     int first = 0;  // the position at which the page begins
 };
@@ -31,38 +32,39 @@ class RichTextBox : public Control {
     explicit RichTextBox(Container& parent);
     ~RichTextBox() override;
 
-    // A locked box can be selected in and copied from; it takes no key and no paste.
-    bool Locked() const;
+    /// In a locked box the user can select and copy, but not type or paste.
+    [[nodiscard]] bool Locked() const;
     void SetLocked(bool locked);
 
-    // The paste message: the clipboard's picture goes in at the caret. What is selected stays.
+    /// Inserts the picture on the clipboard at the caret, unless the box is locked. Keeps the
+    /// selected text.
     void Paste();
-    // Sets the text that is selected, locked or not; a picture whose line is left empty takes the
-    // line with it.
+    /// Replaces the selection with this text, also in a locked box. If the line of a removed
+    /// picture is then empty, the line is removed too.
     void SetSelText(const std::string& text);
     void SetSelection(int start, int length);
 
-    std::string Text() const;
-    int TextLength() const;
-    int PictureCount() const;
-    // All pictures, and how another box gets them: each goes in after those that are there.
+    [[nodiscard]] std::string Text() const;
+    [[nodiscard]] int TextLength() const;
+    [[nodiscard]] int PictureCount() const;
+    /// AllPictures gives all pictures, and Append adds them at the end of another box.
     using Pictures = std::vector<PictureInText>;
-    std::shared_ptr<const Pictures> AllPictures() const;
+    [[nodiscard]] std::shared_ptr<const Pictures> AllPictures() const;
     void Append(const Pictures& pictures);
-    // A paragraph of its own for each picture, at the size it has on that paper.
-    std::string TextRTF(const Paper& paper, int margin) const;
-    // The picture that was taken up last of those that stand in the text, as a rich text of its
-    // own; empty if there is none.
-    std::string LastPictureRTF(const Paper& paper, int margin) const;
+    /// The content as rich text, each picture in a separate paragraph with its size on this paper.
+    /// `margin` is in twips.
+    [[nodiscard]] std::string TextRTF(const Paper& paper, int margin) const;
+    /// The picture that came in last, alone as rich text. Empty if the text has no picture.
+    [[nodiscard]] std::string LastPictureRTF(const Paper& paper, int margin) const;
 
-    // Lines break at that width; 0: at the box's edge.
+    /// The width at which lines break, in twips. 0: the width of the box.
     void SetLineWidth(int twips);
 
-    // The page service: draws one page, or only measures it on no canvas, and returns the position
-    // at which the next page begins; that is the text's length behind the last page. What was laid
-    // out is kept for the next page of the same format.
+    /// Draws one page. Without a canvas it only measures. Returns the position at which the next
+    /// page begins; after the last page, the length of the text. The layout is kept for the next
+    /// page.
     virtual int FormatRange(PageCanvas* canvas, const PageFormat& format);
-    // Lets go of what was kept.
+    /// Drops the layout that FormatRange keeps.
     void ReleasePages();
 
   private:
@@ -70,7 +72,7 @@ class RichTextBox : public Control {
     Edit& Inner() const;
     const PageLayout& Layout(const TwipsRect& area);
 
-    int taken_ = 0;  // pictures so far
+    int taken_ = 0;  // the number of the last picture that came in
     std::unique_ptr<PageLayout> layout_;
     TwipsRect laidOutFor_;
 };

@@ -41,7 +41,7 @@ std::string Escaped(const QString& text) {
             escaped += "\\tab ";
         else if (code < 0x80)
             escaped += static_cast<char>(code);
-        else  // signed 16 bits, and a mark for readers that know no such characters
+        else  // signed 16 bits, and "?" for readers without Unicode
             escaped += "\\u" + std::to_string(static_cast<short>(code)) + "?";
     }
     return escaped;

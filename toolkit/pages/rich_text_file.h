@@ -1,4 +1,5 @@
-// A text of lines and pictures as a rich text file, which word processors open. Toolkit inside.
+// A text of lines and pictures as a rich text file, for word processors. Only for the toolkit's own
+// sources.
 #pragma once
 
 #include <string>
@@ -9,8 +10,8 @@ class QTextDocument;
 
 namespace trabeon {
 
-// Pictures stand in it as PNG with all their dots, at the size they have on paper of this kind with
-// this margin, in twips, on all four sides.
-std::string RichTextOf(const QTextDocument& text, const Paper& paper, int margin);
+/// The content of the file. `margin` is in twips, on all four sides of the paper. The pictures are
+/// PNG files with all their dots, and have the size that they have on this paper.
+[[nodiscard]] std::string RichTextOf(const QTextDocument& text, const Paper& paper, int margin);
 
 }  // namespace trabeon

@@ -14,42 +14,42 @@ namespace trabeon {
 
 namespace {
 
-bool Answers(const QWidget& widget, const QString& text, const QKeySequence& key) {
+bool Has(const QWidget& widget, const QString& text, const QKeySequence& key) {
     return widget.isVisible() && widget.isEnabled() && QKeySequence::mnemonic(text) == key;
 }
 
-// A control that answers the key.
-struct Answering {
+// What an access key does: it presses a button, or moves the focus to a control.
+struct Target {
     QWidget* control = nullptr;
-    bool isPressed = false;  // the key is the button's own
+    bool isPressed = false;
 };
 
-// A button, or what a label names. Where several answer, the key only moves the focus: to the first
-// of them, and when it is pressed again at once to the next.
-Answering AnsweringControl(const QWidget& child, const QKeySequence& key, bool again) {
-    QList<Answering> answering;
+// The button with this key, or the buddy of the label with this key. If there are several, the key
+// only moves the focus: to the first of them, and if it is pressed again at once, to the next.
+Target TargetIn(const QWidget& child, const QKeySequence& key, bool again) {
+    QList<Target> targets;
     for (auto* button : child.findChildren<QAbstractButton*>())
-        if (Answers(*button, button->text(), key))
-            answering << Answering{button, true};
+        if (Has(*button, button->text(), key))
+            targets << Target{button, true};
     for (auto* label : child.findChildren<QLabel*>())
-        if (label->buddy() && Answers(*label, label->text(), key))
-            answering << Answering{label->buddy()};
-    if (answering.size() < 2)
-        return answering.value(0);
-    const auto focus = std::find_if(answering.begin(), answering.end(),
+        if (label->buddy() && Has(*label, label->text(), key))
+            targets << Target{label->buddy()};
+    if (targets.size() < 2)
+        return targets.value(0);
+    const auto focus = std::find_if(targets.begin(), targets.end(),
                                     [](const auto& one) { return one.control->hasFocus(); });
-    const auto at = again && focus != answering.end() ? focus - answering.begin() + 1 : 0;
-    return {answering[at % answering.size()].control};
+    const auto at = again && focus != targets.end() ? focus - targets.begin() + 1 : 0;
+    return {targets[at % targets.size()].control};
 }
 
-void Answer(const Answering& answering) {
-    if (answering.isPressed)
-        static_cast<QAbstractButton*>(answering.control)->click();
+void Activate(const Target& target) {
+    if (target.isPressed)
+        static_cast<QAbstractButton*>(target.control)->click();
     else
-        answering.control->setFocus(Qt::ShortcutFocusReason);
+        target.control->setFocus(Qt::ShortcutFocusReason);
 }
 
-// Where several menus share the key: the one behind `open`, or the first.
+// If several menus share the key: the one after `open`, or the first.
 QAction* MenuInTurn(const QMenuBar& bar, const QKeySequence& key, const QAction* open) {
     QList<QAction*> sharing;
     for (QAction* menu : bar.actions())
@@ -92,15 +92,15 @@ bool AccessKeys::eventFilter(QObject*, QEvent* event) {
         QApplication::activeModalWidget())
         return false;
     const QMdiSubWindow* child = area_.activeSubWindow();
-    const Answering answering = child ? AnsweringControl(*child, key, again) : Answering();
-    QAction* menu = answering.control ? nullptr : MenuInTurn(bar, key, openBeforeAlt_);
-    if (!answering.control && !menu)
+    const Target target = child ? TargetIn(*child, key, again) : Target();
+    QAction* menu = target.control ? nullptr : MenuInTurn(bar, key, openBeforeAlt_);
+    if (!target.control && !menu)
         return false;
-    event->accept();  // the override keeps the key from Qt's own turns, and the press comes here
+    event->accept();  // so Qt does not take turns, and the key press comes here
     if (!typed || press.isAutoRepeat())
         return true;
     former_ = key;
-    answering.control ? Answer(answering) : Open(bar, menu);
+    target.control ? Activate(target) : Open(bar, menu);
     return true;
 }
 

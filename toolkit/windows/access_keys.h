@@ -1,6 +1,6 @@
-// Where a child window and the menu bar have the same access key, the child window in front answers
-// it: without this the two would take turns. Menus that share one begin with the first each time,
-// and so do controls.
+// If the child window in front and the menu bar have the same access key, the child window gets it.
+// Without this the two would take turns. If several menus or several controls share a key, the
+// first one comes first.
 #pragma once
 
 #include <QKeySequence>
@@ -14,7 +14,7 @@ namespace trabeon {
 
 class AccessKeys : public QObject {
   public:
-    // Looks at the keys of the whole program; lives as long as the area.
+    /// Filters the keys of the whole program. The area owns it.
     AccessKeys(QMainWindow& window, QMdiArea& area);
 
     bool eventFilter(QObject* target, QEvent* event) override;
@@ -22,8 +22,8 @@ class AccessKeys : public QObject {
   private:
     QMainWindow& window_;
     QMdiArea& area_;
-    QKeySequence former_;  // the access key that was pressed last, at once before
-    const QAction* openBeforeAlt_ = nullptr;  // the menu that the press of Alt closed
+    QKeySequence former_;                     // the access key pressed just before
+    const QAction* openBeforeAlt_ = nullptr;  // the menu that Alt has closed
 };
 
 }  // namespace trabeon

@@ -17,9 +17,9 @@ namespace {
 
 QtMessageHandler formerHandler = nullptr;
 bool started = false;
-QString saidBefore;  // before the toolkit has started
+QString saidBefore;  // what the toolkit reported before it had started
 
-// Why the toolkit cannot start, in a sentence, from what it said.
+// Says in a sentence why the toolkit cannot start, from what it reported.
 QString WhyNotStarted() {
     if (!saidBefore.contains("connect to display") && !saidBefore.contains("wl_display"))
         return "Trabeon's windows cannot be shown: " + saidBefore.simplified();
@@ -32,8 +32,8 @@ QString WhyNotStarted() {
            ". Start it on a desktop; trabeon-batch analyses and designs without a display.";
 }
 
-// The toolkit aborts if it cannot start, and waits for ever for a thread that it could not start.
-void Hear(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+// The toolkit aborts if it cannot start. It waits for ever for a thread that it could not start.
+void OnMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {
     if (text.contains("Thread creation error"))
         EndWithoutMemory();
     if (started) {
@@ -50,10 +50,10 @@ void Hear(QtMsgType type, const QMessageLogContext& context, const QString& text
 }
 
 std::unique_ptr<QApplication> Start(int& argc, char** argv) {
-    // One pool of memory for all threads. Each other one would reserve 64 MiB of what a limit
-    // leaves.
+    // One pool of memory for all threads. Each further pool would reserve 64 MiB, which counts if
+    // memory is limited.
     mallopt(M_ARENA_MAX, 1);
-    formerHandler = qInstallMessageHandler(Hear);
+    formerHandler = qInstallMessageHandler(OnMessage);
     auto application = std::make_unique<QApplication>(argc, argv);
     started = true;
     if (!saidBefore.isEmpty())
@@ -64,7 +64,8 @@ std::unique_ptr<QApplication> Start(int& argc, char** argv) {
 }  // namespace
 
 Application::Application(int& argc, char** argv) : application_(Start(argc, argv)) {
-    // Numbers in files have a point, wherever the user lives; Qt has just taken the user's locale.
+    // Numbers in files have a decimal point in every country, and Qt has just set the user's
+    // locale.
     std::setlocale(LC_NUMERIC, "C");
     QLocale::setDefault(QLocale::c());
     QApplication::setApplicationName("Trabeon");

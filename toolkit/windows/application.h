@@ -1,4 +1,4 @@
-// The run of the program: made first, ended last.
+// The toolkit's part of the program: made before the first window and destroyed last.
 #pragma once
 
 #include <memory>
@@ -10,19 +10,19 @@ namespace trabeon {
 
 class Application {
   public:
-    // Takes the toolkit's own arguments out of argv, which must outlive this.
+    /// Removes the toolkit's own arguments from argv. argc and argv must outlive this.
     Application(int& argc, char** argv);
     ~Application();
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;
 
-    // The picture in the corner of every window.
+    /// Sets the icon of all windows.
     static void SetIcon(const std::string& path);
-    // The folder of the program file.
-    static std::string Folder();
-    // Handles events until Outside::End or until the last window has closed.
-    int Run();
-    // Lets the windows repaint; keys and clicks wait until the handler has ended.
+    /// The folder of the program file.
+    [[nodiscard]] static std::string Folder();
+    /// Handles events until Outside::End is called or the last window is closed. The exit code.
+    [[nodiscard]] int Run();
+    /// Lets the windows repaint. Keys and clicks wait until the current handler has ended.
     static void YieldToPainting();
 
   private:

@@ -17,7 +17,7 @@
 
 namespace trabeon {
 
-// The inside of a form, on which its controls stand.
+// The inside of a form, with its controls.
 class Form::Body : public QWidget {
   public:
     explicit Body(Form& form) : form_(form) {}
@@ -34,13 +34,13 @@ class Form::ChildFrame : public QMdiSubWindow {
     explicit ChildFrame(Form& form) : form_(form) {
         const auto platform = QKeySequence::keyBindings(QKeySequence::Close);
         for (QAction* action : systemMenu()->actions())
-            if (action->shortcuts() == platform)  // not on every platform is Ctrl+F4 among them
+            if (action->shortcuts() == platform)  // Ctrl+F4 is missing on some platforms
                 action->setShortcuts({QKeySequence("Ctrl+F4"), QKeySequence("Ctrl+W")});
     }
 
   protected:
     void closeEvent(QCloseEvent* event) override {
-        event->ignore();  // the form goes its own way
+        event->ignore();  // Unload closes the form
         form_.ClosedByUser();
         form_.Unload();
     }
@@ -79,7 +79,7 @@ QVBoxLayout& EmptyLayout(QWidget& owner) {
     return *layout;
 }
 
-// The child in sight that was used last before this one takes over.
+// Activates the visible child that was used last before this one.
 void ActivateNext(QMdiArea& area) {
     const QList<QMdiSubWindow*> children = area.subWindowList(QMdiArea::ActivationHistoryOrder);
     for (auto child = children.rbegin(); child != children.rend(); ++child) {
@@ -90,7 +90,7 @@ void ActivateNext(QMdiArea& area) {
     }
 }
 
-// It was given its place before it had its size.
+// Moves a child into the area. It got its place before it had its size.
 void BringInSight(QMdiSubWindow& child) {
     const QSize room = child.mdiArea()->viewport()->size() - child.size();
     child.move(std::clamp(child.x(), 0, std::max(0, room.width())),
@@ -142,7 +142,7 @@ int Form::ScaleHeight() const {
 
 void Form::SetScaleSize(int width, int height) {
     if (!Widget()->isVisible() && border_ != FormBorder::FixedDialog) {
-        wantedInside_ = {width, height};  // a child has its border from its first showing on
+        wantedInside_ = {width, height};  // a child has no border until it first shows
     }
     const QSize border = Widget()->size() - body_->size();
     Resize(ToPixels(width) + border.width(), ToPixels(height) + border.height());
@@ -157,7 +157,7 @@ void Form::Resize(int pixelsWide, int pixelsHigh) {
         Widget()->setFixedSize(pixelsWide, pixelsHigh);
     else
         Placement::Resize(pixelsWide, pixelsHigh);
-    // Out of sight the layout would wait, and the inner size be that of before.
+    // While a form is hidden, its layout would wait and its inner size would be the old one.
     Widget()->layout()->activate();
     if (QLayout* layout = body_->parentWidget()->layout())
         layout->activate();
@@ -201,10 +201,10 @@ void Form::Show() {
     }
     window_->Area().setActiveSubWindow(frame);
     if (comesUp && first_)
-        first_->Widget()->setFocus();  // hiding moved the focus on
+        first_->Widget()->setFocus();  // hiding has moved the focus
 }
 
-// The form may be gone when the loop returns: nothing of it is touched from there on.
+// The form may be gone when the loop returns, so nothing of it is used after that.
 void Form::ShowDialog() {
     QEventLoop loop;
     endDialog_ = [&loop] { loop.quit(); };
@@ -236,7 +236,7 @@ void Form::SetState(WindowState state) {
 }
 
 void Form::Unload() {
-    if (const auto unload = unload_)  // a copy: Retire drops the other while it runs
+    if (const auto unload = unload_)  // a copy, because Retire clears the member while it runs
         unload();
 }
 

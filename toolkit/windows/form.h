@@ -1,5 +1,5 @@
-// A window of the program: a child of the frame, or a dialog outside it. Controls are its members,
-// made on `*this`; handlers are set in its constructor.
+// A window of the program: a child of the main window, or a dialog outside it. Its controls are its
+// members, and its constructor sets the handlers.
 #pragma once
 
 #include <functional>
@@ -23,7 +23,7 @@ enum class FormBorder {
     Sizable,
     FixedToolWindow,    // no minimise, no maximise, no sizing
     SizableToolWindow,  // no minimise, no maximise
-    FixedDialog         // stands outside the frame and holds the program's input while it shows
+    FixedDialog         // outside the main window, which gets no input while the dialog shows
 };
 
 class Form : public Placement, public Container {
@@ -31,41 +31,42 @@ class Form : public Placement, public Container {
     explicit Form(const std::string& caption, FormBorder border = FormBorder::Sizable);
     ~Form() override;
 
-    std::string Caption() const;
+    [[nodiscard]] std::string Caption() const;
     void SetCaption(const std::string& caption);
 
-    // The size inside the border and below the menu, in twips.
-    int ScaleWidth() const;
-    int ScaleHeight() const;
+    /// The size inside the border and below the menu, in twips.
+    [[nodiscard]] int ScaleWidth() const;
+    [[nodiscard]] int ScaleHeight() const;
     void SetScaleSize(int width, int height);
-    // The user cannot make the inside smaller than this.
+    /// The user cannot make the inside smaller than this.
     void SetSmallestScaleSize(int width, int height);
 
-    // Brings the form to the front. For a dialog it returns when the form is hidden or unloaded.
+    /// Brings the form to the front. A dialog returns when it is hidden or unloaded.
     void Show();
-    // The form stays loaded and keeps what its controls hold. In Form_Load: it will not come up.
+    /// Hides the form, which stays loaded. Called in Form_Load, it keeps the form from coming up.
     void Hide();
-    bool Visible() const;
-    WindowState State() const;
-    // A child fills the frame's inside, or goes back to its own size.
+    [[nodiscard]] bool Visible() const;
+    [[nodiscard]] WindowState State() const;
+    /// Maximised, a child fills the inside of the main window.
     void SetState(WindowState state);
-    // Takes the form out of the registry at once; safe in its own handlers, which run to their end.
+    /// Removes the form from the registry at once. A handler of the form may call this; it runs to
+    /// its end.
     void Unload();
 
-    QWidget* Canvas() const override;
+    [[nodiscard]] QWidget* Canvas() const override;
 
   protected:
-    // Runs once, when the form is first touched.
+    /// Runs once, when the form is used first.
     virtual void Form_Load() {}
-    // Runs before the form first shows and at each change of its inner size from then on.
+    /// Runs before the form first shows, and then at each change of its inner size.
     virtual void Form_Resize() {}
 
-    // Runs before the user's close box, or a key that does the same, unloads the form.
+    /// Runs before the form is unloaded by the close box or a key that does the same.
     virtual void ClosedByUser() {}
 
-    // The first of them has the focus each time the form comes up.
+    /// The first of them has the focus each time the form comes up.
     void SetTabOrder(std::initializer_list<const Control*> controls);
-    Menu AddMenu(const std::string& caption);
+    [[nodiscard]] Menu AddMenu(const std::string& caption);
 
     void Resize(int pixelsWide, int pixelsHigh) override;
 
@@ -75,17 +76,17 @@ class Form : public Placement, public Container {
     class ChildFrame;
     class DialogFrame;
 
-    // `unload` takes the form out of its registry.
+    /// `unload` removes the form from its registry.
     void Load(std::function<void()> unload, MdiWindow& window);
     void Resized();
     void ShowDialog();
-    // Out of sight for good.
+    /// Hides the form for good.
     void Retire();
 
     FormBorder border_;
     Body* body_;
     MdiWindow* window_ = nullptr;
-    std::function<void()> unload_;  // empty before and behind the form's time in a registry
+    std::function<void()> unload_;  // empty while the form is in no registry
     std::function<void()> endDialog_;
     std::pair<int, int> wantedInside_;  // twips, until the form first shows
     const Control* first_ = nullptr;

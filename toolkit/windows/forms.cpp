@@ -14,11 +14,12 @@ namespace trabeon {
 
 namespace {
 
-// Holds a form until the event loop from which it was unloaded goes round: Qt puts a deferred
-// delete off past loops that a handler opens meanwhile, as a message box does.
-class Grave : public QObject {
+// Keeps an unloaded form until the event loop in which it was unloaded continues. Until then a
+// handler of the form may still run. Qt delays deleteLater past the inner loops of message boxes.
+class DeferredDelete : public QObject {
   public:
-    Grave(QObject* parent, std::unique_ptr<Form> form) : QObject(parent), form_(std::move(form)) {
+    DeferredDelete(QObject* parent, std::unique_ptr<Form> form)
+        : QObject(parent), form_(std::move(form)) {
         deleteLater();
     }
 
@@ -30,7 +31,7 @@ class Grave : public QObject {
 
 Forms::Forms(MdiWindow& window) : window_(window) {}
 
-// Not UnloadAll: at the end of the run nothing comes to the front any more.
+// Not UnloadAll, because at the end of the program no form must come to the front.
 Forms::~Forms() = default;
 
 bool Forms::IsRegistered(const std::string& name) const {
@@ -49,7 +50,8 @@ Form& Forms::Load(const std::string& name) {
         return *form;
     std::unique_ptr<Form> made = makers_.at(name)();
     Form& form = *made;
-    // In the registry before its load event runs, which may touch it again through other forms.
+    // It is in the registry before its load event runs, because that may use it through other
+    // forms.
     open_.push_back({name, std::move(made)});
     form.Widget()->setObjectName(QString::fromStdString(name));
     form.Load([this, &form] { Unload(form); }, window_);
@@ -90,26 +92,26 @@ void Forms::Unload(const std::string& name) {
     const auto entry = std::find_if(open_.begin(), open_.end(),
                                     [&](const Entry& each) { return each.name == name; });
     if (entry != open_.end())
-        Bury(entry);
+        Remove(entry);
 }
 
 void Forms::Unload(const Form& form) {
     const auto entry = std::find_if(open_.begin(), open_.end(),
                                     [&](const Entry& each) { return each.form.get() == &form; });
     if (entry != open_.end())
-        Bury(entry);
+        Remove(entry);
 }
 
 void Forms::UnloadAll() {
     while (!open_.empty())
-        Bury(open_.end() - 1);
+        Remove(open_.end() - 1);
 }
 
-void Forms::Bury(std::vector<Entry>::iterator entry) {
+void Forms::Remove(std::vector<Entry>::iterator entry) {
     std::unique_ptr<Form> form = std::move(entry->form);
     open_.erase(entry);
     form->Retire();
-    new Grave(&window_.Area(), std::move(form));
+    new DeferredDelete(&window_.Area(), std::move(form));
 }
 
 }  // namespace trabeon

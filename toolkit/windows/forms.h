@@ -1,5 +1,5 @@
-// The forms that are loaded, at most one of each kind. The first touch of a form loads it, and a
-// loaded child comes up by itself unless it hides itself.
+// The loaded forms, at most one of each kind. The first use of a form loads it. A loaded child
+// window comes up, unless it hides itself.
 #pragma once
 
 #include <functional>
@@ -14,7 +14,7 @@ class Form;
 class MdiWindow;
 class Placement;
 
-// A form class F tells its name as `static constexpr const char* Name = "frmTitle";`.
+/// A form class F has its name as `static constexpr const char* Name = "frmTitle";`.
 class Forms {
   public:
     explicit Forms(MdiWindow& window);
@@ -22,47 +22,48 @@ class Forms {
     Forms(const Forms&) = delete;
     Forms& operator=(const Forms&) = delete;
 
-    // Says how F is made: by F(context). The context must outlive the registry.
+    /// From now on F can be loaded; it is made as F(context). The context must outlive the
+    /// registry.
     template <class F, class Context>
     void Register(Context& context) {
         makers_[F::Name] = [&context] { return std::make_unique<F>(context); };
     }
-    bool IsRegistered(const std::string& name) const;
+    [[nodiscard]] bool IsRegistered(const std::string& name) const;
 
-    // The form; loads it if it is not loaded.
+    /// The form. Loads it if it is not loaded.
     template <class F>
-    F& Get() {
+    [[nodiscard]] F& Get() {
         return static_cast<F&>(Load(F::Name));
     }
-    // The form, to be read: if it is loaded for this, its window does not come up.
+    /// The form, for reading. If this loads it, its window does not come up.
     template <class F>
-    F& InTheBackground() {
+    [[nodiscard]] F& InTheBackground() {
         const bool wasLoaded = IsLoaded(F::Name);
         F& form = Get<F>();
         if (!wasLoaded)
             form.Hide();
         return form;
     }
-    // The form if it is loaded, else null.
+    /// The form if it is loaded, otherwise null.
     template <class F>
-    F* Loaded() const {
+    [[nodiscard]] F* Loaded() const {
         return static_cast<F*>(Find(F::Name));
     }
 
-    // By name, for whoever needs no more of a form. A name that was never registered ends the
-    // program in Show and is passed over by the others.
+    /// These take a form by its name, so that the caller need not include it. Show ends the program
+    /// if no form has this name; the others do nothing.
     void Show(const std::string& name);
-    // In sight, while the window in front and its control keep the focus.
+    /// Shows the form. The window in front and its control keep the focus.
     void ShowWithoutFocus(const std::string& name);
     void Unload(const std::string& name);
-    bool IsLoaded(const std::string& name) const;
-    // Where it stands; null if it is not loaded.
-    const Placement* PlaceOf(const std::string& name) const;
+    [[nodiscard]] bool IsLoaded(const std::string& name) const;
+    /// The place of the form; null if it is not loaded.
+    [[nodiscard]] const Placement* PlaceOf(const std::string& name) const;
 
-    // The frame that the forms stand in.
-    MdiWindow& Window() const { return window_; }
+    /// The main window.
+    [[nodiscard]] MdiWindow& Window() const { return window_; }
 
-    // The last loaded first, also those that are hidden.
+    /// Unloads all forms, also hidden ones. The form loaded last comes first.
     void UnloadAll();
 
   private:
@@ -74,8 +75,8 @@ class Forms {
     Form& Load(const std::string& name);
     Form* Find(const std::string& name) const;
     void Unload(const Form& form);
-    // Takes the form out, and deletes it once no handler of it can be under way.
-    void Bury(std::vector<Entry>::iterator entry);
+    /// Removes the form, and deletes it when no handler of it can be running any more.
+    void Remove(std::vector<Entry>::iterator entry);
 
     MdiWindow& window_;
     std::map<std::string, std::function<std::unique_ptr<Form>()>> makers_;

@@ -22,7 +22,7 @@ class MdiWindow::Window : public QMainWindow {
     explicit Window(MdiWindow& owner)
         : owner_(owner), area(new QMdiArea(this)), lastEvent(new QLabel), summary(new QLabel) {
         setCentralWidget(area);
-        // A long event is cut off at its end instead of making the window wider.
+        // A long event is cut off and does not make the window wider.
         lastEvent->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         lastEvent->setTextFormat(Qt::PlainText);
         lastEvent->setContentsMargins(6, 0, 0, 0);
@@ -31,9 +31,9 @@ class MdiWindow::Window : public QMainWindow {
         statusBar()->addWidget(lastEvent, 1);
         statusBar()->addPermanentWidget(summary);
         new AccessKeys(*this, *area);
-        // Closing a child brings up the one used before it, not the oldest.
+        // When a child is closed, the one used before it comes to the front, not the oldest.
         area->setActivationOrder(QMdiArea::ActivationHistoryOrder);
-        // A maximised child does not make the next one maximised, whose size may be fixed.
+        // The next child, whose size may be fixed, is not maximised because this one is.
         area->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
         area->setBackground(palette().brush(QPalette::Dark));
         area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);

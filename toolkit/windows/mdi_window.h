@@ -1,4 +1,4 @@
-// The program's one top-level window: a menu bar above a desktop for the child windows.
+// The main window: a menu bar above an area for the child windows, and a status line.
 #pragma once
 
 #include <functional>
@@ -16,44 +16,47 @@ class MdiWindow : public Placement {
     explicit MdiWindow(const std::string& caption);
     ~MdiWindow() override;
 
-    // The user closes the window, or Close does: QueryUnload first, then Unload. Either may set
-    // cancel, and the window stays; the second is run only if the first did not.
+    /// The window is to be closed, by the user or by Close. QueryUnload runs first, then Unload.
+    /// Either may set cancel: then the window stays open, and nothing more runs.
     std::function<void(bool& cancel)> QueryUnload;
     std::function<void(bool& cancel)> Unload;
 
-    // The caption proper: the title bar may show a maximised child's beside it.
-    std::string Caption() const;
+    /// The caption of the main window. The title bar may also show the caption of a maximised
+    /// child.
+    [[nodiscard]] std::string Caption() const;
     void SetCaption(const std::string& caption);
-    // The desktop's size, in twips.
-    int ScaleWidth() const;
-    int ScaleHeight() const;
-    static int ScreenWidth();
-    static int ScreenHeight();
+    /// The size of the area for child windows, in twips.
+    [[nodiscard]] int ScaleWidth() const;
+    [[nodiscard]] int ScaleHeight() const;
+    /// The size of the screen without its panels, in twips.
+    [[nodiscard]] static int ScreenWidth();
+    [[nodiscard]] static int ScreenHeight();
 
-    // A key of the window that is in no menu. A control with the focus that knows it comes first.
+    /// Adds a key that is in no menu. A control with the focus that uses the key itself gets it
+    /// first.
     void AddKey(const std::string& key, std::function<void()> pressed);
-    Menu AddMenu(const std::string& caption);
-    // A menu of the child windows in sight; choosing one brings it to the front.
+    [[nodiscard]] Menu AddMenu(const std::string& caption);
+    /// Adds a menu of the visible child windows. An entry brings its window to the front.
     Menu AddWindowList(const std::string& caption);
 
-    // Puts the child windows back into the order, the places and the states that they have now, the
-    // front one in front; also those that were unloaded and loaded again meanwhile.
-    std::function<void()> KeptWindows() const;
+    /// A function that gives the child windows back the order, places and states that they have
+    /// now, even if they were unloaded and loaded again meanwhile.
+    [[nodiscard]] std::function<void()> KeptWindows() const;
 
-    // The line below the desktop: the latest event at the left, a summary at the right.
+    /// The status line: the latest event on the left, a summary on the right.
     void SetEvent(const std::string& text);
-    std::string Event() const;
+    [[nodiscard]] std::string Event() const;
     void SetSummary(const std::string& text);
-    std::string Summary() const;
+    [[nodiscard]] std::string Summary() const;
 
-    WindowState State() const;
-    // Waits until the desktop has given the window its new size.
+    [[nodiscard]] WindowState State() const;
+    /// Waits until the window has its new size.
     void SetState(WindowState state);
     void Show();
     void Close();
 
-    // Where the child windows stand.
-    QMdiArea& Area() const;
+    /// The area of the child windows.
+    [[nodiscard]] QMdiArea& Area() const;
 
   private:
     class Window;

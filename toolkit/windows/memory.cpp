@@ -17,7 +17,7 @@ void EndWithoutMemory() {
 
 }  // namespace trabeon
 
-#ifndef __SANITIZE_ADDRESS__  // which has a malloc of its own
+#ifndef __SANITIZE_ADDRESS__  // it has its own malloc
 
 namespace {
 
@@ -29,8 +29,8 @@ void* Granted(void* memory, std::size_t size) {
 
 }  // namespace
 
-// These take the place of the C library's functions in the whole program. The names with __libc_
-// are the same functions under names that stay.
+// These replace the functions of the C library in the whole program. The names with __libc_ are
+// other names of the same functions, which stay.
 extern "C" {
 
 // NOLINTBEGIN(bugprone-reserved-identifier)

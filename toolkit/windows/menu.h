@@ -1,4 +1,4 @@
-// Menus. Both are handles: a copy is the same menu or entry.
+// Menus and their entries. Both are handles: a copy is the same menu or entry.
 #pragma once
 
 #include <functional>
@@ -15,10 +15,10 @@ class MenuEntry {
     MenuEntry() = default;
     explicit MenuEntry(QAction* action) : action_(action) {}
 
-    std::string Caption() const;
-    bool Enabled() const;
+    [[nodiscard]] std::string Caption() const;
+    [[nodiscard]] bool Enabled() const;
     void SetEnabled(bool enabled);
-    // As the user's choice does: runs the command, if the entry is enabled.
+    /// Runs the command if the entry is enabled, as when the user chooses the entry.
     void Choose();
 
   private:
@@ -28,17 +28,17 @@ class MenuEntry {
 class Menu {
   public:
     Menu() = default;
-    // A menu of the bar; "&" marks the access key.
+    /// Adds a menu to the bar. "&" marks the access key.
     Menu(QMenuBar& bar, const std::string& caption);
 
-    // `key` is a shortcut such as "Ctrl+N" or "F1", or empty.
+    /// Adds an entry. `key` is a shortcut such as "Ctrl+N" or "F1", or empty.
     MenuEntry Add(const std::string& caption, const std::string& key,
                   std::function<void()> command);
     void AddSeparator();
-    Menu AddMenu(const std::string& caption);
-    // The entry that opens this menu: its caption, and whether it is enabled.
-    MenuEntry Entry() const;
-    // Fills the menu anew each time it opens.
+    [[nodiscard]] Menu AddMenu(const std::string& caption);
+    /// The entry that opens this menu.
+    [[nodiscard]] MenuEntry Entry() const;
+    /// Calls `fill` with the empty menu each time before it opens.
     void SetFiller(std::function<void(Menu&)> fill);
 
   private:

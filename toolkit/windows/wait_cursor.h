@@ -1,4 +1,4 @@
-// Shows the wait cursor for as long as it lives.
+// Shows the wait cursor while it exists.
 #pragma once
 
 namespace trabeon {

@@ -148,7 +148,7 @@ TEST(AnalyseFolder, RefusesBeforeAnyFileChanges) {
     };
     test::expectTables(TABLES "/analysis/refusals.csv", {{"refusals", refused}});
     const auto settings = [](double Divisions, double places) {
-        const auto why = unfit({Divisions, places});
+        const auto why = checkSettings({Divisions, places});
         return why ? why->sentence : "";
     };
     for (const double wrong : {0.0, -1.0, 10.5, 10001.0, HUGE_VAL})

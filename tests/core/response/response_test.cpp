@@ -241,7 +241,7 @@ TEST(Response, RefusesLoadsThatLeaveTheirMemberAndValuesBeyondADouble) {
         rows.members.front().E = E;
         const auto beam = exactBeam(rows);
         const auto response = responseOf(beam.loaded());
-        const auto objection = unfitForResponse(beam.loaded());
+        const auto objection = checkResponseSettings(beam.loaded());
         EXPECT_EQ(objection.has_value(), !response);
         return response ? "" : response.refusal().sentence;
     };

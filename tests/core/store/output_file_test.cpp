@@ -47,8 +47,8 @@ TEST(OutputFile, ReplacesOnlyItsOwnKindAndNeverTheProject) {
                                                     {"folder", false, false},
                                                     {"pipe", false, false}}) {
         const auto file = folder / name;
-        const auto noDocument = unfitDocumentFile(file, project);
-        const auto noProject = unfitProjectFile(file);
+        const auto noDocument = checkDocumentFile(file, project);
+        const auto noProject = checkProjectFile(file);
         EXPECT_EQ(!noDocument, document) << name;
         EXPECT_EQ(!noProject, isProject) << name;
         for (const auto& failure : {noDocument, noProject})

@@ -1,3 +1,4 @@
+#include <grp.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
@@ -12,32 +13,19 @@
 
 #include "core/store/file_set.h"
 #include "core/store/folder_lock.h"
-#include "core/store/folder_record.h"
-#include "core/store/new_project.h"
-#include "core/store/project_file.h"
 #include "core/store/replacing_file.h"
-#include "core/store/row_editing.h"
 #include "core/store/rows.h"
 #include "core/store/working_files.h"
-#include "tests/support/full_disk.h"
 #include "tests/support/temporary_folder.h"
 
 namespace trabeon {
 namespace {
 
-using test::FullDisk;
 using test::TemporaryFolder;
 
-TEST(WorkingFiles, AreEmptiedCopiedAndDeletedWithoutAWord) {
+TEST(WorkingFiles, AreCopiedAndDeletedWithoutAWord) {
     const TemporaryFolder folder;
-    folder.write("Joint.txt", "1,Fixed,\"None\"\r\n");
     folder.write("DResult.txt", "kept");
-    EXPECT_TRUE(CreateNFile(folder.path()).done());
-    const std::map<std::string, std::string> emptied{
-        {"Joint.txt", ""}, {"Member.txt", ""}, {"Point.txt", ""},   {"Udl.txt", ""},
-        {"BM.txt", ""},    {"TB.txt", ""},     {"BeamDim.txt", ""}, {"DResult.txt", "kept"}};
-    EXPECT_EQ(folder.contents(), emptied);
-
     EXPECT_TRUE(DuplicateFile(folder / "DResult.txt", folder / "Joint.txt").done());
     EXPECT_EQ(folder.read("Joint.txt"), "kept");
     EXPECT_TRUE(DuplicateFile(folder / "none.txt", folder / "Joint.txt").failed());
@@ -72,62 +60,6 @@ TEST(Rows, DescriptionsComeBackAsOneFieldFromEveryWriter) {
     EXPECT_EQ(cut[1].E + cut[1].L, "200");
 }
 
-TEST(RowEditing, AddsBehindARowAndRemovesWithOrWithoutNewNumbers) {
-    const TemporaryFolder folder;
-    folder.write("Joint.txt", "");
-    const auto add = [&](std::size_t position, const JointRow& row) {
-        EXPECT_TRUE(addRow(folder.path(), position, row).done());
-        EXPECT_EQ(folder.read("Joint.txt"), folder.read("Joint.tmp"));
-        return folder.read("Joint.txt");
-    };
-    EXPECT_EQ(add(0, {" 1", "Fixed", "None"}), " 1,Fixed,\"None\"\r\n");
-    EXPECT_EQ(add(1, {" 2", "Continuous", "a, b"}),
-              "1,Fixed,\"None\"\r\n 2,Continuous,\"a, b\"\r\n");
-    EXPECT_EQ(add(1, {" 3", "Pin Jointed", "x"}),
-              "1,Fixed,\"None\"\r\n 3,Pin Jointed,\"x\"\r\n2,Continuous,\"a, b\"\r\n");
-    EXPECT_TRUE(removeRow<JointRow>(folder.path(), 4, Numbering::fromOne)
-                    .done());  // no such row: nothing changes
-    EXPECT_TRUE(removeRow<JointRow>(folder.path(), 1, Numbering::fromOne).done());
-    EXPECT_EQ(folder.read("Joint.txt"), " 1,Pin Jointed,\"x\"\r\n 2,Continuous,\"a, b\"\r\n");
-
-    folder.write("Point.txt", "2,1,5,\"None\"\r\n 1,0,3,\"x\"\r\n");
-    EXPECT_TRUE(removeRow<PointRow>(folder.path(), 1, Numbering::asRead).done());
-    EXPECT_EQ(folder.read("Point.txt"), "1,0,3,\"x\"\r\n");
-    EXPECT_TRUE(removeRow<PointRow>(folder.path(), 1, Numbering::asRead).done());
-    EXPECT_EQ(folder.read("Point.txt"), "");
-}
-
-TEST(RowEditing, AFailureLeavesTheUsersRows) {
-    const TemporaryFolder folder;
-    const std::string rows =
-        "1,Fixed,\"None\"\r\n2,Continuous,\"" + std::string(200, 'd') + "\"\r\n";
-    folder.write("Joint.txt", rows);
-    Status status;
-    {
-        const FullDisk disk(64);
-        status = addRow<JointRow>(folder.path(), 2, {" 3", "Fixed", "None"});
-    }
-    ASSERT_TRUE(status.failed());
-    EXPECT_NE(status.refusal().sentence.find("Joint.tmp\" could not be written (File too large)"),
-              std::string::npos)
-        << status.refusal().sentence;
-    EXPECT_EQ(folder.contents(), (std::map<std::string, std::string>{{"Joint.txt", rows}}));
-    folder.protect("Joint.txt");  // the scratch twin can be written, the file cannot
-    status = addRow<JointRow>(folder.path(), 1, {" 2", "Fixed", "None"});
-    ASSERT_TRUE(status.failed());
-    EXPECT_NE(status.refusal().sentence.find("Joint.txt\" is write-protected"), std::string::npos);
-    EXPECT_EQ(folder.read("Joint.txt"), rows);
-    std::filesystem::remove(folder / "Joint.txt");
-    for (const auto* reason :
-         {"Joint.txt\" is missing", "Joint.txt\" cannot be read (it is a folder"}) {
-        status = addRow<JointRow>(folder.path(), 0, {" 1", "Fixed", "None"});
-        ASSERT_TRUE(status.failed());
-        EXPECT_NE(status.refusal().sentence.find(reason), std::string::npos)
-            << status.refusal().sentence;
-        std::filesystem::create_directory(folder / "Joint.txt");
-    }
-}
-
 TEST(FileSet, ReplacesNoFileIfOneOfThemFails) {
     const TemporaryFolder folder;
     folder.write("BM.txt", "old");
@@ -139,6 +71,14 @@ TEST(FileSet, ReplacesNoFileIfOneOfThemFails) {
     ASSERT_TRUE(status.failed());
     EXPECT_NE(status.refusal().sentence.find("TB.txt\" is write-protected"), std::string::npos);
     EXPECT_EQ(folder.read("BM.txt"), "old");
+    folder.protect("TB.txt", false);
+    auto late = FileSet::begin(folder.path());
+    late.add("BM.txt").write("new");
+    late.add("TB.txt").write("new");
+    std::filesystem::remove(folder / "BM.txt");
+    std::filesystem::create_directory(folder / "BM.txt");  // when all are written
+    EXPECT_TRUE(late.commit().failed());
+    EXPECT_EQ(folder.read("TB.txt"), "");
 }
 
 const std::string token = ".0123456789abcdef.new";
@@ -262,6 +202,26 @@ int statusOf(const std::function<void()>& run) {
     return status;
 }
 
+TEST(ReplacingFile, AGroupThatCannotBeKeptGetsNoMoreRightsThanEverybody) {
+    if (geteuid() != 0)
+        GTEST_SKIP() << "needs another user";
+    const TemporaryFolder folder;
+    const auto file = folder / "a.TB";
+    folder.write("a.TB", "old");
+    ASSERT_EQ(chown(file.c_str(), 12345, 12345), 0);
+    ASSERT_EQ(chmod(file.c_str(), 0676), 0);
+    ASSERT_EQ(chmod(folder.path().c_str(), 0777), 0);
+    const auto status = statusOf([&] {
+        const bool other = setgroups(0, nullptr) == 0 && setgid(23456) == 0 && setuid(23456) == 0;
+        _exit(other && replaceFile(file, "new").done() ? 0 : 1);
+    });
+    EXPECT_EQ(status, 0);
+    struct stat written {};
+    ASSERT_EQ(stat(file.c_str(), &written), 0);
+    EXPECT_EQ(written.st_uid, 23456U);
+    EXPECT_EQ(written.st_mode & 0777U, 0666U);
+}
+
 TEST(Signals, RemoveWhatWasBeingWrittenAndWaitWhileASetTakesItsPlace) {
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         const TemporaryFolder folder;
@@ -325,29 +285,6 @@ TEST(FolderLock, IsHeldByOneAndFreeOnceItsProcessHasDied) {
     waitpid(child, nullptr, 0);
     EXPECT_TRUE(lock.take(folder.path(), 0s).done());
     EXPECT_TRUE(folder.contents().empty());
-}
-
-TEST(FolderRecord, KnowsWhichRowsExistNowhereElse) {
-    const TemporaryFolder folder;
-    const auto refused = [&] {
-        const auto objection = holdsOtherRows(folder.path());
-        return objection ? objection->sentence : "";
-    };
-    EXPECT_EQ(refused(), "");
-    folder.write("Udl.txt", "1,0,6,12,12,\"typed\"\r\n");
-    EXPECT_NE(refused().find("contains rows (Udl.txt)"), std::string::npos);
-    Project project;
-    project.joints = "1,Fixed,\"None\"\r\n";
-    project.beamDimensions = "1,1,300,500,450,30,460,200000,250,6\r\n";
-    ASSERT_TRUE(writeWorkingFiles(project, folder.path()).done());
-    EXPECT_EQ(refused(), "");
-    for (const auto* name : {"Joint.txt", "BeamDim.txt"}) {
-        const auto text = folder.read(name);
-        folder.write(name, text + "\r\n");
-        EXPECT_NE(refused(), "") << name;
-        folder.write(name, text);
-        EXPECT_EQ(refused(), "");
-    }
 }
 
 }  // namespace
