@@ -136,6 +136,16 @@ class Windows : public WalkTest {
             ASSERT_TRUE(analyseFolder(folder.path(), {10, 3}, {[](const Message&) {}}));
             forms().Show("frmBeamDimensions");
         };
+        // The controls beside the list that cover a part of it.
+        states["overlaps"] = [this](const std::string&) {
+            std::string names;
+            for (const auto* other : List().parentWidget()->findChildren<QWidget*>(
+                     QString(), Qt::FindDirectChildrenOnly))
+                if (other != &List() && other->isVisible() &&
+                    other->geometry().intersects(List().geometry()))
+                    names += other->metaObject()->className();
+            return names;
+        };
         states["failed"] = [this](const std::string&) {
             std::string rows;
             for (int i = 0; i < List().topLevelItemCount(); ++i) {

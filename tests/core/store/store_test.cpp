@@ -73,10 +73,11 @@ TEST(FileSet, ReplacesNoFileIfOneOfThemFails) {
     EXPECT_EQ(folder.read("BM.txt"), "old");
     folder.protect("TB.txt", false);
     auto late = FileSet::begin(folder.path());
-    late.add("BM.txt").write("new");
+    auto& first = late.add("BM.txt");
+    first.write("new");
+    const auto fresh = first.temporary().path();
     late.add("TB.txt").write("new");
-    std::filesystem::remove(folder / "BM.txt");
-    std::filesystem::create_directory(folder / "BM.txt");  // when all are written
+    std::filesystem::remove(fresh);  // which only a rename finds out
     EXPECT_TRUE(late.commit().failed());
     EXPECT_EQ(folder.read("TB.txt"), "");
 }
