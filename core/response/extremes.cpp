@@ -49,6 +49,7 @@ class Candidates {
     template <auto Curve, auto Slope>
     void collect(bool everyBreakpoint) {
         const auto& pieces = member_.pieces();
+        found_.reserve(4 * pieces.size());
         add(0, Side::after);
         for (std::size_t k = 0; k < pieces.size(); ++k) {
             const auto& piece = pieces[k];
