@@ -80,7 +80,7 @@ std::string reactionCheck(const Analysis& analysis, const std::vector<JointRespo
 
 std::string responseTables(const Analysis& analysis) {
     const auto loaded = analysis.loaded();
-    if (const auto objection = checkResponseSettings(loaded))
+    if (const auto objection = checkResponse(loaded))
         return "No reactions and deflections: " + objection->sentence + '\n';
     std::string text = "Extremes (exact), deflections (downward positive)\n" +
                        extremesTable(loaded) + "\nReactions (upward positive)\n" +

@@ -63,11 +63,6 @@ class ProgramTest : public testing::Test {
                              "\" is write-protected. Allow writing to it or choose another name; "
                              "nothing was changed.");
     }
-    /// From here on a rewrite of that file fails, and the next one says so.
-    void BlockWriting(const std::string& name) {
-        folder.protect(name);
-        ExpectUnwritten(name);
-    }
 
     QWidget& window() { return *program.window().Widget(); }
     QMenuBar& menuBar() { return *window().findChild<QMenuBar*>(); }

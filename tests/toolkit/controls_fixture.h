@@ -14,17 +14,6 @@
 
 namespace trabeon {
 
-// Counts how often a control is painted.
-class PaintCounter : public QObject {
-  public:
-    explicit PaintCounter(const Control& control) { control.Widget()->installEventFilter(this); }
-    bool eventFilter(QObject*, QEvent* event) override {
-        paints += event->type() == QEvent::Paint;
-        return false;
-    }
-    int paints = 0;
-};
-
 struct Nothing {};
 
 class frmBench : public Form {
