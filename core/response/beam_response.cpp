@@ -69,6 +69,15 @@ Objection checkResponse(const LoadedBeam& loaded) {
     return std::nullopt;
 }
 
+double totalLoad(const LoadedBeam& loaded) {
+    SettledSum total;
+    for (const auto& load : loaded.points.loads)
+        total.add(load.P);
+    for (const auto& load : loaded.udls.loads)
+        total.add(load.resultant(load.b));
+    return total.value();
+}
+
 Outcome<BeamResponse> responseOf(const LoadedBeam& loaded) {
     if (const auto objection = objectionTo(strayLoads(loaded)))
         return *objection;

@@ -29,6 +29,9 @@ struct JointResponse {
 /// normal form) or the member.
 [[nodiscard]] Objection checkResponse(const LoadedBeam& loaded);
 
+/// The sum of all loads, positive downward: the reactions add up to it.
+[[nodiscard]] double totalLoad(const LoadedBeam& loaded);
+
 /// All curves and joints of a beam.
 struct BeamResponse {
     std::vector<MemberResponse> members;  // the first one at index 0

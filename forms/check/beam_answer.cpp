@@ -1,8 +1,5 @@
 #include "forms/check/beam_answer.h"
 
-#include <numeric>
-
-#include "core/analysis/settled_sum.h"
 #include "core/analysis/stray_loads.h"
 #include "core/text/readable.h"
 
@@ -19,20 +16,15 @@ std::vector<std::string> typesOf(const std::vector<JointRow>& joints) {
 
 }  // namespace
 
-double BeamAnswer::totalLoad() const {
-    SettledSum total;
-    for (const auto& load : relaxed.points.loads)
-        total.add(load.P);
-    for (const auto& load : relaxed.udls.loads)
-        total.add(load.resultant(load.b));
-    return total.value();
-}
-
 Outcome<BeamAnswer> answerOf(const std::filesystem::path& folder) {
     if (const auto objection = missing(folder, inputFiles))
         return *objection;
-    BeamRows rows{readRows<JointRow>(folder), readRows<MemberRow>(folder),
-                  readRows<PointRow>(folder), readRows<UdlRow>(folder)};
+    const auto texts = readFiles(folder, inputFiles);
+    if (!texts)
+        return texts.refusal();
+    const auto& [joints, members, points, udls] = *texts;
+    BeamRows rows{rowsOf<JointRow>(joints), rowsOf<MemberRow>(members), rowsOf<PointRow>(points),
+                  rowsOf<UdlRow>(udls)};
     if (rows.joints.empty())
         return Refusal{"The beam has no joints yet. Enter its joints, members and loads."};
     const auto stray = objectionTo(strayLoads(rows));

@@ -14,9 +14,6 @@ struct BeamAnswer {
     RelaxedBeam relaxed;
     BeamResponse response;
     std::vector<std::string> jointTypes;  // as in the rows
-
-    /// The sum of all loads, positive downward.
-    [[nodiscard]] double totalLoad() const;
 };
 
 /// Analyses the rows in memory and writes nothing. Refuses a structure that breaks a rule, a value

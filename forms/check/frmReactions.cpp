@@ -13,6 +13,7 @@ namespace trabeon {
 namespace {
 
 constexpr int wide = 15000, high = 9300, leastWide = 9300, leastHigh = 5700;
+constexpr int frameWide = 120, frameHigh = 420;  // what the frame of a window takes
 constexpr int margin = 60;
 constexpr int bottomStrip = 495;
 constexpr double pictureShare = 0.58, jointsShare = 0.36;
@@ -79,8 +80,9 @@ frmReactions::frmReactions(Context& context)
 
 void frmReactions::Form_Load() {
     const auto& window = context_.forms.Window();
+    Move(0, 0, std::clamp(window.ScaleWidth(), leastWide + frameWide, wide + frameWide),
+         std::clamp(window.ScaleHeight(), leastHigh + frameHigh, high + frameHigh));
     SetSmallestScaleSize(leastWide, leastHigh);
-    Move(0, 0, std::min(wide, window.ScaleWidth()), std::min(high, window.ScaleHeight()));
     Refresh();
 }
 
@@ -127,8 +129,8 @@ void frmReactions::fillJoints() {
                            shown(joint.reaction), shown(joint.moment), shown(joint.rotation)});
         reactions.add(joint.reaction);
     }
-    addRow(lvwJoints,
-           {"Sum", "Loads " + shown(answer_->totalLoad()), "", shown(reactions.value())});
+    addRow(lvwJoints, {"Sum", "Loads " + shown(totalLoad(answer_->relaxed.loaded())), "",
+                       shown(reactions.value())});
 }
 
 void frmReactions::fillMembers() {
