@@ -64,19 +64,9 @@ std::string extremesTable(const LoadedBeam& loaded) {
     return text;
 }
 
-/// The sum of all loads, downward positive.
-double totalLoad(const Analysis& analysis) {
-    double total = 0;
-    for (const auto& load : analysis.points.loads)
-        total += load.P;
-    for (const auto& load : analysis.udls.loads)
-        total += load.resultant(load.b);
-    return total;
-}
-
 /// One line that compares the sum of the reactions with the sum of the loads.
 std::string reactionCheck(const Analysis& analysis, const std::vector<JointResponse>& joints) {
-    const double loads = totalLoad(analysis);
+    const double loads = totalLoad(analysis.loaded());
     double sum = 0, largest = std::fabs(loads);
     for (const auto& joint : joints) {
         sum += joint.reaction;
@@ -90,7 +80,7 @@ std::string reactionCheck(const Analysis& analysis, const std::vector<JointRespo
 
 std::string responseTables(const Analysis& analysis) {
     const auto loaded = analysis.loaded();
-    if (const auto objection = checkResponseSettings(loaded))
+    if (const auto objection = checkResponse(loaded))
         return "No reactions and deflections: " + objection->sentence + '\n';
     std::string text = "Extremes (exact), deflections (downward positive)\n" +
                        extremesTable(loaded) + "\nReactions (upward positive)\n" +

@@ -60,6 +60,7 @@ std::vector<std::string> columnNames(const std::vector<std::string>& files) {
     for (const auto& file : files)
         ++uses[nameOf(file)];
     std::vector<std::string> names;
+    names.reserve(files.size());
     for (const auto& file : files)
         names.push_back(uses[nameOf(file)] == 1 ? nameOf(file) : file);
     return names;
@@ -137,7 +138,7 @@ Objection checkSettings(const ExportSettings& settings, const std::optional<std:
         return objection;
     if (auto objection = checkDesignSettings(settings.analysis.Divisions, settings.misc))
         return objection;
-    return out ? unfitTableFile(*out, startsOfTables()) : Objection();
+    return out ? checkTableFile(*out, startsOfTables()) : Objection();
 }
 
 /// Of one project the rows are written as they are made.

@@ -44,8 +44,8 @@ Outcome<RelaxedBeam> beamWithResponse(const Project& project) {
         return messages.refusal();
     if (objection)
         return *objection;
-    if (const auto unfit = checkResponseSettings(beam->loaded()))
-        return *unfit;
+    if (const auto failure = checkResponse(beam->loaded()))
+        return *failure;
     return std::move(*beam);
 }
 

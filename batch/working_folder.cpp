@@ -22,7 +22,7 @@ Status enter(const fs::path& folder, FolderLock& lock) {
     std::error_code error;
     if (!fs::is_directory(folder, error))
         return Refusal{"\"" + folder.string() + "\" is not a folder."};
-    if (const auto status = lock.take(folder, patience); status.failed())
+    if (auto status = lock.take(folder, patience); status.failed())
         return status;
     finishSet(folder);
     return {};

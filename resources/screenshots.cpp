@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <unordered_map>
 
+#include "forms/check/frmReactions.h"
 #include "forms/design/frmBeamDesign.h"
 #include "forms/design/frmBeamDimensions.h"
 #include "forms/input/frmJoints.h"
@@ -147,6 +148,11 @@ void runFirstJob(Camera& camera) {
     camera.take("Continuous Bending Moment Diagram", "first-diagram");
     camera.takeAll("first-main");
     camera.forms().Unload(frmContinuousTB::Name);
+    auto& reactions = camera.show<frmReactions>();
+    reactions.SetScaleSize(10500, 6600);
+    reactions.lvwMembers.SetFocus();
+    camera.take("Reactions and Deflections", "window-reactions");
+    camera.forms().Unload(frmReactions::Name);
     camera.show<frmMisc>().txthagg.SetText("20");
     camera.take("Miscellaneous Properties", "window-misc");
     camera.forms().Get<frmMisc>().cmdOK.Press();

@@ -50,7 +50,7 @@ std::vector<JointResponse> jointResponses(const LoadedBeam& loaded) {
     return joints;
 }
 
-Objection checkSettings(const MemberResponse& curves, std::size_t member) {
+Objection checkCurves(const MemberResponse& curves, std::size_t member) {
     if (curves.isFinite())
         return std::nullopt;
     return Refusal{"Member " + std::to_string(member) +
@@ -58,15 +58,24 @@ Objection checkSettings(const MemberResponse& curves, std::size_t member) {
                    "units."};
 }
 
-Objection checkResponseSettings(const LoadedBeam& loaded) {
-    if (const auto objection = objectionTo(strayLoads(loaded)))
+Objection checkResponse(const LoadedBeam& loaded) {
+    if (auto objection = objectionTo(strayLoads(loaded)))
         return objection;
     const auto n = loaded.beam.members();
     for (std::size_t member = 1; member <= n; ++member)
         if (member == 1 || member == n || !isFarFromOverflow(loaded, member))
-            if (auto objection = checkSettings(MemberResponse(loaded, member), member))
+            if (auto objection = checkCurves(MemberResponse(loaded, member), member))
                 return objection;
     return std::nullopt;
+}
+
+double totalLoad(const LoadedBeam& loaded) {
+    SettledSum total;
+    for (const auto& load : loaded.points.loads)
+        total.add(load.P);
+    for (const auto& load : loaded.udls.loads)
+        total.add(load.resultant(load.b));
+    return total.value();
 }
 
 Outcome<BeamResponse> responseOf(const LoadedBeam& loaded) {
@@ -76,7 +85,7 @@ Outcome<BeamResponse> responseOf(const LoadedBeam& loaded) {
     response.members.reserve(loaded.beam.members());
     for (std::size_t member = 1; member <= loaded.beam.members(); ++member) {
         response.members.emplace_back(loaded, member);
-        if (const auto objection = checkSettings(response.members.back(), member))
+        if (const auto objection = checkCurves(response.members.back(), member))
             return *objection;
     }
     response.joints = jointResponses(loaded);

@@ -22,12 +22,15 @@ struct JointResponse {
 [[nodiscard]] std::vector<JointResponse> jointResponses(const LoadedBeam& loaded);
 
 /// Refuses curves of a member, from 1, with values beyond the range of a double.
-[[nodiscard]] Objection checkSettings(const MemberResponse& curves, std::size_t member);
+[[nodiscard]] Objection checkCurves(const MemberResponse& curves, std::size_t member);
 
 /// Refuses a beam that has no response: a load that leaves its member or has a negative width, or
 /// a curve with values beyond the range of a double. The refusal names the row (its place in the
 /// normal form) or the member.
-[[nodiscard]] Objection checkResponseSettings(const LoadedBeam& loaded);
+[[nodiscard]] Objection checkResponse(const LoadedBeam& loaded);
+
+/// The sum of all loads, positive downward: the reactions add up to it.
+[[nodiscard]] double totalLoad(const LoadedBeam& loaded);
 
 /// All curves and joints of a beam.
 struct BeamResponse {
@@ -35,7 +38,7 @@ struct BeamResponse {
     std::vector<JointResponse> joints;    // the first one at index 0
 };
 
-/// Refuses what checkResponseSettings() refuses.
+/// Refuses what checkResponse() refuses.
 [[nodiscard]] Outcome<BeamResponse> responseOf(const LoadedBeam& loaded);
 
 }  // namespace trabeon

@@ -10,23 +10,23 @@ namespace trabeon {
 namespace {
 
 /// Every local extreme of a curve is among these. The sign of the slope does not matter, only where
-/// it changes.
+/// it changes. Moment and shear have corners and jumps: there every breakpoint counts.
 class Candidates {
   public:
     Candidates(const MemberResponse& member, Quantity quantity)
         : member_(member), quantity_(quantity) {
         switch (quantity) {
             case Quantity::moment:
-                collect<&ResponsePiece::moment, &ResponsePiece::shear>();
+                collect<&ResponsePiece::moment, &ResponsePiece::shear>(true);
                 break;
             case Quantity::shear:
-                collect<&ResponsePiece::shear, &ResponsePiece::load>();
+                collect<&ResponsePiece::shear, &ResponsePiece::load>(true);
                 break;
             case Quantity::rotation:
-                collect<&ResponsePiece::rotation, &ResponsePiece::moment>();
+                collect<&ResponsePiece::rotation, &ResponsePiece::moment>(false);
                 break;
             case Quantity::deflection:
-                collect<&ResponsePiece::deflection, &ResponsePiece::rotation>();
+                collect<&ResponsePiece::deflection, &ResponsePiece::rotation>(false);
                 break;
         }
     }
@@ -47,18 +47,16 @@ class Candidates {
 
   private:
     template <auto Curve, auto Slope>
-    void collect() {
+    void collect(bool everyBreakpoint) {
         const auto& pieces = member_.pieces();
+        found_.reserve(4 * pieces.size());
         add(0, Side::after);
         for (std::size_t k = 0; k < pieces.size(); ++k) {
             const auto& piece = pieces[k];
-            if (k > 0) {
-                const auto& previous = pieces[k - 1];
-                const bool jumps = quantity_ == Quantity::shear && member_.forces()[k] != 0;
-                if (jumps)
-                    add(k, Side::before);
-                if (jumps || (previous.*Slope).last() * (piece.*Slope).first() <= 0)
-                    add(k, Side::after);
+            if (k > 0 &&
+                (everyBreakpoint || (pieces[k - 1].*Slope).last() * (piece.*Slope).first() <= 0)) {
+                add(k, Side::before);
+                add(k, Side::after);
             }
             for (const auto& place : rootsInside(piece.*Slope))
                 found_.push_back({clean((piece.*Curve).at(place)), xAt(piece, place)});

@@ -18,8 +18,8 @@ struct Extremes {
 /// equal extremes the leftmost counts.
 inline constexpr double equalExtremes = 1e-9;
 
-/// Of the whole member, both joints included. The places are the joints, the roots of the curve's
-/// slope, and the breakpoints where the slope or the curve jumps.
+/// Of the whole member, both joints included. The places are the joints and the roots of the
+/// curve's slope, and for moment and shear also the breakpoints.
 [[nodiscard]] Extremes extremesOf(const MemberResponse& member, Quantity quantity);
 
 /// The deflection of greatest magnitude, with its sign: at a root of the rotation, or at a joint.

@@ -45,7 +45,11 @@ std::vector<Change> changesOf(std::span<const PointLoad> points, std::span<const
 /// Goes along the member from change to change.
 class Sweep {
   public:
-    Sweep() { profile_.forces.push_back(0); }
+    explicit Sweep(std::size_t changes) {
+        profile_.stretches.reserve(changes + 1);
+        profile_.forces.reserve(changes + 2);
+        profile_.forces.push_back(0);
+    }
 
     /// Ends the stretch at this place.
     void advanceTo(const TwoDoubles& place) {
@@ -80,8 +84,9 @@ class Sweep {
 
 LoadProfile loadProfile(std::span<const PointLoad> points, std::span<const UdlLoad> udls,
                         double L) {
-    Sweep sweep;
-    for (const auto& change : changesOf(points, udls, L)) {
+    const auto changes = changesOf(points, udls, L);
+    Sweep sweep(changes.size());
+    for (const auto& change : changes) {
         sweep.advanceTo(change.place);
         sweep.take(change);
     }

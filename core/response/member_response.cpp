@@ -15,9 +15,9 @@ constexpr double roundingOfLength = 1e-12;  // of the member's length
 enum class Toward { right, left };
 
 /// How a curve follows from its slope: factor × slope, from a value at the end where it begins.
-/// `jumps` are what the curve gains at the breakpoints; a value below `dust` is 0.
+/// `jumps`, only toward the right, are what the curve gains at the left end of each piece.
 struct Integration {
-    double factor = 1, value = 0, dust = 0;
+    double factor = 1, value = 0;
     const std::vector<double>* jumps = nullptr;
 };
 
@@ -25,26 +25,20 @@ struct Integration {
 template <auto Slope, auto Curve>
 void integrate(std::vector<ResponsePiece>& pieces, Toward toward, const Integration& by) {
     TwoDoubles value{by.value, 0};
-    const auto settled = [&] {
-        if (std::fabs(value.value()) < by.dust)
-            value = {};
-        return value.value();
-    };
     const bool rightward = toward == Toward::right;
     for (std::size_t count = 0; count < pieces.size(); ++count) {
         const auto k = rightward ? count : pieces.size() - 1 - count;
         auto& piece = pieces[k];
         const auto& slope = piece.*Slope;
         if (by.jumps != nullptr)
-            value += rightward ? (*by.jumps)[k] : -(*by.jumps)[k + 1];
-        const double begin = settled();
+            value += (*by.jumps)[k];
         auto& curve = piece.*Curve;
-        curve = rightward ? slope.integralFrom(begin, by.factor, piece.width)
-                          : slope.integralTo(begin, by.factor, piece.width);
-        const double gain =
-            by.factor * piece.width * (slope.sum() / static_cast<double>(slope.c.size()));
+        curve = rightward ? slope.integralFrom(value.value(), by.factor, piece.width)
+                          : slope.integralTo(value.value(), by.factor, piece.width);
+        const double mean = slope.sum() / static_cast<double>(slope.c.size());
+        const double gain = by.factor * piece.width * mean;
         value += rightward ? gain : -gain;
-        (rightward ? curve.c.back() : curve.c.front()) = settled();
+        (rightward ? curve.c.back() : curve.c.front()) = value.value();
     }
 }
 
@@ -97,15 +91,12 @@ void MemberResponse::makePieces(const LoadedBeam& loaded, std::size_t member) {
     pieces_.back().end = L_;
 }
 
-/// From the free end if there is one, so that values near it have all their digits.
+/// From the left end. The values at the two ends are known, and replace the calculated ones.
 void MemberResponse::integrateForces() {
-    const bool leftward = ends_.held == Held::atLeftEnd;
-    const auto toward = leftward ? Toward::left : Toward::right;
-    const auto& begin = leftward ? ends_.right : ends_.left;
-    integrate<&ResponsePiece::load, &ResponsePiece::shear>(
-        pieces_, toward, {1, leftward ? begin.reaction : -begin.reaction, dust_.shear, &forces_});
-    integrate<&ResponsePiece::shear, &ResponsePiece::moment>(
-        pieces_, toward, {-1, begin.moment, dust_.moment, nullptr});
+    integrate<&ResponsePiece::load, &ResponsePiece::shear>(pieces_, Toward::right,
+                                                           {1, -ends_.left.reaction, &forces_});
+    integrate<&ResponsePiece::shear, &ResponsePiece::moment>(pieces_, Toward::right,
+                                                             {-1, ends_.left.moment});
     pieces_.front().shear.c.front() = clean(forces_.front() - ends_.left.reaction, dust_.shear);
     pieces_.front().moment.c.front() = ends_.left.moment;
     pieces_.back().shear.c.back() = clean(ends_.right.reaction - forces_.back(), dust_.shear);
@@ -118,12 +109,11 @@ void MemberResponse::integrateShape(double EI) {
     const bool leftward = ends_.held == Held::atRightEnd;
     const auto toward = leftward ? Toward::left : Toward::right;
     const double rotation = leftward ? ends_.right.rotation : ends_.left.rotation;
-    integrate<&ResponsePiece::moment, &ResponsePiece::rotation>(
-        pieces_, toward, {-1 / EI, rotation, dust_.rotation, nullptr});
+    integrate<&ResponsePiece::moment, &ResponsePiece::rotation>(pieces_, toward,
+                                                                {-1 / EI, rotation});
     if (ends_.held == Held::atBothEnds)
         pieces_.back().rotation.c.back() = ends_.right.rotation;
-    integrate<&ResponsePiece::rotation, &ResponsePiece::deflection>(
-        pieces_, toward, {1, 0, dust_.deflection, nullptr});
+    integrate<&ResponsePiece::rotation, &ResponsePiece::deflection>(pieces_, toward, {1, 0});
     if (ends_.held == Held::atBothEnds)
         pieces_.back().deflection.c.back() = 0;
 }

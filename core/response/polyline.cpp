@@ -46,9 +46,10 @@ std::vector<PolylinePoint> polylineOf(const MemberResponse& member, Quantity qua
     for (std::size_t k = 0; k < pieces.size(); ++k) {
         const auto& piece = pieces[k];
         const bool straight = isStraight(piece, quantity, member.dust(quantity));
-        const double parts = straight ? 1 : std::ceil(piece.width / spacing);
-        for (double part = 1; part < parts; ++part) {
-            const double x = piece.x + piece.width * (part / parts);
+        const auto parts =
+            straight ? 1 : static_cast<int>(std::min(std::ceil(piece.width / spacing), 1e6));
+        for (int part = 1; part < parts; ++part) {
+            const double x = piece.x + piece.width * part / parts;
             points.push_back({x, valueOf(member.at(x), quantity)});
         }
         addBreakpoint(k + 1);

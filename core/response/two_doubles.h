@@ -11,7 +11,9 @@ struct TwoDoubles {
     double high = 0, low = 0;
 
     [[nodiscard]] double value() const { return high + low; }
-    auto operator<=>(const TwoDoubles&) const = default;
+    [[nodiscard]] bool operator<(const TwoDoubles& other) const {
+        return high != other.high ? high < other.high : low < other.low;
+    }
 };
 
 /// a + b without a rounding error, by Knuth's algorithm.

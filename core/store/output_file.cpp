@@ -68,7 +68,7 @@ Objection checkProjectFile(const fs::path& file) {
     return taken(file, "project file");
 }
 
-Objection unfitTableFile(const fs::path& file, std::span<const std::string> starts) {
+Objection checkTableFile(const fs::path& file, std::span<const std::string> starts) {
     const auto folder = file.parent_path();
     if (isOwnFile(file, folder.empty() ? fs::path(".") : folder))
         return Refusal{"\"" + file.string() +

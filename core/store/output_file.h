@@ -21,7 +21,7 @@ namespace trabeon {
 /// Whether a table of results may be written to a file. Refuses a file with the name of a working
 /// file, and an existing file that is neither empty nor a table. A table begins with one of
 /// `starts`.
-[[nodiscard]] Objection unfitTableFile(const std::filesystem::path& file,
+[[nodiscard]] Objection checkTableFile(const std::filesystem::path& file,
                                        std::span<const std::string> starts);
 
 /// The folder for the result files of a project. It is next to the project and has its name without

@@ -155,6 +155,13 @@ std::string bareNumber(double value) {
     return text.substr(text.front() == ' ' ? 1 : 0);
 }
 
+std::string significantText(double value, int figures) {
+    std::array<char, 32> text{};
+    std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::scientific,
+                  figures - 1);
+    return bareNumber(leadingNumber(text.data()));
+}
+
 std::string printForm(double value) {
     return generatedText(value) + ' ';
 }

@@ -28,6 +28,10 @@ namespace trabeon {
 /// Generated number text without its blank: "3", "-1.5". The value must be finite.
 [[nodiscard]] std::string bareNumber(double value);
 
+/// The same of a value rounded to this many significant figures, from 1 to 15: 55.966 with four of
+/// them gives "55.97". The value must be finite.
+[[nodiscard]] std::string significantText(double value, int figures);
+
 /// Generated number text and one blank after it: " 3 ".
 [[nodiscard]] std::string printForm(double value);
 

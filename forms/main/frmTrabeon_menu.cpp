@@ -73,6 +73,8 @@ void frmTrabeon::addOtherMenus() {
     addShow(mnuTools, "Table of &Shear Resistance For Links", "frmShearResistance");
     auto mnuReport = window_.AddMenu("&Report");
     addShow(mnuReport, "&View Report...", "frmReport");
+    auto mnuCheck = window_.AddMenu("&Check");
+    addShow(mnuCheck, "Reactions and &Deflections...", "frmReactions");
     window_.AddWindowList("&Window");
     auto mnuHelp = window_.AddMenu("&Help");
     mnuHelp.Add("&Contents and Index", "F1", [this] { openPage("Contents and Index.htm"); });

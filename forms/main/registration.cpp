@@ -1,6 +1,7 @@
 #include "forms/main/registration.h"
 
 #include "core/analysis/analysis.h"
+#include "forms/check/frmReactions.h"
 #include "forms/design/frmBeamDesign.h"
 #include "forms/design/frmBeamDimensions.h"
 #include "forms/design/frmShearResistance.h"
@@ -56,6 +57,11 @@ void registerForms(Context& context) {
     context.forms.Register<frmBeamDesign>(context);
     context.forms.Register<frmSteelArea>(context);
     context.forms.Register<frmShearResistance>(context);
+    context.forms.Register<frmReactions>(context);
+    context.rowsChanged = [&forms = context.forms] {
+        if (auto* reactions = forms.Loaded<frmReactions>())
+            reactions->Refresh();
+    };
     context.refillLoads = [&forms = context.forms](const Analysis& analysis) {
         refillLoads(forms, analysis);
     };

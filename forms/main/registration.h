@@ -5,7 +5,8 @@
 
 namespace trabeon {
 
-/// Registers all forms except those of `report` and `output`. Sets `Context::refillLoads`.
+/// Registers all forms except those of `report` and `output`. Sets `Context::refillLoads` and
+/// `Context::rowsChanged`.
 void registerForms(Context& context);
 
 }  // namespace trabeon

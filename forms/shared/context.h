@@ -51,6 +51,8 @@ struct Context {
     CachedText stationsRemark{};
     // Shows the load rows in normal form after an analysis.
     std::function<void(const Analysis&)> refillLoads{};
+    // Calculates again what windows show of the rows. An editor calls it after it has written rows.
+    std::function<void()> rowsChanged{};
     // Pastes the clipboard's picture into the report. `report` sets it at the start of the program.
     std::function<void()> pasteIntoReport{};
 };

@@ -151,6 +151,8 @@ class RowEditor {
         }
         context_.dataChanged = 1;
         showSummary(context_);
+        if (context_.rowsChanged)
+            context_.rowsChanged();
         return true;
     }
 

@@ -97,8 +97,9 @@ TEST_F(Export, JoinsManyProjectsInTheirOrderAndGoesOnPastARefusedOne) {
                         "end at 2. A beam with such a load has no reactions and no deflections; "
                         "correct the row.\n";
         else
-            expected += cell + ",1,Fixed,0," + P + ",-" + std::to_string(6 * k) + ",0\r\n" + cell +
-                        ",2,Cantilever,2,0,0," + std::to_string(6 * k) + "\r\n";
+            for (const auto& row : {",1,Fixed,0," + P + ",-" + std::to_string(6 * k) + ",0\r\n",
+                                    ",2,Cantilever,2,0,0," + std::to_string(6 * k) + "\r\n"})
+                expected.append(cell).append(row);
     }
     words.emplace_back("reactions");
     auto answer = Run(words);

@@ -2,6 +2,7 @@
 #include <QLabel>
 #include <QTreeWidget>
 
+#include "forms/check/frmReactions.h"
 #include "forms/design/frmBeamDesign.h"
 #include "forms/design/frmBeamDimensions.h"
 #include "forms/design/frmShearResistance.h"
@@ -73,6 +74,7 @@ TEST_F(Layout, ControlsFollowTheWindowAndNoneCoversAnother) {
     ExpectAll<frmJoints, frmMembers, frmPoint, frmUDL, frmBeamDimensions, frmDiagram, frmAnalysis,
               frmContinuousS, frmMoment1, frmBMData, frmBeamDesign, frmSteelArea,
               frmShearResistance, frmTitle, frmOptions, frmMisc>();
+    ExpectTidy(forms().Get<frmReactions>());
 }
 
 TEST_F(Layout, TheColumnsOfATableFitItsWindow) {

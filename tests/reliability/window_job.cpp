@@ -6,6 +6,7 @@
 //
 // Each message is printed on a line. Behind a save the flag is printed: 1 while it is not done.
 #include <cstdio>
+#include <tuple>
 
 #include "core/store/temporary_file.h"
 #include "forms/design/frmBeamDimensions.h"
@@ -79,7 +80,7 @@ void job(frmTrabeon& program) {
     dimensions.txtBreadth.SetText("350");
     dimensions.cmdAdd.Press();
     dimensions.cmdDesign.Press();
-    forms.Get<frmSteelArea>();
+    std::ignore = forms.Get<frmSteelArea>();
     forms.Get<frmTitle>().txtProject.SetText("Changed");
     save(program);
     program.mnuNew_Click();

@@ -1,11 +1,11 @@
 // What every control of a form has: a place, a font, the focus and the keys.
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
 
+#include "toolkit/look/colour.h"
 #include "toolkit/look/placement.h"
 
 class QEvent;
@@ -13,9 +13,6 @@ class QKeyEvent;
 class QString;
 
 namespace trabeon {
-
-// 0xRRGGBB.
-using Colour = std::uint32_t;
 
 class Control : public Placement {
   public:

@@ -10,6 +10,18 @@
 
 namespace trabeon {
 
+namespace {
+
+/// The texts of a row as they are copied.
+QString LineOf(const QTreeWidgetItem& row, int columns) {
+    QStringList texts;
+    for (int column = 0; column < columns; ++column)
+        texts << row.text(column).trimmed();  // leading blanks are for the screen only
+    return texts.join('\t') + '\n';
+}
+
+}  // namespace
+
 ListView::ListView(Container& parent, const std::vector<ListColumn>& columns)
     : Control(new ListTree(*this, parent.Canvas())) {
     QStringList titles;
@@ -117,15 +129,11 @@ void ListView::SetWrapsTitles(bool wraps) {
 void ListView::Copy() const {
     const ListTree& tree = Inner();
     QStringList lines;
-    for (int i = 0; i < tree.topLevelItemCount(); ++i) {
-        const QTreeWidgetItem& row = *tree.topLevelItem(i);
-        if (!row.isSelected())
-            continue;
-        QStringList texts;
-        for (int column = 0; column < tree.columnCount(); ++column)
-            texts << row.text(column).trimmed();  // leading blanks are for the screen only
-        lines << texts.join('\t') + '\n';
-    }
+    for (int i = 0; i < tree.topLevelItemCount(); ++i)
+        if (const QTreeWidgetItem& row = *tree.topLevelItem(i); row.isSelected())
+            lines << LineOf(row, tree.columnCount());
+    if (!lines.isEmpty() && copiesTitles_)
+        lines.prepend(LineOf(*tree.headerItem(), tree.columnCount()));
     if (!lines.isEmpty())
         Outside::Current().PutText(lines.join("").toStdString());
 }

@@ -99,6 +99,8 @@ class ListView : public Control {
 
     /// Several rows can be selected. Ctrl+C copies them as lines of text separated by tabs.
     void SetMultiSelect(bool multi);
+    /// Whether the copied lines begin with one of the titles.
+    void SetCopiesTitles(bool copies) { copiesTitles_ = copies; }
     void SetGridLines(bool shown);
     /// Whether a title wider than its column continues on a second line.
     void SetWrapsTitles(bool wraps);
@@ -120,6 +122,7 @@ class ListView : public Control {
     int sortKey_ = 0;
     ListSortOrder sortOrder_ = ListSortOrder::Rising;
     bool sorted_ = false;
+    bool copiesTitles_ = false;
     mutable bool upToDate_ = true;
     bool pressed_ = false;
 };

@@ -1,8 +1,9 @@
 // How all windows look: style, palette, fonts.
 #pragma once
 
-#include <cstdint>
 #include <string>
+
+#include "toolkit/look/colour.h"
 
 class QFont;
 
@@ -10,9 +11,6 @@ namespace trabeon {
 
 /// Sets style, palette and font for all windows. Call it once, after the application is made.
 void ApplyLook();
-
-/// The colour of a selection, 0xRRGGBB.
-inline constexpr std::uint32_t HighlightColour = 0x0a64ad;
 
 /// The font with this name. If the system does not have it, a font with the same widths.
 [[nodiscard]] QFont FontNamed(const std::string& name, double points, bool bold);

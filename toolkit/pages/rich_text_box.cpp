@@ -101,7 +101,7 @@ void RichTextBox::Paste() {
         return;
     QTextCursor cursor = Inner().textCursor();
     cursor.clearSelection();
-    InsertPicture(cursor, PictureFrom(picture, ++taken_));
+    InsertPicture(cursor, PictureFrom(picture, ++lastNumber_));
     Inner().setTextCursor(cursor);
     Inner().ensureCursorVisible();
 }
@@ -114,7 +114,7 @@ void RichTextBox::Append(const Pictures& pictures) {
     QTextCursor cursor(Inner().document());
     cursor.movePosition(QTextCursor::End);
     for (PictureInText picture : pictures) {
-        picture.number = ++taken_;
+        picture.number = ++lastNumber_;
         InsertPicture(cursor, picture);
     }
     Inner().setTextCursor(cursor);

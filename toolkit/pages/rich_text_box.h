@@ -72,7 +72,7 @@ class RichTextBox : public Control {
     Edit& Inner() const;
     const PageLayout& Layout(const TwipsRect& area);
 
-    int taken_ = 0;  // the number of the last picture that came in
+    int lastNumber_ = 0;  // the number of the last picture that came in
     std::unique_ptr<PageLayout> layout_;
     TwipsRect laidOutFor_;
 };

@@ -32,7 +32,7 @@ class Forms {
 
     /// The form. Loads it if it is not loaded.
     template <class F>
-    [[nodiscard]] F& Get() {
+    F& Get() {
         return static_cast<F&>(Load(F::Name));
     }
     /// The form, for reading. If this loads it, its window does not come up.

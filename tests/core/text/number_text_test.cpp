@@ -35,6 +35,8 @@ TEST(Numbers, AgreeWithTheirTables) {
         {{"leadingNumber", [](const Row& row) { return Cells{leadingNumber(row[0])}; }},
          {"numberOfWholeText", wholeNumber},
          {"generatedText", [](const Row& row) { return Cells{generatedText(row(0))}; }},
+         {"significantText",
+          [](const Row& row) { return Cells{significantText(row(0), static_cast<int>(row(1)))}; }},
          {"threeFigures", [](const Row& row) { return Cells{threeFigures(row(0))}; }},
          {"putSignedThreeFigures", column(putSignedThreeFigures)},
          {"putPercent", column(putPercent)},
