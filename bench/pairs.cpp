@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
@@ -44,7 +45,8 @@ Measure runOnce(const Command& command) {
 
 double quantile(std::vector<double> values, double part) {
     std::sort(values.begin(), values.end());
-    return values[static_cast<std::size_t>(part * static_cast<double>(values.size() - 1) + 0.5)];
+    return values[static_cast<std::size_t>(
+        std::lround(part * static_cast<double>(values.size() - 1)))];
 }
 
 void compare(int pairs, const Command& a, const Command& b, const Command* before) {

@@ -52,6 +52,17 @@ class Titles : public QHeaderView {
     }
 
   protected:
+    void paintEvent(QPaintEvent* event) override {
+        QHeaderView::paintEvent(event);
+        QRect rest = viewport()->rect();
+        if (orientation() == Qt::Horizontal)
+            rest.setLeft(length() - offset());
+        else
+            rest.setTop(length() - offset());
+        if (rest.isValid())
+            QPainter(viewport()).fillRect(rest, palette().base());
+    }
+
     void paintSection(QPainter* painter, const QRect& place, int section) const override {
         painter->fillRect(place, palette().base());
         painter->setPen(palette().color(QPalette::Text));
