@@ -1,4 +1,4 @@
-// The loads above the beam. Point loads stand on the bands.
+// The loads above the beam. Point loads are on top of the bands.
 #include <algorithm>
 #include <cmath>
 
@@ -91,7 +91,7 @@ class Loads {
                     addLoadArrow(x, base_, heightOf(band, w), w, pen);
     }
 
-    /// An arrow that stands at y, or hangs there if the load is upward.
+    /// An arrow down to y, or up from y if the load is upward.
     void addLoadArrow(double x, double y, double height, double load, const Pen& pen) const {
         addArrow(stage_.drawing, {x, load > 0 ? y - height : y}, {x, load > 0 ? y : y - height},
                  pen);
@@ -100,7 +100,7 @@ class Loads {
     [[nodiscard]] double heightOf(const SketchForce& force) const {
         return std::max(leastArrow, std::fabs(force.P) * forceScale_);
     }
-    /// The place on top of the bands where the arrow of a point load stands.
+    /// The place on top of the bands where the arrow of a point load ends.
     [[nodiscard]] DrawnPoint footOf(const SketchForce& force) const {
         const double x = stage_.place(force.x);
         return {x, tops_.topBetween(x, x) - 1};

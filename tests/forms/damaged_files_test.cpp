@@ -1,6 +1,6 @@
 // Damaged project files through File > Open of the real window: each is refused with the line, or
 // is opened and analysed, and every fifth of those designed and shown in every form.
-// TRABEON_MUTATIONS tells how many (1000).
+// TRABEON_MUTATIONS sets how many (1000).
 #include <array>
 #include <cstdlib>
 #include <random>
@@ -17,7 +17,7 @@ using namespace std::string_literals;
 
 namespace {
 
-/// Opens the file that it is told, saves nothing, and keeps what is said.
+/// Opens the file that it is given, saves nothing, and keeps what is said.
 class Opener : public ScriptedOutside {
   public:
     std::string file, said;
@@ -39,18 +39,20 @@ std::string damaged(std::string text, unsigned seed) {
                                    "\"",   "\r",    "\n", "T", "\r\n",  "BEAM\r\n"};
     std::mt19937 random(seed);
     const auto below = [&](std::size_t end) { return end == 0 ? 0 : random() % end; };
-    const auto behind = [&](std::size_t from, const char* ends) {
+    const auto placeAfter = [&](std::size_t from, const char* ends) {
         return std::min(text.find_first_of(ends, from), text.size() - 1) + 1;
     };
     for (auto times = 1 + below(3); times > 0 && !text.empty(); --times) {
-        const auto line = behind(below(text.size()), "\n");
-        const auto other = text.substr(line, behind(line, "\n") - line);
-        const auto at = below(text.size()), field = behind(at, ",\n"), row = behind(at, "\n");
+        const auto line = placeAfter(below(text.size()), "\n");
+        const auto other = text.substr(line, placeAfter(line, "\n") - line);
+        const auto at = below(text.size()), field = placeAfter(at, ",\n"),
+                   row = placeAfter(at, "\n");
         const std::size_t begins[] = {at, field, field, row};
         const auto begin = begins[below(4)];
         const auto value = std::min(text.find_first_of(",\r", begin), text.size());
-        const std::size_t ends[] = {value, value, value, value, behind(begin, "\n"), text.size()};
-        const auto end = begin == row ? behind(row, "\n") : ends[below(6)];
+        const std::size_t ends[] = {value,      value, value, value, placeAfter(begin, "\n"),
+                                    text.size()};
+        const auto end = begin == row ? placeAfter(row, "\n") : ends[below(6)];
         const std::string scrap = scraps[below(scraps.size())];
         text.replace(begin, end - begin, begin != row ? scrap : below(2) == 0 ? other : "");
         text.insert(begin, below(100) == 0 ? 20'000 : 0, '\0');
@@ -111,7 +113,7 @@ TEST_F(DamagedFiles, ProjectsAreRefusedWithTheLineOrOpenedAndUsed) {
     EXPECT_GT(std::min(refused, opened), count / 5);
 }
 
-// A working file changes behind the program's back, with forms open and before others read it.
+// A working file changes unknown to the program, with forms open and before others read it.
 TEST_F(DamagedFiles, ScrambledWorkingFilesAreSurvivedByEveryForm) {
     Opener opener;
     const auto whole = opener.file = example(1);

@@ -32,7 +32,7 @@ class PrintOptions : public ProgramTest {
         Click(forms().Get<frmAnalysis>().cmdAnalyse);
     }
 
-    /// Words that stand in a PDF's bare parts, as its page objects.
+    /// Words in the uncompressed parts of a PDF, such as its page objects.
     static int Count(const std::string& text, const std::string& words) {
         int count = 0;
         for (auto at = text.find(words); at != std::string::npos; at = text.find(words, at + 1))

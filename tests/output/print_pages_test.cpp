@@ -25,7 +25,7 @@ PrintSource source(std::size_t jointRows, const std::string& balanceTable = "") 
 
 using Texts = std::vector<std::string>;
 
-/// The texts of each page; every line must stand below the one before it, from the corner on.
+/// The texts of each page; every line must be below the one before it, from the corner on.
 std::vector<Texts> printed(const std::vector<PrintedPage>& pages) {
     std::vector<Texts> all;
     for (const auto& page : pages) {

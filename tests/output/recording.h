@@ -1,4 +1,4 @@
-// A word processor that writes down what it is told, a line a call, and chart forms that do so too.
+// A word processor that records its calls, a line for each, and chart forms that do so too.
 #pragma once
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// What the two word processors are told, call by call: each case is a file of the expected calls.
+// The calls to the two word processors: each case is a file of the expected calls.
 #include <gtest/gtest.h>
 
 #include <ostream>

@@ -1,6 +1,6 @@
 // Loaded in front of a program, stops it at a chosen step of its work on the files of one folder.
 // A step is a call that opens, writes, closes, renames or removes a file there; the middle of a
-// write is a step of its own. What happens is told by the environment:
+// write is a step of its own. The environment says what happens:
 //
 //   FAULT_FOLDER  the folder's path, as the program has it
 //   FAULT_KIND    kill, term: the process gets SIGKILL or SIGTERM at step FAULT_AT

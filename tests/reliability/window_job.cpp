@@ -1,7 +1,7 @@
 // A whole job in the real windows, without a person: a project is opened, every row file changed,
 // the beam analysed and designed, the project saved, a new one begun, the program left.
 //
-//   window_job FOLDER         does that; "Example.TB" stands there, "Job.TB" is saved there
+//   window_job FOLDER         does that; "Example.TB" is there, "Job.TB" is saved there
 //   window_job FOLDER start   starts and leaves
 //
 // Each message is printed on a line. Behind a save the flag is printed: 1 while it is not done.
@@ -24,7 +24,7 @@ namespace {
 
 using namespace trabeon;
 
-/// The real desktop, but for whoever sits there.
+/// The real desktop, with answers in place of a user.
 class Person : public Desktop {
   public:
     explicit Person(std::string folder) : folder_(std::move(folder)) {}

@@ -1,4 +1,4 @@
-// Pages as numbers: where they begin, how many there are, where on the sheet the text stands.
+// Pages as numbers: where they begin, how many there are, where the text is on the sheet.
 #include "report/pages.h"
 #include "tests/report/report_fixture.h"
 #include "tests/support/full_disk.h"

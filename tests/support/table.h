@@ -1,6 +1,6 @@
-// Tables in files beside the tests. A heading in brackets names what is calculated; below it stands
+// Tables in files beside the tests. A heading in brackets names what is calculated; below it comes
 // a row a line: first what goes in, then what must come out, cells apart by commas. A cell in
-// double quotes is taken as it stands, a number may be a fraction, and a '#' begins a remark.
+// double quotes is taken as it is, a number may be a fraction, and a '#' begins a remark.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -47,7 +47,7 @@ class Row {
     }
 
   private:
-    /// Takes the cell that begins at a place and gives the place of the comma behind it.
+    /// Takes the cell that begins at a place and gives the place of the comma after it.
     std::size_t readCell(const std::string& line, std::size_t at) {
         const auto first = std::min(line.find_first_not_of(' ', at), line.size());
         const bool quoted = first < line.size() && line[first] == '"';

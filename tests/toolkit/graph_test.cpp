@@ -61,7 +61,7 @@ TEST_F(DrawTest, LabelsTellTheGreatestAndTheLeastValueAndTheirPlace) {
     EXPECT_EQ(Labels(), "|");
     Plot({{0, 12.5}, {3, 0}, {4, -7.25}, {6, 1}});
     EXPECT_EQ(Labels(), "12.5 at 0|-7.25 at 4");
-    graph.SetValueFactor(-1);  // drawn upside down, the true values stand there
+    graph.SetValueFactor(-1);  // drawn upside down, the labels show the true values
     Plot({{0, -12.5}, {4, 7.25}, {6, 0}});
     EXPECT_EQ(Labels(), "12.5 at 0|-7.25 at 4");
     Plot({{0, 0}, {6, -0.0}});

@@ -18,7 +18,7 @@ namespace {
 constexpr int DotsPerMetre = 3780;  // 96 an inch
 constexpr double Tolerance = 0.5;   // 1/96 inch: the rounding of the layout
 
-// All pages are laid out for this device, whatever they are drawn on.
+// All pages are laid out for this device, on screen and on paper.
 QImage& Device() {
     static QImage device = [] {
         QImage made(1, 1, QImage::Format_RGB32);

@@ -39,12 +39,12 @@ TEST(Beams, AgreeWithTheTablesByHand) {
           }},
          {"station",
           [=](const Row& row) {
-              const auto told = analysed(beam(row), {row(2), 3});
-              return std::vector<Cell>{rowOf(*told.analysis, 1, static_cast<std::size_t>(row(3)))};
+              const auto found = analysed(beam(row), {row(2), 3});
+              return std::vector<Cell>{rowOf(*found.analysis, 1, static_cast<std::size_t>(row(3)))};
           }},
          {"maximum", [=](const Row& row) {
-              const auto told = analysed(beam(row), {row(2), row(3)});
-              const auto& [x, forces] = told->maxima.at(static_cast<std::size_t>(row(4)) - 1);
+              const auto found = analysed(beam(row), {row(2), row(3)});
+              const auto& [x, forces] = found->maxima.at(static_cast<std::size_t>(row(4)) - 1);
               return std::vector<Cell>{printForm(x) + ',' + threeFigures(forces.moment) + ',' +
                                        threeFigures(forces.shear)};
           }}});
@@ -71,19 +71,19 @@ TEST(Beams, HaveTheMomentsOfTheForceMethodAndTheStationsOfTheInfluenceLines) {
     Dice dice;
     for (int number = 0; number < 400 && !testing::Test::HasFailure(); ++number) {
         SCOPED_TRACE("random beam " + std::to_string(number));
-        const auto told = analysed(randomBeam(dice), {7, 3});
-        const auto exact = jointMoments(*told.analysis);
-        for (std::size_t i = 1; i <= told->beam.members(); ++i) {
-            const double L = told->beam.Length[i];
-            const double left = told->Final[2 * i - 1], right = -told->Final[2 * i];
-            EXPECT_NEAR(left, exact[i - 1], allowed(told->beam)) << "left end of " << i;
-            EXPECT_NEAR(right, exact[i], allowed(told->beam)) << "right end of " << i;
+        const auto found = analysed(randomBeam(dice), {7, 3});
+        const auto exact = jointMoments(*found.analysis);
+        for (std::size_t i = 1; i <= found->beam.members(); ++i) {
+            const double L = found->beam.Length[i];
+            const double left = found->Final[2 * i - 1], right = -found->Final[2 * i];
+            EXPECT_NEAR(left, exact[i - 1], allowed(found->beam)) << "left end of " << i;
+            EXPECT_NEAR(right, exact[i], allowed(found->beam)) << "right end of " << i;
             int k = 0;
-            for (const auto& [x, got] : told->stationsOf(i)) {
+            for (const auto& [x, got] : found->stationsOf(i)) {
                 EXPECT_NEAR(x, L * k++ / 7, 1e-12 * L);
                 double moment = left + (right - left) * x / L, shear = (left - right) / L;
                 double size = std::fabs(left) + std::fabs(right);
-                for (const auto& [s, F] : forcesOn(*told.analysis, i, x)) {
+                for (const auto& [s, F] : forcesOn(*found.analysis, i, x)) {
                     moment += F * (s < x ? s * (L - x) : x * (L - s)) / L;
                     shear += F * (s < x ? s : s - L) / L;
                     size += std::fabs(F) * L;
@@ -108,11 +108,11 @@ void copyFiles(const fs::path& from, const TemporaryFolder& to) {
         fs::copy_file(entry, to / entry.path().filename(), fs::copy_options::overwrite_existing);
 }
 
-/// The messages of an analysis of a folder, one behind the other.
+/// The messages of an analysis of a folder, one after the other.
 std::string messagesOf(const TemporaryFolder& folder, const AnalysisSettings& settings = {}) {
     std::string messages;
-    const auto told = [&](const Message& message) { messages += message.text; };
-    const bool done = analyseFolder(folder.path(), settings, {told}).has_value();
+    const auto found = [&](const Message& message) { messages += message.text; };
+    const bool done = analyseFolder(folder.path(), settings, {found}).has_value();
     EXPECT_EQ(done, messages.empty());
     return messages;
 }

@@ -1,4 +1,4 @@
-// Beams from a line of text, beams at random, and what their analysis tells.
+// Beams from a line of text, beams at random, and what their analysis gives.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -35,7 +35,7 @@ inline BeamRows beamOf(const std::string& line, const std::string& loads) {
     return rows;
 }
 
-/// An analysis and all that it told on the way.
+/// An analysis and all its outputs.
 struct Analysed {
     std::vector<std::string> messages;
     std::vector<double> progress;
@@ -46,13 +46,13 @@ struct Analysed {
 };
 
 inline Analysed analysed(const BeamRows& rows, const AnalysisSettings& settings = {}) {
-    Analysed told;
-    told.analysis = analyse(
+    Analysed found;
+    found.analysis = analyse(
         rows, settings,
-        [&](const TableRow& row) { told.table.emplace_back(row.cells.begin(), row.cells.end()); },
-        {[&](const Message& message) { told.messages.push_back(message.text); },
-         [&](double value) { told.progress.push_back(value); }});
-    return told;
+        [&](const TableRow& row) { found.table.emplace_back(row.cells.begin(), row.cells.end()); },
+        {[&](const Message& message) { found.messages.push_back(message.text); },
+         [&](double value) { found.progress.push_back(value); }});
+    return found;
 }
 
 /// Numbers that are the same with every standard library.
@@ -67,12 +67,12 @@ class Dice {
     std::mt19937 engine_{20};
 };
 
-/// Any beam that can stand.
+/// Any beam that the rules accept.
 inline BeamRows randomBeam(Dice& dice) {
     const auto text = [](double value) { return std::to_string(value); };
     const char* ends[] = {"Fixed", "Pin Jointed", "Cantilever"};
     const auto n = 1 + dice.upTo(11), left = dice.upTo(2);
-    const auto right = dice.upTo(std::min<std::size_t>(2, n + 1 - left));  // what still stands
+    const auto right = dice.upTo(std::min<std::size_t>(2, n + 1 - left));  // what is still stable
     BeamRows rows;
     rows.joints.push_back({"", ends[left], ""});
     for (std::size_t i = 1; i <= n; ++i) {

@@ -10,12 +10,12 @@ TEST(StrayLoads, AreNamedFromTheirThresholdOn) {
     test::expectTables(
         TABLES "/analysis/stray_loads.csv",
         {{"stray", [](const test::Row& row) {
-              std::string told;
+              std::string found;
               for (const auto& load : strayLoads(beamOf("pin 6 continuous 0.3 pin", row[0])))
-                  told += (told.empty() ? "" : "/") + std::string(load.kind) + ' ' +
-                          std::to_string(load.row) + " on " + std::to_string(load.member) + ": " +
-                          load.what;
-              return std::vector<test::Cell>{told};
+                  found += (found.empty() ? "" : "/") + std::string(load.kind) + ' ' +
+                           std::to_string(load.row) + " on " + std::to_string(load.member) + ": " +
+                           load.what;
+              return std::vector<test::Cell>{found};
           }}});
 }
 

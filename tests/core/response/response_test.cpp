@@ -194,19 +194,19 @@ TEST(Response, KeepsTheLawsOfBeamsOnRandomOnes) {
 TEST(Response, AgreesWithTheStationsOfTheAnalysis) {
     Dice dice;
     for (int number = 0; number < 100; ++number) {
-        const auto told = analysed(randomBeam(dice), {20, 3});
+        const auto found = analysed(randomBeam(dice), {20, 3});
         // Exactly, although the moments are only within the tolerance.
-        const auto joints = jointResponses(told->loaded());
+        const auto joints = jointResponses(found->loaded());
         for (std::size_t j = 1; j <= joints.size(); ++j) {
-            const auto type = told->beam.SupportType[j];
+            const auto type = found->beam.SupportType[j];
             EXPECT_TRUE(type != Joint::fixed || joints[j - 1].rotation == 0);
             EXPECT_TRUE(type != Joint::cantilever || joints[j - 1].reaction == 0);
             EXPECT_TRUE(type == Joint::fixed || joints[j - 1].moment == 0);
         }
-        for (std::size_t i = 1; i <= told->beam.members(); ++i) {
-            const MemberResponse member(told->loaded(), i);
+        for (std::size_t i = 1; i <= found->beam.members(); ++i) {
+            const MemberResponse member(found->loaded(), i);
             const double force = member.ends().largestForce + 1;
-            for (const auto& [x, forces] : told->stationsOf(i)) {
+            for (const auto& [x, forces] : found->stationsOf(i)) {
                 EXPECT_NEAR(member.at(x).moment, forces.moment, 1e-11 * force * member.length());
                 EXPECT_NEAR(member.at(x).shear, forces.shear, 1e-11 * force);
             }

@@ -49,11 +49,11 @@ TEST(StationReader, WalksByPositionWhateverTheHeadingsSay) {
 TEST(StationReader, EndsWhereTheFileDoesOrNoLongerFits) {
     const auto upTo = [](std::size_t end) { return twoMembers.substr(0, end); };
     EXPECT_EQ(walk("", 2).size() + walk("Span 1 \r\n", 2).size() + walk(twoMembers, 0).size(), 0);
-    EXPECT_EQ(walk(twoMembers, 1).size(), 1);  // a row stands where a heading should
-    EXPECT_EQ(walk(twoMembers, 3).size(), 2);  // a heading stands where a row should
+    EXPECT_EQ(walk(twoMembers, 1).size(), 1);  // a row in the place of a heading
+    EXPECT_EQ(walk(twoMembers, 3).size(), 2);  // a heading in the place of a row
     EXPECT_EQ(walk(upTo(twoMembers.rfind(',')), 2).size(), 3);
     EXPECT_EQ(walk(upTo(twoMembers.rfind("9.00E+00") + 8), 2).size(), 3);
-    EXPECT_EQ(walk("9,1,2,3\r\n", 1).size(), 0);  // no heading, whatever may be read behind it
+    EXPECT_EQ(walk("9,1,2,3\r\n", 1).size(), 0);  // no heading, so nothing after it is read
     EXPECT_EQ(walk("Span 1 \r\n1,2,3,4\r\n1,2,3\r\n", 2).size(), 0);
 }
 

@@ -193,7 +193,7 @@ int statusOf(const std::function<void()>& run) {
     const pid_t child = fork();
     if (child == 0) {
         for (const int signal : {SIGTERM, SIGINT, SIGHUP})
-            std::signal(signal, SIG_DFL);  // whoever started the tests may ignore them
+            std::signal(signal, SIG_DFL);  // the caller of the tests may ignore them
         prepareSignals();
         run();
         _exit(0);
