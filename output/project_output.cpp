@@ -33,7 +33,7 @@ void writeTable(const FileTable& file, OutputWriter& writer, const std::string& 
 Status writeBalanceTable(const OutputSource& source, OutputWriter& writer) {
     const int columns = balanceTableColumns(readRows<JointRow>(source.folder).size());
     const auto table = readWhole(source.folder / working_file::balanceTable);
-    if (const auto status =
+    if (auto status =
             replaceFile(source.folder / balanceTableScratch, balanceTableFields(table, columns));
         status.failed())
         return status;
