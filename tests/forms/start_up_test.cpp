@@ -26,7 +26,7 @@ TEST_F(StartUp, OpensTheManualAndEmptiesTheSevenFiles) {
     EXPECT_EQ(caption(), "Trabeon - Untitled");
     EXPECT_EQ(context().dataChanged, 0);
     const auto middle = program.window().Left() + program.window().Width() / 2;
-    EXPECT_NEAR(middle, MdiWindow::ScreenWidth() / 2, 2 * TwipsPerPixel);
+    EXPECT_NEAR(middle, MdiWindow::ScreenWidth() / 2.0, 2 * TwipsPerPixel);
     outside.ExpectDocument((folder / "Example1.htm").string(), false);  // no browser: nothing shows
     Choose("&Help|&Example");
     outside.ExpectDocument((folder / "Contents and Index.htm").string());

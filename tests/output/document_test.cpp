@@ -4,6 +4,7 @@
 
 #include <QBuffer>
 #include <QXmlStreamReader>
+#include <cmath>
 
 #include "output/docx_writer.h"
 #include "output/lotus_document.h"
@@ -38,7 +39,7 @@ std::vector<std::string> outline(const Document& document) {
             const auto& paragraph = std::get<Paragraph>(block);
             line = textOf(paragraph.runs);
             for (const auto& picture : paragraph.pictures)
-                line += "<" + std::to_string(static_cast<int>(picture.left + 0.5)) + ">";
+                line += "<" + std::to_string(std::lround(picture.left)) + ">";
         }
         if (!line.empty())
             lines.push_back(line);

@@ -81,7 +81,7 @@ template <class Function>
 Function* next(Function*, const char* name) {
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
-#define NEXT(function) next(&function, #function)
+#define NEXT(function) next(&(function), #function)
 
 int opened(decltype(&::open) open, const char* path, int flags, mode_t mode) {
     const bool creates = within(path) && (flags & O_CREAT) != 0;

@@ -21,7 +21,7 @@ SpanKind kindOf(double number) {
 
 Cells lineOf(const std::string& text, double number) {
     std::size_t at = 0;
-    for (; number > 1; --number)
+    for (auto line = static_cast<int>(number); line > 1; --line)
         at = text.find("\r\n", at) + 2;
     return {text.substr(at, text.find("\r\n", at) - at)};
 }
