@@ -44,12 +44,12 @@ Outcome<RelaxedBeam> beamWithResponse(const Project& project) {
         return messages.refusal();
     if (objection)
         return *objection;
-    if (const auto failure = checkResponse(beam->loaded()))
-        return *failure;
+    if (const auto objection = checkResponse(beam->loaded()))
+        return *objection;
     return std::move(*beam);
 }
 
-/// Relaxes twice: a relaxation that does not settle must not leave rows behind.
+/// Relaxes twice: a relaxation that does not converge must not write rows.
 Status addRelaxation(TableRows& rows, const Project& project, const ExportSettings&,
                      Warnings& warnings) {
     auto beamRows = beamRowsOf(project);
