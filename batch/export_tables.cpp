@@ -44,8 +44,8 @@ Outcome<RelaxedBeam> beamWithResponse(const Project& project) {
         return messages.refusal();
     if (objection)
         return *objection;
-    if (const auto objection = checkResponse(beam->loaded()))
-        return *objection;
+    if (const auto beyond = checkResponse(beam->loaded()))
+        return *beyond;
     return std::move(*beam);
 }
 
